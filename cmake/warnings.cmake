@@ -1,0 +1,6 @@
+# Warnings are errors everywhere: a cross-built program meets no other reader of its warnings.
+if(MSVC)
+  add_compile_options(/W4 /WX /utf-8 /permissive- /EHsc)
+else()
+  add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Wconversion -Werror)
+endif()

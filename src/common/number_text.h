@@ -1,0 +1,27 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace common {
+
+/// The number that a text stands for. Accepted: blanks and tabs around; one sign in front or a minus
+/// behind; "$"; parentheses for a negative; digits with "," anywhere in the integer part; a "." ;
+/// an exponent. Raises error 13 on any other text, error 6 beyond the range of a double.
+double toNumber(std::string_view text);
+
+/// As toNumber, with nothing in the place of either error.
+std::optional<double> tryNumber(std::string_view text);
+
+/// The shortest general text of a finite number: at most 15 significant digits, correctly rounded,
+/// an exponent ("1E+15", "3.33333333333333E-06") only where fixed notation needs more than 15 digits
+/// in front of the point or behind it. Zero of either sign is "0".
+std::string toText(double value);
+
+/// A number that is not written plainly (exponent, "$", parentheses, a minus behind, blanks around, no digit in
+/// front of its point) written plainly: sign in front, the digits and commas as they are, a digit in
+/// front of the point. Text written plainly already comes back as it is. Raises as toNumber does.
+std::string toPlainText(std::string_view text);
+
+}  // namespace common

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <exception>
+#include <string>
+#include <string_view>
+
+namespace common {
+
+/// The numbers of the run-time errors that the program raises.
+enum ErrorNumber : int {
+  kInvalidProcedureCall = 5,
+  kOverflow = 6,
+  kDivisionByZero = 11,
+  kTypeMismatch = 13,
+};
+
+/// An error met while a handler computes: it ends the handler, whose trap reports it.
+class RunTimeError : public std::exception {
+ public:
+  explicit RunTimeError(int number) : number_(number) {}
+  int number() const { return number_; }
+  const char* what() const noexcept override { return "run-time error"; }
+
+ private:
+  int number_;
+};
+
+/// The standard description of a run-time error, such as "Type mismatch" for 13.
+std::string_view standardDescription(int number);
+
+/// The line that both windows report: "Error:13 Type mismatch".
+std::string errorText(int number);
+
+/// Runs `body`; a run-time error ends it and goes to `report`. False when there was one.
+template <class Body, class Reporter>
+bool trap(Body&& body, Reporter&& report) {
+  try {
+    body();
+    return true;
+  } catch (const RunTimeError& error) {
+    report(error);
+    return false;
+  }
+}
+
+}  // namespace common

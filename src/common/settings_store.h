@@ -1,0 +1,34 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace common {
+
+/// The per-user settings of one application: text values addressed by section and key.
+class SettingsStore {
+ public:
+  virtual ~SettingsStore() = default;
+
+  virtual std::optional<std::string> read(std::string_view section, std::string_view key) const = 0;
+  virtual void write(std::string_view section, std::string_view key, std::string_view text) = 0;
+};
+
+/// The stored number; `fallback` when the key is absent or its text is no number.
+double readNumber(const SettingsStore& store, std::string_view section, std::string_view key,
+                  double fallback);
+
+/// The stored truth value: True and False as words, any number other than 0 is true; `fallback` when
+/// the key is absent or its text is neither.
+bool readTruth(const SettingsStore& store, std::string_view section, std::string_view key,
+               bool fallback);
+
+/// The stored text; `fallback` when the key is absent.
+std::string readText(const SettingsStore& store, std::string_view section, std::string_view key,
+                     std::string_view fallback);
+
+/// "True" or "False", whatever the language of the system.
+std::string_view truthText(bool value);
+
+}  // namespace common
