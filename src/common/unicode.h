@@ -1,0 +1,12 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace common {
+
+/// UTF-8 as UTF-16 and back. What is not well-formed becomes the replacement character.
+std::u16string toUtf16(std::string_view text);
+std::string toUtf8(std::u16string_view text);
+
+}  // namespace common

@@ -1,0 +1,101 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+#include <utility>
+
+#include "controls/color.h"
+#include "controls/keys.h"
+#include "controls/layout.h"
+
+namespace controls {
+
+class Window;
+
+/// A part of a window: what is common to labels, boxes and buttons. It is built from its layout and
+/// lives as long as its window. The state lives here; the implementations show it.
+class Control {
+ public:
+  Control(Window& window, const ControlLayout& layout);
+  virtual ~Control() = default;
+  Control(const Control&) = delete;
+  Control& operator=(const Control&) = delete;
+
+  const std::string& name() const { return name_; }
+  const ControlLayout& layout() const { return layout_; }
+  ControlKind kind() const { return layout_.kind; }
+  Window& window() const { return window_; }
+
+  /// With its "&" in front of the access key.
+  const std::string& caption() const { return caption_; }
+  void setCaption(std::string_view caption);
+  const std::string& toolTip() const { return toolTip_; }
+  bool visible() const { return visible_; }
+  void setVisible(bool visible);
+  bool enabled() const { return enabled_; }
+  void setEnabled(bool enabled);
+  /// In twips, within the client area of the window.
+  const Rect& bounds() const { return bounds_; }
+  void setBounds(const Rect& bounds);
+  void setWidth(Twips width);
+  void setHeight(Twips height);
+  Color backColor() const { return backColor_; }
+  void setBackColor(Color color);
+
+  /// The capital letter behind the "&" of the caption, 0 without one.
+  char accessKey() const;
+  /// Whether the focus can be given to it now: not a label or frame, visible and enabled.
+  bool takesFocus() const;
+  /// Whether it has the focus of the program now.
+  bool focused() const;
+  /// Moves the focus here, with the events of a move. In a window that is not in front the control
+  /// gets the focus when the window is next brought there.
+  void setFocus();
+
+  std::function<void()> onGotFocus;
+  std::function<void()> onLostFocus;
+  std::function<void()> onDblClick;
+  /// The character of a key stroke, before it takes effect; setting it to 0 discards it.
+  std::function<void(KeyAscii&)> onKeyPress;
+  std::function<void(KeyCode)> onKeyUp;
+
+  /// Raises KeyPress. What comes back is the character to be acted on, 0 for none.
+  KeyAscii keyPress(KeyAscii character);
+  void keyUp(KeyCode key);
+  void doubleClick();
+  /// A character typed while it has the focus: KeyPress, and what the character then does here.
+  virtual void typeCharacter(KeyAscii character) { keyPress(character); }
+
+ protected:
+  friend class Window;
+
+  /// Runs a handler as one event of the program; a handler that is not there is no event.
+  template <class Handler, class... Arguments>
+  void raise(const Handler& handler, Arguments&&... arguments) {
+    if (handler) runEvent([&] { handler(std::forward<Arguments>(arguments)...); });
+  }
+  void runEvent(const std::function<void()>& body);
+
+  /// What a screen needs to do when a property has changed. In memory there is nothing to do.
+  virtual void showCaption() {}
+  virtual void showVisible() {}
+  virtual void showEnabled() {}
+  virtual void showBounds() {}
+  virtual void showBackColor() {}
+
+ private:
+  void leaveWhenUnable();
+
+  Window& window_;
+  ControlLayout layout_;
+  std::string name_;
+  std::string caption_;
+  std::string toolTip_;
+  Rect bounds_;
+  Color backColor_;
+  bool visible_ = true;
+  bool enabled_ = true;
+};
+
+}  // namespace controls

@@ -1,0 +1,92 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "common/settings_store.h"
+#include "controls/event_loop.h"
+#include "controls/window.h"
+
+namespace controls {
+
+enum class Buttons { Ok, YesNo };
+enum class Icon { None, Question };
+
+/// The answers of a message box, as they are also stored.
+inline constexpr int kAnswerOk = 1;
+inline constexpr int kAnswerYes = 6;
+inline constexpr int kAnswerNo = 7;
+
+/// A message box. Without a title of its own it carries the application's.
+struct MessageBox {
+  std::string text;
+  Buttons buttons = Buttons::Ok;
+  Icon icon = Icon::None;
+  std::string title = "Tallyrex";
+};
+
+/// A request to the help viewer. The contents are command 3, a topic is command 1 with its number.
+struct HelpRequest {
+  enum class Caller { WinHelp, CommonDialog };
+  Caller caller = Caller::WinHelp;
+  std::string file;
+  int command = 3;
+  int data = 0;
+};
+
+/// A value under the machine's registry root: a text, or a double word.
+using RegistryValue = std::string;
+
+/// Everything that the program asks of the system: one function a thing. There is one for the
+/// program, and it outlives its windows.
+class Desktop {
+ public:
+  virtual ~Desktop() = default;
+
+  EventLoop& events() { return events_; }
+
+  /// Makes a window, hidden, with the controls of the layout.
+  virtual std::unique_ptr<Window> createWindow(const WindowLayout& layout) = 0;
+  /// Shows a message box and waits for its answer: kAnswerOk, or kAnswerYes or kAnswerNo.
+  virtual int showMessage(const MessageBox& box) = 0;
+  virtual void beep() = 0;
+
+  /// The clipboard's text; nothing when it holds none or cannot be had.
+  virtual std::optional<std::string> clipboardText() = 0;
+  /// False when another program does not let go of the clipboard.
+  virtual bool setClipboardText(std::string_view text) = 0;
+
+  /// Starts a program in a normal window with the focus. False when it cannot be started.
+  virtual bool startProgram(const std::string& program) = 0;
+  /// Starts a program, brings its new window to the front and pastes the clipboard into it. False
+  /// when any of this fails; no key stroke has been sent to anything else then.
+  virtual bool startProgramAndPaste(const std::string& program) = 0;
+
+  virtual void showHelp(const HelpRequest& request) = 0;
+  /// The colour that the user picks; nothing on Cancel.
+  virtual std::optional<std::uint32_t> chooseColor() = 0;
+
+  /// The settings of the application, under the name of its executable file.
+  virtual common::SettingsStore& settings() = 0;
+  /// A text value under the machine's registry root, a number in its decimal text.
+  virtual std::optional<RegistryValue> registryValue(std::string_view key,
+                                                     std::string_view name) = 0;
+  virtual bool fileExists(const std::string& path) = 0;
+  /// The folder that the program runs from; only a drive's root ends in a backslash.
+  virtual std::string programFolder() = 0;
+  /// The name of the executable file without its extension.
+  virtual std::string programName() = 0;
+
+  /// The window in front, which has the focus; none while the program shows none.
+  Window* activeWindow() const { return activeWindow_; }
+
+ private:
+  friend class Window;
+  Window* activeWindow_ = nullptr;
+  EventLoop events_;
+};
+
+}  // namespace controls

@@ -1,0 +1,37 @@
+#pragma once
+
+namespace controls {
+
+/// The code of a key, as the system numbers them; letters and digits are their capital characters.
+using KeyCode = int;
+
+/// The character of a key stroke, by reference in a KeyPress handler; 0 discards the character.
+using KeyAscii = int;
+
+inline constexpr KeyCode kKeyBackspace = 8;
+inline constexpr KeyCode kKeyTab = 9;
+inline constexpr KeyCode kKeyEnter = 13;
+inline constexpr KeyCode kKeyEscape = 27;
+inline constexpr KeyCode kKeySpace = 32;
+inline constexpr KeyCode kKeyEnd = 35;
+inline constexpr KeyCode kKeyHome = 36;
+inline constexpr KeyCode kKeyLeft = 37;
+inline constexpr KeyCode kKeyUp = 38;
+inline constexpr KeyCode kKeyRight = 39;
+inline constexpr KeyCode kKeyDown = 40;
+inline constexpr KeyCode kKeyDelete = 46;
+
+/// The keys that only move the caret: End, Home and the arrows.
+constexpr bool isNavigationKey(KeyCode key) {
+  return key >= kKeyEnd && key <= kKeyDown;
+}
+
+/// A key going down, with the modifiers held.
+struct KeyStroke {
+  KeyCode key = 0;
+  bool shift = false;
+  bool control = false;
+  bool alt = false;
+};
+
+}  // namespace controls

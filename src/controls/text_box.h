@@ -1,0 +1,91 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+
+#include "controls/control.h"
+
+namespace controls {
+
+enum class ChangedBy { Program, User };
+
+/// A box with a text, a caret and a selection. Places in the text are counted in characters from 0;
+/// text is UTF-8, and a character beyond the basic plane counts as two, as the system counts it.
+/// The functions that are not virtual hold the rules; an implementation keeps the text and the
+/// selection.
+class TextBox : public Control {
+ public:
+  TextBox(Window& window, const ControlLayout& layout);
+
+  /// Raised when the text was assigned, or when an edit has changed it; tells whose doing it was.
+  std::function<void(ChangedBy)> onChange;
+  /// A text about to be pasted by the user; the handler may change it, or empty it to discard it. A
+  /// one-line box without a handler takes the text up to its first line break.
+  std::function<void(std::string&)> onPaste;
+  /// The mouse button goes down in the box; it has come up, and what the mouse did to the text is
+  /// done.
+  std::function<void()> onMouseDown;
+  std::function<void()> onMouseUp;
+
+  std::string text() const { return loadText(); }
+  /// Puts the caret at 0 with nothing selected; always raises Change.
+  void setText(std::string_view text);
+  /// Puts text behind the text, with the caret behind it and the last line in view; raises Change.
+  /// Costs the same however long the text is.
+  void append(std::string_view text);
+  /// In characters.
+  int length() const { return loadLength(); }
+
+  int selStart() const { return loadSelection().start; }
+  int selLength() const { return loadSelection().length; }
+  /// Places the caret; drops the selection.
+  void setSelStart(int start);
+  void setSelLength(int length);
+  /// Start and length are kept within the text.
+  void select(int start, int length);
+  void selectAll() { select(0, length()); }
+  void moveCaretToEnd() { setSelStart(length()); }
+  std::string selectedText() const;
+  /// What stays when the selection is replaced by nothing.
+  std::string textWithoutSelection() const;
+
+  /// A user's edits. Each raises Change once when it changes the text, and leaves the caret behind
+  /// what it put there.
+  void replaceSelection(std::string_view text);
+  void backspace();
+  void deleteForward();
+  /// Asks onPaste, then replaces the selection.
+  void paste(std::string text);
+
+  Alignment alignment() const { return alignment_; }
+  void setAlignment(Alignment alignment);
+
+  void mouseDown() { raise(onMouseDown); }
+  void mouseUp() { raise(onMouseUp); }
+
+ protected:
+  struct Selection {
+    int start = 0;
+    int length = 0;
+  };
+
+  virtual std::string loadText() const = 0;
+  virtual int loadLength() const = 0;
+  virtual std::string loadPart(int start, int length) const = 0;
+  virtual Selection loadSelection() const = 0;
+  /// None of these raises an event.
+  virtual void storeText(std::string_view text) = 0;
+  virtual void storeAppended(std::string_view text) = 0;
+  virtual void storeSelection(int start, int length) = 0;
+  virtual void storePart(int start, int length, std::string_view text) = 0;
+  virtual void showAlignment() {}
+
+  /// For an implementation whose control edits by itself: reports an edit of the user's.
+  void raiseEdited() { raise(onChange, ChangedBy::User); }
+
+ private:
+  Alignment alignment_;
+};
+
+}  // namespace controls

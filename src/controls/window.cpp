@@ -1,0 +1,166 @@
+#include "controls/window.h"
+
+#include <cassert>
+
+#include "controls/desktop.h"
+
+namespace controls {
+
+Window::Window(Desktop& desktop, const WindowLayout& layout)
+    : desktop_(desktop),
+      layout_(layout),
+      name_(layout.name),
+      caption_(layout.caption),
+      bounds_(layout.place) {}
+
+Window::~Window() {
+  if (desktop_.activeWindow_ == this) desktop_.activeWindow_ = nullptr;
+}
+
+void Window::build() {
+  for (const ControlLayout& control : layout_.controls) controls_.push_back(makeControl(control));
+  std::vector<MenuItem*> menus;
+  for (const MenuItemLayout& item : layout_.menu) {
+    menus.resize(static_cast<std::size_t>(item.level));
+    menuItems_.push_back(makeMenuItem(item, menus.empty() ? nullptr : menus.back()));
+    menus.push_back(menuItems_.back().get());
+  }
+}
+
+void Window::setCaption(std::string_view caption) {
+  caption_ = caption;
+  showCaption();
+}
+
+void Window::setBounds(const Rect& bounds) {
+  if (bounds_ == bounds) return;
+  const Rect before = bounds_;
+  bounds_ = bounds;
+  showBounds();
+  raiseResizeIfSized(before);
+}
+
+void Window::setLeft(Twips left) {
+  setBounds({left, bounds_.top, bounds_.width, bounds_.height});
+}
+
+void Window::setTop(Twips top) {
+  setBounds({bounds_.left, top, bounds_.width, bounds_.height});
+}
+
+void Window::setWidth(Twips width) {
+  setBounds({bounds_.left, bounds_.top, width, bounds_.height});
+}
+
+void Window::setHeight(Twips height) {
+  setBounds({bounds_.left, bounds_.top, bounds_.width, height});
+}
+
+void Window::raiseResizeIfSized(const Rect& before) {
+  const bool sized = bounds_.width != before.width || bounds_.height != before.height;
+  if (shownOnce_ && sized && onResize) desktop_.events().runEvent(onResize);
+}
+
+void Window::show() {
+  if (!shownOnce_) {
+    shownOnce_ = true;
+    if (onResize) desktop_.events().runEvent(onResize);
+  }
+  if (!visible_) {
+    visible_ = true;
+    showVisible();
+  }
+  bringToFront();
+}
+
+void Window::hide() {
+  if (!visible_) return;
+  visible_ = false;
+  showVisible();
+}
+
+void Window::setEnabled(bool enabled) {
+  enabled_ = enabled;
+  showEnabled();
+}
+
+void Window::setState(WindowState state) {
+  if (state_ == state) return;
+  state_ = state;
+  showState();
+}
+
+void Window::setOnTop(bool onTop) {
+  onTop_ = onTop;
+  showOnTop();
+}
+
+void Window::requestClose() {
+  if (enabled_ && onClose) desktop_.events().runEvent(onClose);
+}
+
+Control* Window::findControl(std::string_view name) const {
+  for (const auto& control : controls_)
+    if (control->name() == name) return control.get();
+  return nullptr;
+}
+
+MenuItem* Window::findMenuItem(std::string_view name) const {
+  for (const auto& item : menuItems_)
+    if (item->name() == name) return item.get();
+  return nullptr;
+}
+
+Control& Window::control(std::string_view name) const {
+  Control* control = findControl(name);
+  assert(control);
+  return *control;
+}
+
+TextBox& Window::textBox(std::string_view name) const {
+  return dynamic_cast<TextBox&>(control(name));
+}
+
+Button& Window::button(std::string_view name) const {
+  return dynamic_cast<Button&>(control(name));
+}
+
+ToggleButton& Window::toggleButton(std::string_view name) const {
+  return dynamic_cast<ToggleButton&>(control(name));
+}
+
+OptionButton& Window::optionButton(std::string_view name) const {
+  return dynamic_cast<OptionButton&>(control(name));
+}
+
+MenuItem& Window::menuItem(std::string_view name) const {
+  MenuItem* item = findMenuItem(name);
+  assert(item);
+  return *item;
+}
+
+void Window::noteBounds(const Rect& bounds) {
+  if (bounds_ == bounds) return;
+  const Rect before = bounds_;
+  bounds_ = bounds;
+  raiseResizeIfSized(before);
+}
+
+void Window::noteState(WindowState state) {
+  state_ = state;
+}
+
+void Window::noteActivated() {
+  if (desktop_.activeWindow_ == this) return;
+  if (!focusedControl_) moveFocus(true);
+  Window* before = desktop_.activeWindow_;
+  desktop_.events().runEvent([&] {
+    if (before && before->focusedControl_)
+      before->focusedControl_->raise(before->focusedControl_->onLostFocus);
+    desktop_.activeWindow_ = this;
+    if (focusedControl_) focusedControl_->raise(focusedControl_->onGotFocus);
+    if (onActivate) onActivate();
+  });
+}
+
+}  // namespace controls

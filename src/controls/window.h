@@ -1,0 +1,146 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "controls/buttons.h"
+#include "controls/control.h"
+#include "controls/menu.h"
+#include "controls/text_box.h"
+
+namespace controls {
+
+class Desktop;
+
+enum class WindowState { Normal, Minimized, Maximized };
+
+/// A window with the controls and the menu of its layout. It is made hidden; a window in front is
+/// the one that the user's keys go to. The rules live here; an implementation shows the window and
+/// tells what the user did to it.
+class Window {
+ public:
+  virtual ~Window();
+  Window(const Window&) = delete;
+  Window& operator=(const Window&) = delete;
+
+  /// The size has really changed, or the window is about to be shown for the first time.
+  std::function<void()> onResize;
+  /// The window has come to the front.
+  std::function<void()> onActivate;
+  /// The user closes the window; the program unloads it.
+  std::function<void()> onClose;
+
+  const WindowLayout& layout() const { return layout_; }
+  Desktop& desktop() const { return desktop_; }
+  const std::string& name() const { return name_; }
+  const std::string& caption() const { return caption_; }
+  void setCaption(std::string_view caption);
+
+  /// Left and top are the place of the real frame on the screen; width and height are the client
+  /// area and the classic frame around it (kFrameWidth, kFrameHeight). Twips are kept to the digit
+  /// while nobody moves the window. Of a minimized window: where it stands when it is restored.
+  const Rect& bounds() const { return bounds_; }
+  void setBounds(const Rect& bounds);
+  void setLeft(Twips left);
+  void setTop(Twips top);
+  void setWidth(Twips width);
+  void setHeight(Twips height);
+
+  bool visible() const { return visible_; }
+  /// Shows the window and brings it to the front. The first time: a resize event, then it is
+  /// activated, then its first control has the focus.
+  void show();
+  void hide();
+  /// A disabled window takes no input; a dialog in front of it does this.
+  bool enabled() const { return enabled_; }
+  void setEnabled(bool enabled);
+  WindowState state() const { return state_; }
+  void setState(WindowState state);
+  bool onTop() const { return onTop_; }
+  /// The system's switch between topmost and normal, which moves the window to 0,0 and shrinks it
+  /// to nothing; the caller puts it back.
+  void setOnTop(bool onTop);
+  /// What the user does with the close box.
+  void requestClose();
+
+  Control* findControl(std::string_view name) const;
+  MenuItem* findMenuItem(std::string_view name) const;
+  /// The control of that name and kind; a name that the layout lacks is a broken program.
+  TextBox& textBox(std::string_view name) const;
+  Button& button(std::string_view name) const;
+  ToggleButton& toggleButton(std::string_view name) const;
+  OptionButton& optionButton(std::string_view name) const;
+  Control& control(std::string_view name) const;
+  MenuItem& menuItem(std::string_view name) const;
+
+  const std::vector<std::unique_ptr<Control>>& controls() const { return controls_; }
+  const std::vector<std::unique_ptr<MenuItem>>& menuItems() const { return menuItems_; }
+
+  /// The control that has the focus, or gets it when the window comes to the front.
+  Control* focusedControl() const { return focusedControl_; }
+  /// Moves the focus to the next or the previous control in tab order, as the Tab key does; of a
+  /// group of option buttons the chosen one.
+  void moveFocus(bool forward);
+  /// A key stroke that the window takes before a control sees it: a menu's shortcut, Tab, an access
+  /// key, Escape for the cancel button, arrows among option buttons. False when a control is to
+  /// have it.
+  bool takeKey(const KeyStroke& stroke);
+  /// A key stroke sent by the program: it takes the way of a real one, once the running handler has
+  /// ended. `character` is 0 for a key without one.
+  void sendKey(KeyCode key, KeyAscii character);
+
+  /// For the implementation: the user has moved, sized, minimized or activated the window.
+  void noteBounds(const Rect& bounds);
+  void noteState(WindowState state);
+  void noteActivated();
+  /// Gives the focus to `control` with the events of a move; of a window in the background it just
+  /// keeps it.
+  void focusControl(Control& control);
+
+ protected:
+  Window(Desktop& desktop, const WindowLayout& layout);
+
+  /// Makes the controls and the menu items of the layout.
+  void build();
+  virtual std::unique_ptr<Control> makeControl(const ControlLayout& layout) = 0;
+  virtual std::unique_ptr<MenuItem> makeMenuItem(const MenuItemLayout& layout,
+                                                 MenuItem* parent) = 0;
+
+  virtual void showCaption() {}
+  virtual void showBounds() {}
+  virtual void showVisible() {}
+  virtual void showEnabled() {}
+  virtual void showState() {}
+  virtual void showOnTop() {}
+  /// Brings the window to the front. The implementation tells noteActivated.
+  virtual void bringToFront() = 0;
+  /// Puts the keyboard's focus on a control of the window in front.
+  virtual void showFocus(Control&) {}
+
+ private:
+  std::vector<Control*> tabOrder() const;
+  bool isTabStop(const Control& control) const;
+  bool takeShortcut(const KeyStroke& stroke);
+  bool takeAccessKey(char letter);
+  bool takeArrow(const KeyStroke& stroke);
+  void raiseResizeIfSized(const Rect& before);
+
+  Desktop& desktop_;
+  WindowLayout layout_;
+  std::string name_;
+  std::string caption_;
+  Rect bounds_;
+  std::vector<std::unique_ptr<Control>> controls_;
+  std::vector<std::unique_ptr<MenuItem>> menuItems_;
+  Control* focusedControl_ = nullptr;
+  WindowState state_ = WindowState::Normal;
+  bool visible_ = false;
+  bool shownOnce_ = false;
+  bool enabled_ = true;
+  bool onTop_ = false;
+};
+
+}  // namespace controls

@@ -1,0 +1,125 @@
+#include <algorithm>
+#include <cctype>
+
+#include "controls/desktop.h"
+#include "controls/window.h"
+
+namespace controls {
+
+void Window::focusControl(Control& control) {
+  if (focusedControl_ == &control || !control.takesFocus()) return;
+  Control* before = focusedControl_;
+  focusedControl_ = &control;
+  if (desktop_.activeWindow_ != this) return;
+  showFocus(control);
+  desktop_.events().runEvent([&] {
+    if (before) before->raise(before->onLostFocus);
+    // The handler may have sent the focus on already.
+    if (focusedControl_ == &control) control.raise(control.onGotFocus);
+  });
+}
+
+bool Window::isTabStop(const Control& control) const {
+  if (!control.takesFocus()) return false;
+  const auto* option = dynamic_cast<const OptionButton*>(&control);
+  if (!option || option->value()) return true;
+  // A group without a chosen button is entered at its first one.
+  for (const auto& other : controls_) {
+    const auto* sibling = dynamic_cast<const OptionButton*>(other.get());
+    if (!sibling || sibling->layout().optionGroup != control.layout().optionGroup) continue;
+    if (sibling->value()) return false;
+  }
+  return true;
+}
+
+std::vector<Control*> Window::tabOrder() const {
+  std::vector<Control*> order;
+  for (const auto& control : controls_) order.push_back(control.get());
+  std::stable_sort(order.begin(), order.end(), [](const Control* a, const Control* b) {
+    return a->layout().tabIndex < b->layout().tabIndex;
+  });
+  return order;
+}
+
+void Window::moveFocus(bool forward) {
+  std::vector<Control*> order = tabOrder();
+  if (!forward) std::reverse(order.begin(), order.end());
+  const auto here = std::find(order.begin(), order.end(), focusedControl_);
+  if (here != order.end()) std::rotate(order.begin(), here + 1, order.end());
+  const auto next = std::find_if(order.begin(), order.end(),
+                                 [this](const Control* control) { return isTabStop(*control); });
+  if (next != order.end()) focusControl(**next);
+}
+
+bool Window::takeKey(const KeyStroke& stroke) {
+  if (stroke.alt) return takeAccessKey(static_cast<char>(stroke.key));
+  if (takeShortcut(stroke)) return true;
+  if (stroke.key == kKeyTab && !stroke.control) {
+    moveFocus(!stroke.shift);
+    return true;
+  }
+  if (stroke.key == kKeyEscape) {
+    for (const auto& control : controls_) {
+      if (!control->layout().cancel) continue;
+      dynamic_cast<ClickControl&>(*control).click();
+      return true;
+    }
+  }
+  return takeArrow(stroke);
+}
+
+bool Window::takeShortcut(const KeyStroke& stroke) {
+  for (const auto& item : menuItems_) {
+    if (!item->hasShortcut(stroke)) continue;
+    item->choose();
+    return true;
+  }
+  return false;
+}
+
+// An access key of a label leads to the control behind it; any other control is clicked.
+bool Window::takeAccessKey(char letter) {
+  const char wanted = static_cast<char>(std::toupper(static_cast<unsigned char>(letter)));
+  const std::vector<Control*> order = tabOrder();
+  for (auto here = order.begin(); here != order.end(); ++here) {
+    Control& control = **here;
+    if (control.accessKey() != wanted || !control.visible() || !control.enabled()) continue;
+    if (control.takesFocus()) {
+      control.setFocus();
+      if (auto* clickable = dynamic_cast<ClickControl*>(&control)) clickable->click();
+      return true;
+    }
+    const auto next =
+        std::find_if(here, order.end(), [](const Control* c) { return c->takesFocus(); });
+    if (next != order.end()) (*next)->setFocus();
+    return true;
+  }
+  return false;
+}
+
+// The arrows choose among the option buttons of a group, round and round.
+bool Window::takeArrow(const KeyStroke& stroke) {
+  auto* from = dynamic_cast<OptionButton*>(focusedControl_);
+  if (!from || stroke.key < kKeyLeft || stroke.key > kKeyDown) return false;
+  std::vector<OptionButton*> group;
+  for (Control* control : tabOrder()) {
+    auto* option = dynamic_cast<OptionButton*>(control);
+    if (option && option->takesFocus() &&
+        option->layout().optionGroup == from->layout().optionGroup)
+      group.push_back(option);
+  }
+  if (stroke.key == kKeyLeft || stroke.key == kKeyUp) std::reverse(group.begin(), group.end());
+  std::rotate(group.begin(), std::find(group.begin(), group.end(), from) + 1, group.end());
+  group.front()->setFocus();
+  group.front()->click();
+  return true;
+}
+
+void Window::sendKey(KeyCode key, KeyAscii character) {
+  desktop_.events().post([this, key, character] {
+    if (!takeKey({key}) && focusedControl_) focusedControl_->typeCharacter(character);
+    if (focusedControl_) focusedControl_->keyUp(key);
+  });
+}
+
+}  // namespace controls
