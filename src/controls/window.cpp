@@ -76,6 +76,7 @@ void Window::show() {
 void Window::hide() {
   if (!visible_) return;
   visible_ = false;
+  if (desktop_.activeWindow_ == this) desktop_.activeWindow_ = nullptr;
   showVisible();
 }
 

@@ -1,0 +1,73 @@
+#pragma once
+
+#include <map>
+#include <set>
+#include <vector>
+
+#include "controls/desktop.h"
+#include "inmemory/settings.h"
+
+namespace inmemory {
+
+/// The screen's size, which a maximized window takes.
+inline constexpr controls::Rect kScreen = {0, 0, 19200, 15360};
+
+/// A message box as it was shown, and its answer.
+struct ShownBox {
+  controls::MessageBox box;
+  int answer;
+};
+
+/// A program as it was started; `keys` were sent to its window ("^V" is Ctrl+V).
+struct Launch {
+  std::string program;
+  std::string keys;
+};
+
+/// The desktop without a screen: it records what the program asks for, and answers as it was told
+/// to.
+class Desktop : public controls::Desktop {
+ public:
+  std::unique_ptr<controls::Window> createWindow(const controls::WindowLayout& layout) override;
+  int showMessage(const controls::MessageBox& box) override;
+  void beep() override { ++beeps; }
+  std::optional<std::string> clipboardText() override { return clipboard; }
+  bool setClipboardText(std::string_view text) override;
+  bool startProgram(const std::string& program) override;
+  bool startProgramAndPaste(const std::string& program) override;
+  void showHelp(const controls::HelpRequest& request) override { helpRequests.push_back(request); }
+  std::optional<std::uint32_t> chooseColor() override;
+  common::SettingsStore& settings() override { return stores[name]; }
+  std::optional<controls::RegistryValue> registryValue(std::string_view key,
+                                                       std::string_view valueName) override;
+  bool fileExists(const std::string& path) override { return files.contains(path); }
+  std::string programFolder() override { return "C:\\Tallyrex"; }
+  std::string programName() override { return name; }
+
+  /// The window in front gets the user's keys.
+  void bringToFront(controls::Window& window);
+  /// The window is hidden or destroyed: the one behind it comes to the front.
+  void noteGone(const controls::Window& window);
+
+  int beeps = 0;
+  std::vector<ShownBox> boxes;
+  std::vector<Launch> launches;
+  std::vector<controls::HelpRequest> helpRequests;
+
+  /// The answers of the next question boxes, and what the next colour pickers give.
+  std::deque<int> answers;
+  std::deque<std::optional<std::uint32_t>> colors;
+
+  std::string name = "Tallyrex";
+  std::optional<std::string> clipboard;
+  std::set<std::string> programs = {"NotePad.exe"};
+  std::set<std::string> files;
+  std::map<std::pair<std::string, std::string>, std::string> registry;
+  std::map<std::string, Settings> stores;
+
+ private:
+  // The windows that have been in front, the one in front last.
+  std::vector<controls::Window*> order_;
+};
+
+}  // namespace inmemory

@@ -1,0 +1,27 @@
+#include "inmemory/keyboard.h"
+
+#include "inmemory/text_box.h"
+
+namespace inmemory {
+
+void Keyboard::down(const controls::KeyStroke& stroke, controls::KeyAscii character) {
+  controls::Window* window = desktop_.activeWindow();
+  if (!window || !window->enabled()) return;
+  desktop_.events().runEvent([&] {
+    if (window->takeKey(stroke) || stroke.alt) return;
+    controls::Control* control = window->focusedControl();
+    if (!control) return;
+    if (character != 0) {
+      control->typeCharacter(character);
+    } else if (auto* box = dynamic_cast<TextBox*>(control)) {
+      box->pressKey(stroke.key, stroke.shift);
+    }
+  });
+}
+
+void Keyboard::up(controls::KeyCode key) {
+  controls::Window* window = desktop_.activeWindow();
+  if (window && window->focusedControl()) window->focusedControl()->keyUp(key);
+}
+
+}  // namespace inmemory

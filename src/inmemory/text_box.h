@@ -1,0 +1,49 @@
+#pragma once
+
+#include <string>
+
+#include "controls/text_box.h"
+
+namespace inmemory {
+
+class Desktop;
+
+/// A text box without a screen. It edits as the system's box does, one step of undo included.
+class TextBox : public controls::TextBox {
+ public:
+  using controls::TextBox::TextBox;
+
+  /// The character takes effect when KeyPress lets it through.
+  void typeCharacter(controls::KeyAscii character) override;
+  /// A key without a character: caret keys, with Shift held or not, and Delete.
+  void pressKey(controls::KeyCode key, bool shift);
+
+ protected:
+  std::string loadText() const override;
+  int loadLength() const override { return static_cast<int>(text_.size()); }
+  std::string loadPart(int start, int length) const override;
+  Selection loadSelection() const override;
+  void storeText(std::string_view text) override;
+  void storeAppended(std::string_view text) override;
+  void storeSelection(int start, int length) override;
+  void storePart(int start, int length, std::string_view text) override;
+
+ private:
+  void insert(controls::KeyAscii character);
+  void actOnControlCharacter(controls::KeyAscii character);
+  void undo();
+  void moveCaret(int caret, bool extend);
+  int caretAfter(controls::KeyCode key) const;
+  int lineStart(int place) const;
+  int lineEnd(int place) const;
+  int otherLine(int place, bool up) const;
+
+  std::u16string text_;
+  // The selection lies between the two; the caret is the end that the arrows move.
+  int anchor_ = 0;
+  int caret_ = 0;
+  std::u16string beforeLastEdit_;
+  bool canUndo_ = false;
+};
+
+}  // namespace inmemory

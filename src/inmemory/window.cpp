@@ -1,0 +1,64 @@
+#include "inmemory/window.h"
+
+#include "inmemory/desktop.h"
+#include "inmemory/text_box.h"
+
+namespace inmemory {
+
+using controls::ControlKind;
+using controls::WindowState;
+
+Window::Window(Desktop& desktop, const controls::WindowLayout& layout)
+    : controls::Window(desktop, layout), screen_(desktop) {
+  build();
+}
+
+Window::~Window() {
+  screen_.noteGone(*this);
+}
+
+std::unique_ptr<controls::Control> Window::makeControl(const controls::ControlLayout& layout) {
+  switch (layout.kind) {
+    case ControlKind::TextBox:
+      return std::make_unique<TextBox>(*this, layout);
+    case ControlKind::Button:
+      return std::make_unique<controls::Button>(*this, layout);
+    case ControlKind::ToggleButton:
+      return std::make_unique<controls::ToggleButton>(*this, layout);
+    case ControlKind::OptionButton:
+      return std::make_unique<controls::OptionButton>(*this, layout);
+    default:
+      return std::make_unique<controls::Control>(*this, layout);
+  }
+}
+
+std::unique_ptr<controls::MenuItem> Window::makeMenuItem(const controls::MenuItemLayout& layout,
+                                                         controls::MenuItem* parent) {
+  return std::make_unique<controls::MenuItem>(*this, layout, parent);
+}
+
+void Window::showVisible() {
+  if (!visible()) screen_.noteGone(*this);
+}
+
+void Window::showState() {
+  if (state() == WindowState::Minimized) return;
+  if (state() == WindowState::Maximized && !maximized_) {
+    maximized_ = true;
+    normalBounds_ = bounds();
+    noteBounds(kScreen);
+  } else if (state() == WindowState::Normal && maximized_) {
+    maximized_ = false;
+    noteBounds(normalBounds_);
+  }
+}
+
+void Window::showOnTop() {
+  noteBounds({0, 0, 0, 0});
+}
+
+void Window::bringToFront() {
+  screen_.bringToFront(*this);
+}
+
+}  // namespace inmemory
