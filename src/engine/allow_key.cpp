@@ -1,0 +1,29 @@
+#include "engine/allow_key.h"
+
+#include <algorithm>
+#include <array>
+
+namespace engine {
+namespace {
+
+// Comma, and the characters of Ctrl+C, Ctrl+V, Ctrl+X and Ctrl+Z.
+constexpr std::array<controls::KeyAscii, 5> kAlwaysAllowed = {',', 3, 22, 24, 26};
+
+bool isAllowed(controls::KeyAscii key, std::string_view kind, std::string_view text) {
+  if (key == controls::kKeyEnter || key == controls::kKeyBackspace) return true;
+  if (key == '-') return text.find('-') == std::string_view::npos;
+  if (key == '.' && kind == "fraction") return text.find('.') == std::string_view::npos;
+  if (std::ranges::find(kAlwaysAllowed, key) != kAlwaysAllowed.end()) return true;
+  return key >= '0' && key <= '9';
+}
+
+}  // namespace
+
+bool AllowKey(controls::KeyAscii key, std::string_view kind, std::string_view text,
+              controls::Desktop& desktop) {
+  const bool allowed = isAllowed(key, kind, text);
+  if (!allowed) desktop.beep();
+  return allowed;
+}
+
+}  // namespace engine

@@ -1,0 +1,95 @@
+#include "engine/entry_format.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+#include "common/number_pattern.h"
+#include "common/number_text.h"
+
+namespace engine {
+
+using common::formatText;
+
+namespace {
+
+constexpr std::string_view kSmallNumberPattern = "###.00000000000000";
+constexpr std::array<double, 10> kScale = {1, 0.1, 0.01, 1e-3, 1e-4, 1e-5, 1e-6, 1e-7, 1e-8, 1e-9};
+
+bool hasDigit(std::string_view text) {
+  return text.find_first_of("0123456789") != std::string_view::npos;
+}
+
+// A minus in front of the zeros typed so far is the sign of the digits to come.
+std::string keepSign(std::string_view typed, std::string formatted) {
+  const bool lost = typed.starts_with('-') && !formatted.starts_with('-');
+  return lost && common::tryNumber(typed) == 0.0 ? "-" + formatted : formatted;
+}
+
+std::string groupWhole(std::string_view text) {
+  if (!hasDigit(text)) return std::string(text);
+  return keepSign(text, formatText(text, kWholePattern));
+}
+
+int trailingZeros(std::string_view digits) {
+  const auto last = digits.find_last_not_of('0');
+  return static_cast<int>(digits.size() - (last == std::string_view::npos ? 0 : last + 1));
+}
+
+}  // namespace
+
+std::string decimalsPattern(int places) {
+  std::string pattern(kWholePattern);
+  if (places > 0) pattern += "." + std::string(static_cast<std::size_t>(places), '0');
+  return pattern;
+}
+
+std::string formatFloating(std::string_view text) {
+  if (!hasDigit(text)) return std::string(text);
+  const auto point = text.find('.');
+  if (point == std::string_view::npos) {
+    const std::string formatted = groupWhole(text);
+    return formatted.find('E') == std::string::npos ? formatted
+                                                    : formatText(formatted, kSmallNumberPattern);
+  }
+  const std::string_view whole = text.substr(0, point);
+  const double wholeValue = hasDigit(whole) ? common::toNumber(whole) : 0;
+  const std::string formatted = groupWhole(whole) + std::string(text.substr(point));
+  // Exponent notation is spelt out where it is the text of a small number.
+  if (formatted.find('E') == std::string::npos || wholeValue >= 1000) return formatted;
+  return formatText(formatted, kSmallNumberPattern);
+}
+
+std::string formatKeyed(std::string_view text, int places) {
+  if (!hasDigit(text)) return std::string(text);
+  const auto point = text.find('.');
+  if (point == std::string_view::npos) return keepSign(text, formatText(text, kWholePattern));
+  const int typed = static_cast<int>(text.size() - point) - 1;
+  const std::string pattern =
+      typed == 0 ? std::string(kWholePattern) + "." : decimalsPattern(std::min(typed, places));
+  return keepSign(text, formatText(text, pattern));
+}
+
+std::string formatStationary(std::string_view text, int places) {
+  if (!hasDigit(text)) return std::string(text);
+  std::string digits(text);
+  const auto point = digits.find('.');
+  if (point != std::string::npos && point > 0) digits.erase(point, 1);
+  const double value = common::toNumber(digits);
+  // Scaling loses the zeros at the end; they are put back behind it.
+  const int zeros = value == 0 ? 0 : trailingZeros(digits);
+  const std::string scaled =
+      places == 0 ? digits : common::toText(value * kScale[static_cast<std::size_t>(places)]);
+  std::string shown = keepSign(digits, formatKeyed(scaled, places));
+  if (zeros == 0 || places == 0) return shown;
+  if (shown.find('.') != std::string::npos)
+    return shown + std::string(static_cast<std::size_t>(zeros), '0');
+  return shown + "." + std::string(static_cast<std::size_t>(std::min(zeros, places)), '0');
+}
+
+std::string formatValue(std::string_view text, int places) {
+  if (!hasDigit(text)) return std::string(text);
+  return keepSign(text, formatText(text, decimalsPattern(places)));
+}
+
+}  // namespace engine

@@ -1,0 +1,92 @@
+#include <algorithm>
+
+#include "common/number_text.h"
+#include "engine/engine.h"
+#include "engine/entry_format.h"
+
+namespace engine {
+
+void Engine::FormatEntry() {
+  common::trap([&] { ReformatEntry(); },
+               [&](const common::RunTimeError& error) { ShowError(error); });
+}
+
+void Engine::ReformatEntry() {
+  std::string text = c_.txtEntry.text();
+  if (text.empty()) return;
+  const int length = c_.txtEntry.length();
+  const int caret = c_.txtEntry.selStart();
+  if (floatingDecimal()) {
+    text = formatFloating(text);
+  } else if (stationaryDecimal() && mblnValue) {
+    text = formatValue(text, places());
+  } else {
+    const auto point = text.find('.');
+    if (point == std::string::npos) mblnDecKeyed = false;
+    if (stationaryDecimal() && !mblnPosted && !mblnDecKeyed) {
+      text = formatStationary(text, places());
+    } else {
+      // The point that scaling has shown gives way to the one keyed behind it.
+      const bool twoPoints = stationaryDecimal() && !mblnPosted && point > 0 &&
+                             point != std::string::npos &&
+                             text.find('.', point + 2) != std::string::npos;
+      if (twoPoints) text.erase(point, 1);
+      text = formatKeyed(text, places());
+    }
+  }
+  if (text == c_.txtEntry.text()) return;
+  c_.txtEntry.setText(text);
+  const int moved = caret + c_.txtEntry.length() - length;
+  c_.txtEntry.setSelStart(moved >= 0 ? moved : caret);
+}
+
+// What the release of the last key would have done, for a key that goes down before it. An entry
+// that is no number is reported by the key that takes it.
+void Engine::SettleEntry() {
+  if (mblnPosted) return;
+  RepairSign();
+  common::trap([&] { ReformatEntry(); }, [](const common::RunTimeError&) {});
+  DropLeadingCommas();
+}
+
+void Engine::RewriteEntry(const std::string& text, int caret) {
+  if (text == c_.txtEntry.text()) return;
+  c_.txtEntry.setText(text);
+  c_.txtEntry.setSelStart(caret);
+}
+
+void Engine::ShowValue(const std::string& text) {
+  RewriteEntry(text, 0);
+  c_.txtEntry.moveCaretToEnd();
+  mblnValue = true;
+  mblnDecKeyed = false;
+}
+
+// A character typed in front of the sign gives way; the caret is never left in front of it.
+void Engine::RepairSign() {
+  const std::string text = c_.txtEntry.text();
+  if (text.find('-') == std::string::npos || text[0] == '-') return;
+  const std::string repaired = text.substr(1);
+  const int caret = c_.txtEntry.selStart() - 1;
+  RewriteEntry(repaired, std::max(caret, repaired[0] == '-' ? 1 : 0));
+}
+
+void Engine::DropLeadingCommas() {
+  const std::string text = c_.txtEntry.text();
+  const auto commas = std::min(text.find_first_not_of(','), text.size());
+  const int caret = c_.txtEntry.selStart() - static_cast<int>(commas);
+  RewriteEntry(text.substr(commas), std::max(caret, 0));
+}
+
+// The minus in front of typed zeros waited for digits that did not come.
+void Engine::DropSignOfZero() {
+  const std::string text = c_.txtEntry.text();
+  if (text.starts_with('-') && common::tryNumber(text) == 0.0)
+    RewriteEntry(text.substr(1), std::max(c_.txtEntry.selStart() - 1, 0));
+}
+
+void Engine::RepairEntry() {
+  DropLeadingCommas();
+}
+
+}  // namespace engine
