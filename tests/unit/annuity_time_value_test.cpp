@@ -1,0 +1,292 @@
+#include "annuity/time_value.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <cstdlib>
+#include <fstream>
+#include <functional>
+#include <limits>
+#include <nlohmann/json.hpp>
+#include <random>
+#include <string>
+#include <vector>
+
+#include "common/run_time_error.h"
+
+namespace annuity {
+namespace {
+
+using nlohmann::json;
+
+/// The number of the run-time error that `call` raises; 0 when it answers.
+int errorOf(const std::function<double()>& call) {
+  try {
+    call();
+    return 0;
+  } catch (const common::RunTimeError& error) {
+    return error.number();
+  }
+}
+
+/// Calls one of the five functions by its name, as the reference cases write it.
+double callByName(const std::string& name, const std::vector<double>& a) {
+  const int due = static_cast<int>(a.at(4));
+  if (name == "Pmt") return Pmt(a[0], a[1], a[2], a[3], due);
+  if (name == "PV") return PV(a[0], a[1], a[2], a[3], due);
+  if (name == "FV") return FV(a[0], a[1], a[2], a[3], due);
+  if (name == "NPer") return NPer(a[0], a[1], a[2], a[3], due);
+  if (name == "Rate") return Rate(a[0], a[1], a[2], a[3], due);
+  throw std::invalid_argument(name);
+}
+
+/// The cases of `function`, each with its arguments and either an exact answer or an error.
+std::vector<json> referenceCases(const std::string& function) {
+  std::ifstream file(TALLYREX_TEST_DATA "/time_value_reference.json");
+  std::vector<json> cases;
+  for (const json& each : json::parse(file)) {
+    if (each.at("function") == function) cases.push_back(each);
+  }
+  return cases;
+}
+
+class TimeValueReference : public testing::TestWithParam<const char*> {};
+
+// The allowed error is what the arguments' own last digits can do to the answer: `cond` is the sum
+// of the relative changes of the answer over those of each argument.
+TEST_P(TimeValueReference, IsMetToTheLastDigits) {
+  const std::vector<json> cases = referenceCases(GetParam());
+  ASSERT_GE(cases.size(), 30u);
+  for (const json& each : cases) {
+    SCOPED_TRACE(each.dump());
+    const auto arguments = each.at("args").get<std::vector<double>>();
+    const auto call = [&] { return callByName(GetParam(), arguments); };
+    if (each.contains("error")) {
+      EXPECT_EQ(errorOf(call), each.at("error").get<int>());
+      continue;
+    }
+    const double exact = std::strtod(each.at("exact").get<std::string>().c_str(), nullptr);
+    const double answer = call();
+    if (each.contains("cond")) {
+      const double share = std::max(4.0, 4 * each.at("cond").get<double>()) * 2.2e-16;
+      EXPECT_NEAR(answer, exact, share * std::abs(exact));
+      continue;
+    }
+    double distance = std::abs(answer - exact);
+    for (double root : each.value("roots", std::vector<double>())) {
+      distance = std::min(distance, std::abs(answer - root));
+    }
+    EXPECT_LE(distance, 1e-9) << answer;
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Functions, TimeValueReference,
+                         testing::Values("Pmt", "PV", "FV", "NPer", "Rate"),
+                         [](const auto& each) { return std::string(each.param); });
+
+TEST(TimeValue, RateZeroNeedsNoPowers) {
+  EXPECT_EQ(FV(0, 12, -100, 0, 0), 1200);
+  EXPECT_EQ(PV(0, 12, -100, 0, 1), 1200);
+  EXPECT_EQ(Pmt(0, 12, 1200, 0, 0), -100);
+  EXPECT_EQ(NPer(0, -100, 1200, 0, 0), 12);
+  EXPECT_NEAR(Rate(12, -100, 1200, 0, 0), 0, 1e-12);
+  EXPECT_NEAR(Rate(12, -100, 1200, 0, 0, 0), 0, 1e-12);
+}
+
+TEST(TimeValue, APaymentAtTheBeginningBearsOnePeriodLess) {
+  EXPECT_NEAR(Pmt(0.00625, 360, 100000, 0, 0), -699.2145085527792, 4e-13);
+  EXPECT_NEAR(Pmt(0.00625, 360, 100000, 0, 1), -694.8715612946874, 4e-13);
+  EXPECT_NEAR(FV(0.005, 120, -100, 0, 1), FV(0.005, 120, -100, 0, 0) * 1.005, 1e-10);
+}
+
+TEST(TimeValue, AtRateMinusOneOnlyTheLastPaymentIsLeft) {
+  EXPECT_EQ(FV(-1, 0, -100, 50, 0), -50);
+  EXPECT_EQ(FV(-1, 12, -100, 50, 0), 100);
+  EXPECT_EQ(Pmt(-1, 12, 1000, -70, 0), 70);
+}
+
+TEST(TimeValue, ZeroHasNoSign) {
+  EXPECT_FALSE(std::signbit(FV(0, 12, 0, 0, 0)));
+  EXPECT_FALSE(std::signbit(PV(0.01, 12, 0, 0, 1)));
+  EXPECT_FALSE(std::signbit(Pmt(0.01, 12, 0, 0, 0)));
+}
+
+TEST(NPer, IsWholeWhereAWholeTermBalances) {
+  EXPECT_EQ(NPer(0.00625, -699.2145085527766, 100000, 0, 0), 360);
+  EXPECT_EQ(NPer(0, -0.1, 0.3, 0, 0), 3);
+  int whole = 0;
+  for (int nper = 1; nper <= 480; ++nper) {
+    for (double percent = 0.25; percent <= 30; percent += 1.75, ++whole) {
+      const double rate = percent / 100 / 12;
+      EXPECT_EQ(NPer(rate, Pmt(rate, nper, 100000, -5000, nper % 2), 100000, -5000, nper % 2), nper)
+          << percent;
+    }
+  }
+  EXPECT_EQ(whole, 480 * 18);
+}
+
+TEST(NPer, KeepsATermThatIsNotQuiteWhole) {
+  EXPECT_EQ(NPer(0, -100, 150, 0, 0), 1.5);
+  EXPECT_NEAR(NPer(0, -100, 35999.9, 0, 0), 359.999, 1e-12);
+  const double withinACent = NPer(0.00625, -699.21, 100000, 0, 0);
+  EXPECT_NE(withinACent, 360);
+  EXPECT_NEAR(withinACent, 360, 0.02);
+}
+
+TEST(Rate, StartsFromTheGuess) {
+  // Two rates balance a loan that ends with money back; the guess tells which is meant.
+  EXPECT_NEAR(Rate(208, -700, 137600, 8000, 0, 0.001), 0, 1e-9);
+  EXPECT_NEAR(Rate(208, -700, 137600, 8000, 0, -0.08), -0.08749999147846454, 1e-9);
+  EXPECT_EQ(errorOf([] { return Rate(360, -699.21, 100000, 0, 0, -1); }), 5);
+  EXPECT_EQ(errorOf([] { return Rate(360, -699.21, 100000, 0, 0, -2); }), 5);
+}
+
+constexpr double kHalfACent = 0.005;
+
+double inCents(double amount) {
+  return std::round(amount * 100) / 100;
+}
+
+/// An everyday problem: two of the amounts are chosen, the third is what the bank computes.
+struct Plan {
+  const char* name;
+  bool computesPayment;  ///< else the future value
+  double pmt, pv, fv;
+
+  double computed(double rate, double nper, int due) const {
+    return computesPayment ? Pmt(rate, nper, pv, fv, due) : FV(rate, nper, pmt, pv, due);
+  }
+  double solvedRate(double nper, double amount, int due) const {
+    return computesPayment ? Rate(nper, amount, pv, fv, due) : Rate(nper, pmt, pv, amount, due);
+  }
+};
+
+constexpr std::array kPlans = {
+    Plan{"small loan", true, 0, 1500, 0},
+    Plan{"car", true, 0, 18500, 0},
+    Plan{"house", true, 0, 100000, 0},
+    Plan{"estate", true, 0, 1234567.89, 0},
+    Plan{"car with balloon", true, 0, 18500, -3700},
+    Plan{"house with balloon", true, 0, 250000, -87500},
+    Plan{"drawdown", true, 0, -100000, 0},
+    Plan{"drawdown that leaves a rest", true, 0, -100000, 20000},
+    Plan{"savings", false, -100, 0, 0},
+    Plan{"savings from a sum", false, -250, -1000, 0},
+    Plan{"sum with savings", false, -50, -20000, 0},
+    Plan{"lump sum", false, 0, -5000, 0},
+};
+
+constexpr std::array kTerms = {1,  2,  3,  4,  5,   6,   9,   12,  15,  18,  24,  30,  36,  48,
+                               60, 72, 84, 96, 120, 144, 180, 216, 240, 276, 300, 360, 420, 480};
+
+/// False when the problem says nothing of the rate: its only payment falls on the day of its sum.
+bool checkRate(const Plan& plan, double percent, int nper, int due) {
+  const double rate = percent / 100 / 12;
+  constexpr double kStep = 1e-6;
+  const double slope =
+      (plan.computed(rate + kStep, nper, due) - plan.computed(rate - kStep, nper, due)) /
+      (2 * kStep);
+  if (std::abs(slope) < 1e-3) return false;
+  const double computed = plan.computed(rate, nper, due);
+  double found = 0;
+  EXPECT_EQ(errorOf([&] { return found = plan.solvedRate(nper, inCents(computed), due); }), 0);
+  // The payment or the value that the found rate asks for is the one given, and so rounds to it.
+  const double asked = plan.computed(found, nper, due);
+  EXPECT_NEAR(asked, inCents(computed),
+              1e-10 * (std::abs(plan.pv) + std::abs(plan.fv) + std::abs(asked)));
+  // The rate is the true one but for what half a cent makes; the slope bends a little on the way.
+  EXPECT_NEAR(found, rate, 1.05 * kHalfACent / std::abs(slope) + 1e-11);
+  return true;
+}
+
+TEST(Rate, SolvesEverydayProblems) {
+  int solved = 0;
+  for (const Plan& plan : kPlans) {
+    for (int nper : kTerms) {
+      for (int due : {0, 1}) {
+        for (double percent = 0; percent <= 30; percent += 0.5) {
+          SCOPED_TRACE(testing::Message() << plan.name << ", " << nper << " months, due " << due
+                                          << ", " << percent << " %");
+          const bool tellsTheRate = checkRate(plan, percent, nper, due);
+          EXPECT_TRUE(tellsTheRate || nper == 1);
+          solved += tellsTheRate;
+        }
+      }
+    }
+  }
+  RecordProperty("solved", solved);
+  EXPECT_GE(solved, 40000);
+}
+
+/// Numbers of every size and sign, often such as arithmetic stumbles over.
+class OddNumbers {
+ public:
+  double next() {
+    constexpr double kInfinity = std::numeric_limits<double>::infinity();
+    constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
+    constexpr std::array kOdd = {
+        0.0,    -0.0,   1.0,    -1.0,  -2.0,     0.1,  0.5, -0.5,    12.0, 360.0,  -0.999999, 1e-10,
+        -1e-16, 1e-300, 5e-324, 1e300, -1.7e308, 1e17, 2.5, -699.21, 1e5,  -100.0, kInfinity, kNaN};
+    switch (below(4)) {
+      case 0:
+        return kOdd[below(kOdd.size())];
+      case 1:
+        return (below(2) ? 1 : -1) * std::pow(10.0, static_cast<double>(below(600)) - 300);
+      case 2:
+        return static_cast<double>(below(2000)) / 100 - 10;
+      default:
+        return static_cast<double>(below(100000)) - 50000;
+    }
+  }
+  int due() { return static_cast<int>(below(2)); }
+
+ private:
+  std::size_t below(std::size_t bound) { return static_cast<std::size_t>(engine_() % bound); }
+
+  std::mt19937_64 engine_{20240229};
+};
+
+TEST(TimeValue, AnswersANumberOrRaisesAnError) {
+  OddNumbers numbers;
+  int answers = 0, errors = 0;
+  for (int round = 0; round < 20000; ++round) {
+    for (const char* function : {"Pmt", "PV", "FV", "NPer", "Rate"}) {
+      const std::vector<double> arguments = {numbers.next(), numbers.next(), numbers.next(),
+                                             numbers.next(), static_cast<double>(numbers.due())};
+      SCOPED_TRACE(testing::Message() << function << testing::PrintToString(arguments));
+      double answer = 0;
+      const int error = errorOf([&] { return answer = callByName(function, arguments); });
+      EXPECT_TRUE(error == 0 || error == 5 || error == 6) << error;
+      EXPECT_TRUE(std::isfinite(answer)) << answer;
+      ++(error == 0 ? answers : errors);
+    }
+  }
+  EXPECT_GT(answers, 10000);
+  EXPECT_GT(errors, 10000);
+}
+
+// Whatever the problem: an answer that does not balance the flows would be worse than an error.
+TEST(Rate, NeverAnswersWhatDoesNotBalance) {
+  std::mt19937_64 engine(360);
+  const auto uniform = [&](double low, double high) {
+    return std::uniform_real_distribution<double>(low, high)(engine);
+  };
+  int answers = 0;
+  for (int round = 0; round < 20000; ++round) {
+    const double nper = uniform(0.1, 600), pmt = uniform(-1000, 1000);
+    const double pv = uniform(-1e5, 1e5), fv = uniform(-1e5, 1e5);
+    const int due = round % 2;
+    double rate = 0;
+    if (errorOf([&] { return rate = Rate(nper, pmt, pv, fv, due); }) != 0) continue;
+    ++answers;
+    const double grown = FV(rate, nper, 0, pv, due), paid = FV(rate, nper, pmt, 0, due);
+    EXPECT_NEAR(grown + paid, fv, 1.001e-7 * (std::abs(grown) + std::abs(paid) + std::abs(fv)))
+        << nper << ' ' << pmt << ' ' << pv << ' ' << fv << ' ' << due;
+  }
+  EXPECT_GT(answers, 5000);
+}
+
+}  // namespace
+}  // namespace annuity
