@@ -19,9 +19,21 @@ std::optional<double> tryNumber(std::string_view text);
 /// in front of the point or behind it. Zero of either sign is "0".
 std::string toText(double value);
 
-/// A number that is not written plainly (exponent, "$", parentheses, a minus behind, blanks around, no digit in
-/// front of its point) written plainly: sign in front, the digits and commas as they are, a digit in
-/// front of the point. Text written plainly already comes back as it is. Raises as toNumber does.
+/// A number that is not written plainly (exponent, "$", parentheses, a minus behind, blanks around,
+/// no digit in front of its point) written plainly: sign in front, the digits and commas as they
+/// are, a digit in front of the point. Text written plainly already comes back as it is. Raises as
+/// toNumber does.
 std::string toPlainText(std::string_view text);
+
+/// A number in decimal: 0.DIGITS times ten to the power of `point`, so that `point` is the number of
+/// digits in front of the decimal point. Zero has no digits and no sign.
+struct DecimalDigits {
+  bool negative = false;
+  std::string digits;
+  int point = 0;
+};
+
+/// A finite number correctly rounded to 15 significant digits, without zeros at either end.
+DecimalDigits toDigits(double value);
 
 }  // namespace common

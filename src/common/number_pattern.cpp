@@ -1,0 +1,141 @@
+#include "common/number_pattern.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "common/number_text.h"
+
+namespace common {
+namespace {
+
+bool isPlaceholder(char character) {
+  return character == '#' || character == '0';
+}
+
+// What a pattern asks for. Its integer part ends at the first point.
+struct Shape {
+  std::string_view integer;
+  std::string_view fraction;
+  bool hasPoint = false;
+  bool grouped = false;
+  int integerPlaces = 0;
+  int requiredIntegers = 0;
+  int decimals = 0;
+  int requiredDecimals = 0;
+  int percentSigns = 0;
+};
+
+Shape shapeOf(std::string_view pattern) {
+  Shape shape;
+  const std::size_t point = std::min(pattern.find('.'), pattern.size());
+  shape.hasPoint = point < pattern.size();
+  shape.integer = pattern.substr(0, point);
+  shape.fraction = pattern.substr(shape.hasPoint ? point + 1 : point);
+  shape.grouped = shape.integer.find(',') != std::string_view::npos;
+  shape.percentSigns = static_cast<int>(std::count(pattern.begin(), pattern.end(), '%'));
+  for (const char character : shape.integer) {
+    if (!isPlaceholder(character)) continue;
+    ++shape.integerPlaces;
+    if (character == '0' || shape.requiredIntegers > 0) ++shape.requiredIntegers;
+  }
+  for (const char character : shape.fraction) {
+    if (!isPlaceholder(character)) continue;
+    ++shape.decimals;
+    if (character == '0') shape.requiredDecimals = shape.decimals;
+  }
+  return shape;
+}
+
+void roundHalfAwayFromZero(DecimalDigits& number, int decimals) {
+  std::string& digits = number.digits;
+  const int keep = number.point + decimals;
+  if (keep >= static_cast<int>(digits.size())) return;
+  const bool up = keep >= 0 && digits[static_cast<std::size_t>(keep)] >= '5';
+  digits.resize(static_cast<std::size_t>(std::max(keep, 0)));
+  const char fill = up ? '9' : '0';
+  digits.erase(digits.find_last_not_of(fill) + 1);
+  if (up && digits.empty()) {
+    digits = "1";
+    ++number.point;
+  } else if (up) {
+    ++digits.back();
+  }
+}
+
+// Writes one number in one shape.
+class PatternWriter {
+ public:
+  PatternWriter(const DecimalDigits& number, const Shape& shape) : number_(number), shape_(shape) {}
+
+  std::string write() {
+    if (number_.negative && !number_.digits.empty()) text_ += '-';
+    writeInteger();
+    if (shape_.hasPoint) text_ += '.';
+    writeFraction();
+    return std::move(text_);
+  }
+
+ private:
+  void writeInteger() {
+    int place = shape_.integerPlaces;
+    for (const char character : shape_.integer) {
+      if (isPlaceholder(character)) {
+        if (place == shape_.integerPlaces) writeDigitsInFrontOf(place);
+        --place;
+        if (place < std::max(number_.point, shape_.requiredIntegers)) writeIntegerDigit(place);
+      } else if (character != ',') {
+        text_ += character;
+      }
+    }
+    if (shape_.integerPlaces == 0 && shape_.hasPoint) writeDigitsInFrontOf(0);
+  }
+
+  // The pattern has places for the last digits only; the others are not lost.
+  void writeDigitsInFrontOf(int places) {
+    for (int place = number_.point; place > places;) writeIntegerDigit(--place);
+  }
+
+  void writeIntegerDigit(int place) {
+    text_ += digitAt(number_.point - 1 - place);
+    if (shape_.grouped && place > 0 && place % 3 == 0) text_ += ',';
+  }
+
+  void writeFraction() {
+    const int present = static_cast<int>(number_.digits.size()) - number_.point;
+    int place = 0;
+    for (const char character : shape_.fraction) {
+      if (!isPlaceholder(character)) {
+        text_ += character;
+      } else if (place < std::max(present, shape_.requiredDecimals)) {
+        text_ += digitAt(number_.point + place++);
+      }
+    }
+  }
+
+  char digitAt(int index) const {
+    const bool inside = index >= 0 && index < static_cast<int>(number_.digits.size());
+    return inside ? number_.digits[static_cast<std::size_t>(index)] : '0';
+  }
+
+  const DecimalDigits& number_;
+  const Shape& shape_;
+  std::string text_;
+};
+
+}  // namespace
+
+std::string formatNumber(double value, std::string_view pattern) {
+  const Shape shape = shapeOf(pattern);
+  DecimalDigits number = toDigits(value);
+  number.point += 2 * shape.percentSigns;
+  roundHalfAwayFromZero(number, shape.decimals);
+  if (number.digits.empty()) number = {};
+  return PatternWriter(number, shape).write();
+}
+
+std::string formatText(std::string_view text, std::string_view pattern) {
+  const auto number = tryNumber(text);
+  return number ? formatNumber(*number, pattern) : std::string(text);
+}
+
+}  // namespace common

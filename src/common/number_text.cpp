@@ -1,0 +1,250 @@
+#include "common/number_text.h"
+
+#include <algorithm>
+#include <cassert>
+#include <charconv>
+#include <cmath>
+#include <cstdlib>
+#include <system_error>
+
+#include "common/run_time_error.h"
+
+namespace common {
+namespace {
+
+constexpr int kSignificantDigits = 15;
+
+// Ten to these powers is beyond every double, and below half of the smallest one.
+constexpr long long kLargestPoint = 309;
+constexpr long long kSmallestPoint = -323;
+
+// Far beyond what the digits of any text in memory could bring back into the range of a double.
+constexpr long long kExponentLimit = 1'000'000'000'000'000;
+
+// A number as it was written.
+struct Written {
+  char sign = 0;  // '+', '-' or none; of a minus behind and of parentheses '-'
+  std::string_view integer;
+  std::string_view fraction;
+  bool hasPoint = false;
+  bool hasExponent = false;
+  long long exponent = 0;
+  bool plain = true;
+};
+
+bool isBlank(char character) {
+  return character == ' ' || character == '\t';
+}
+
+bool isDigit(char character) {
+  return character >= '0' && character <= '9';
+}
+
+bool isDigitOrComma(char character) {
+  return isDigit(character) || character == ',';
+}
+
+template <class Predicate>
+std::string_view takeWhile(std::string_view& rest, Predicate predicate) {
+  std::size_t length = 0;
+  while (length < rest.size() && predicate(rest[length])) ++length;
+  const std::string_view taken = rest.substr(0, length);
+  rest.remove_prefix(length);
+  return taken;
+}
+
+bool take(std::string_view& rest, char character) {
+  if (rest.empty() || rest.front() != character) return false;
+  rest.remove_prefix(1);
+  return true;
+}
+
+char takeSign(std::string_view& rest) {
+  if (take(rest, '-')) return '-';
+  return take(rest, '+') ? '+' : char{0};
+}
+
+std::string_view trimmed(std::string_view text) {
+  takeWhile(text, isBlank);
+  while (!text.empty() && isBlank(text.back())) text.remove_suffix(1);
+  return text;
+}
+
+[[noreturn]] void mismatch() {
+  throw RunTimeError(kTypeMismatch);
+}
+
+// The sign and the "$", in either order.
+void readFront(std::string_view& rest, Written& written) {
+  written.sign = takeSign(rest);
+  if (!take(rest, '$')) return;
+  written.plain = false;
+  takeWhile(rest, isBlank);
+  if (!written.sign) written.sign = takeSign(rest);
+}
+
+void readExponent(std::string_view& rest, Written& written) {
+  if (!take(rest, 'E') && !take(rest, 'e')) return;
+  written.hasExponent = true;
+  written.plain = false;
+  const bool negative = takeSign(rest) == '-';
+  const std::string_view digits = takeWhile(rest, isDigit);
+  if (digits.empty()) mismatch();
+  for (const char digit : digits) {
+    if (written.exponent < kExponentLimit) {
+      written.exponent = written.exponent * 10 + (digit - '0');
+    }
+  }
+  if (negative) written.exponent = -written.exponent;
+}
+
+void readDigits(std::string_view& rest, Written& written) {
+  written.integer = takeWhile(rest, isDigitOrComma);
+  written.hasPoint = take(rest, '.');
+  if (written.hasPoint) written.fraction = takeWhile(rest, isDigit);
+  if (written.integer.empty()) {
+    if (written.fraction.empty()) mismatch();
+    written.plain = false;
+  } else if (written.integer.find_first_not_of(',') == std::string_view::npos) {
+    mismatch();
+  }
+  readExponent(rest, written);
+}
+
+Written read(std::string_view text) {
+  std::string_view rest = trimmed(text);
+  Written written;
+  written.plain = rest.size() == text.size();
+  const bool parentheses = take(rest, '(');
+  readFront(rest, written);
+  readDigits(rest, written);
+  if (parentheses) {
+    if (written.sign || !take(rest, ')')) mismatch();
+    written.sign = '-';
+    written.plain = false;
+  } else if (!written.sign && !written.hasExponent && take(rest, '-')) {
+    written.sign = '-';
+    written.plain = false;
+  }
+  if (!rest.empty()) mismatch();
+  return written;
+}
+
+// The digits without commas and without zeros in front, and how many of them stand in front of the
+// point once the exponent has moved it.
+struct Significand {
+  std::string digits;
+  long long point = 0;
+};
+
+Significand significandOf(const Written& written) {
+  Significand significand;
+  std::string& digits = significand.digits;
+  digits.reserve(written.integer.size() + written.fraction.size());
+  for (const char character : written.integer) {
+    if (character != ',') digits += character;
+  }
+  significand.point = static_cast<long long>(digits.size()) + written.exponent;
+  digits += written.fraction;
+  const std::size_t zeros = std::min(digits.find_first_not_of('0'), digits.size());
+  digits.erase(0, zeros);
+  significand.point -= static_cast<long long>(zeros);
+  return significand;
+}
+
+// The size of the number. Raises the overflow error.
+double magnitudeOf(const Significand& significand) {
+  if (significand.digits.empty() || significand.point < kSmallestPoint) return 0;
+  if (significand.point > kLargestPoint) throw RunTimeError(kOverflow);
+  const std::string text = "0." + significand.digits + "e" + std::to_string(significand.point);
+  double value = 0;
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
+  const bool outOfRange = error == std::errc::result_out_of_range || std::isinf(value);
+  if (!outOfRange) return value;
+  if (significand.point > 0) throw RunTimeError(kOverflow);
+  return 0;
+}
+
+// Fixed notation of 0.DIGITS times ten to the power of `point`.
+std::string fixedText(const std::string& digits, long long point) {
+  if (point <= 0) return "0." + std::string(static_cast<std::size_t>(-point), '0') + digits;
+  const auto inFront = static_cast<std::size_t>(point);
+  if (inFront >= digits.size()) return digits + std::string(inFront - digits.size(), '0');
+  return digits.substr(0, inFront) + "." + digits.substr(inFront);
+}
+
+// Scientific notation of the same.
+std::string exponentText(const std::string& digits, int point) {
+  const int exponent = point - 1;
+  const std::string size = std::to_string(std::abs(exponent));
+  std::string text = digits.substr(0, 1);
+  if (digits.size() > 1) text += "." + digits.substr(1);
+  text += exponent < 0 ? "E-" : "E+";
+  if (size.size() < 2) text += '0';
+  return text + size;
+}
+
+}  // namespace
+
+double toNumber(std::string_view text) {
+  const Written written = read(text);
+  const double magnitude = magnitudeOf(significandOf(written));
+  return written.sign == '-' && magnitude != 0 ? -magnitude : magnitude;
+}
+
+std::optional<double> tryNumber(std::string_view text) {
+  try {
+    return toNumber(text);
+  } catch (const RunTimeError&) {
+    return std::nullopt;
+  }
+}
+
+DecimalDigits toDigits(double value) {
+  assert(std::isfinite(value));
+  DecimalDigits result;
+  if (value == 0) return result;
+  result.negative = value < 0;
+  char buffer[32];
+  const auto [end, error] = std::to_chars(buffer, buffer + sizeof buffer, std::abs(value),
+                                          std::chars_format::scientific, kSignificantDigits - 1);
+  assert(error == std::errc{});
+  std::string_view text(buffer, static_cast<std::size_t>(end - buffer));
+  const std::size_t exponentAt = text.find('e');
+  result.digits = text.front();
+  result.digits += text.substr(2, exponentAt - 2);
+  result.digits.erase(result.digits.find_last_not_of('0') + 1);
+  text.remove_prefix(exponentAt + 1);
+  take(text, '+');
+  std::from_chars(text.data(), text.data() + text.size(), result.point);
+  ++result.point;
+  return result;
+}
+
+std::string toText(double value) {
+  const DecimalDigits number = toDigits(value);
+  if (number.digits.empty()) return "0";
+  const int digitsBehind = static_cast<int>(number.digits.size()) - number.point;
+  const bool fixed = number.point <= kSignificantDigits && digitsBehind <= kSignificantDigits;
+  return (number.negative ? "-" : "") + (fixed ? fixedText(number.digits, number.point)
+                                               : exponentText(number.digits, number.point));
+}
+
+std::string toPlainText(std::string_view text) {
+  const Written written = read(text);
+  const Significand significand = significandOf(written);
+  const double magnitude = magnitudeOf(significand);
+  if (written.plain) return std::string(text);
+  std::string plain;
+  if (written.sign) plain += written.sign;
+  if (written.hasExponent) {
+    // A size that vanishes in a double could have more zeros than memory holds.
+    return plain + (magnitude == 0 ? "0" : fixedText(significand.digits, significand.point));
+  }
+  plain += written.integer.empty() ? "0" : written.integer;
+  if (written.hasPoint) plain += '.';
+  plain += written.fraction;
+  return plain;
+}
+
+}  // namespace common
