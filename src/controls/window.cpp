@@ -1,5 +1,6 @@
 #include "controls/window.h"
 
+#include <algorithm>
 #include <cassert>
 
 #include "controls/desktop.h"
@@ -32,7 +33,10 @@ void Window::setCaption(std::string_view caption) {
   showCaption();
 }
 
-void Window::setBounds(const Rect& bounds) {
+void Window::setBounds(const Rect& wanted) {
+  Rect bounds = wanted;
+  bounds.width = std::max(bounds.width, kFrameWidth);
+  bounds.height = std::max(bounds.height, layout_.frameHeight());
   if (bounds_ == bounds) return;
   const Rect before = bounds_;
   bounds_ = bounds;

@@ -43,7 +43,8 @@ class Window {
   /// area and the classic frame around it (kFrameWidth, kFrameHeight). Twips are kept to the digit
   /// while nobody moves the window. Of a minimized window: where it stands when it is restored.
   const Rect& bounds() const { return bounds_; }
-  void setBounds(const Rect& bounds);
+  /// A window is never smaller than its frame.
+  void setBounds(const Rect& wanted);
   void setLeft(Twips left);
   void setTop(Twips top);
   void setWidth(Twips width);

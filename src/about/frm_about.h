@@ -1,0 +1,40 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+
+#include "controls/desktop.h"
+
+namespace about {
+
+/// What the About box tells of the program.
+struct ProgramVersion {
+  int major = 1;
+  int minor = 0;
+  int revision = 0;
+};
+
+/// "Software Version:  1.0"; a revision other than 0 follows.
+std::string versionText(const ProgramVersion& version);
+
+/// The About box: title, version, and the way to the system's own information program.
+class frmAbout {
+ public:
+  /// `unload` is called when the user closes the box.
+  frmAbout(controls::Desktop& desktop, const ProgramVersion& version, std::function<void()> unload);
+  frmAbout(const frmAbout&) = delete;
+  frmAbout& operator=(const frmAbout&) = delete;
+
+  controls::Window& window() { return *window_; }
+
+ private:
+  void Form_Load(const ProgramVersion& version);
+  void cmdSysInfo_Click();
+  bool StartSysInfo();
+
+  controls::Desktop& desktop_;
+  std::unique_ptr<controls::Window> window_;
+};
+
+}  // namespace about

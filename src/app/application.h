@@ -1,0 +1,43 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+
+#include "about/frm_about.h"
+#include "controls/desktop.h"
+#include "shell/frm_calc.h"
+#include "shell/globals.h"
+
+namespace app {
+
+/// The program: it owns its windows, knows which are loaded, and ends with the last visible one.
+class Application : private shell::Program {
+ public:
+  explicit Application(controls::Desktop& desktop) : desktop_(desktop) {}
+  Application(const Application&) = delete;
+  Application& operator=(const Application&) = delete;
+
+  /// The last window has gone.
+  std::function<void()> onEnded;
+
+  /// Loads and shows the main window.
+  void start();
+  bool ended() const { return !calc_ && !about_; }
+  /// The loaded window of that name; none when it is not loaded.
+  controls::Window* findWindow(std::string_view name) const;
+
+ private:
+  void openFinancialCalc() override;
+  void showAbout(std::function<void()> closed) override;
+  void unloadCalc() override;
+
+  void closeAbout(const std::function<void()>& closed);
+  void endWithLastWindow();
+
+  controls::Desktop& desktop_;
+  shell::Globals globals_;
+  std::unique_ptr<shell::frmCalc> calc_;
+  std::unique_ptr<about::frmAbout> about_;
+};
+
+}  // namespace app

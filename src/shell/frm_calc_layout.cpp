@@ -1,0 +1,365 @@
+#include "shell/frm_calc_layout.h"
+
+#include <array>
+
+namespace shell {
+
+using controls::Alignment;
+using controls::ControlKind;
+using controls::ControlLayout;
+using controls::FontLayout;
+using controls::MenuItemLayout;
+using controls::Rect;
+using controls::Twips;
+
+namespace {
+
+// The keys stand in five rows. The clear and the memory keys have columns of their own at the left;
+// the digits are where the fingers know them, the operators at their right.
+constexpr Twips kKeyHeight = 450;
+constexpr Twips kRowPitch = 480;
+constexpr Twips kFirstRow = 420;
+constexpr Twips kClearColumn = 40;
+constexpr Twips kClearWidth = 690;
+constexpr Twips kMemoryColumn = 760;
+constexpr Twips kMemoryWidth = 510;
+constexpr Twips kDigitColumn = 1350;
+constexpr Twips kDigitWidth = 495;
+constexpr Twips kDigitPitch = 525;
+
+constexpr Twips row(int index) {
+  return kFirstRow + index * kRowPitch;
+}
+
+constexpr Rect clearKey(int r) {
+  return {kClearColumn, row(r), kClearWidth, kKeyHeight};
+}
+
+constexpr Rect memoryKey(int r, int rows = 1) {
+  return {kMemoryColumn, row(r), kMemoryWidth, kKeyHeight + (rows - 1) * kRowPitch};
+}
+
+constexpr Rect key(int column, int r, int columns = 1, int rows = 1) {
+  return {kDigitColumn + column * kDigitPitch, row(r), kDigitWidth + (columns - 1) * kDigitPitch,
+          kKeyHeight + (rows - 1) * kRowPitch};
+}
+
+constexpr FontLayout kWordFont = {"MS Sans Serif", 83, false};
+constexpr FontLayout kToggleFont = {"MS Sans Serif", 68, false};
+constexpr FontLayout kDigitFont = {"MS Sans Serif", 120, false};
+constexpr FontLayout kOperatorFont = {"MS Sans Serif", 135, false};
+constexpr FontLayout kEntryFont = {"Courier New", 90, true};
+constexpr FontLayout kTapeFont = {"Terminal", 75, false};
+
+constexpr ControlKind kButton = ControlKind::Button;
+constexpr ControlKind kToggle = ControlKind::ToggleButton;
+
+// The order of the Tab key: the entry box, the keys row by row, the toggles, the tape, the decimals
+// box.
+constexpr auto kControls = std::to_array<ControlLayout>({
+    {.kind = ControlKind::TextBox,
+     .name = "txtEntry",
+     .place = {0, 0, 2175, 375},
+     .tabIndex = 0,
+     .font = kEntryFont,
+     .accessibleName = "Entry",
+     .alignment = Alignment::Right},
+
+    {.kind = kButton,
+     .name = "cmdClearCurrent",
+     .caption = "CE&ntry",
+     .toolTip = "Clears only the entry.",
+     .place = clearKey(0),
+     .tabIndex = 1,
+     .font = kWordFont,
+     .accessibleName = "Clear entry"},
+    {.kind = kButton,
+     .name = "cmdMemClear",
+     .toolTip = "Clear memory total only.",
+     .place = memoryKey(0),
+     .tabIndex = 2,
+     .font = kWordFont,
+     .face = "MC",
+     .accessibleName = "Memory clear"},
+    {.kind = kButton,
+     .name = "cmdDivide",
+     .place = key(3, 0),
+     .tabIndex = 3,
+     .font = kOperatorFont,
+     .face = "\u00F7",
+     .accessibleName = "Divide"},
+    {.kind = kButton,
+     .name = "cmdArrow",
+     .place = key(4, 0),
+     .tabIndex = 4,
+     .font = kOperatorFont,
+     .face = "\u2190",
+     .accessibleName = "Backspace"},
+
+    {.kind = kButton,
+     .name = "cmdClearCalc",
+     .caption = "C&Total",
+     .toolTip = "Clears only the total and sets it to zero.",
+     .place = clearKey(1),
+     .tabIndex = 5,
+     .font = kWordFont,
+     .accessibleName = "Clear total"},
+    {.kind = kButton,
+     .name = "cmdMemRecall",
+     .toolTip = "Recall memory total.",
+     .place = memoryKey(1),
+     .tabIndex = 6,
+     .font = kWordFont,
+     .face = "MR",
+     .accessibleName = "Memory recall"},
+    {.kind = kButton,
+     .name = "cmdNumber(7)",
+     .place = key(0, 1),
+     .tabIndex = 7,
+     .font = kDigitFont,
+     .face = "7"},
+    {.kind = kButton,
+     .name = "cmdNumber(8)",
+     .place = key(1, 1),
+     .tabIndex = 8,
+     .font = kDigitFont,
+     .face = "8"},
+    {.kind = kButton,
+     .name = "cmdNumber(9)",
+     .place = key(2, 1),
+     .tabIndex = 9,
+     .font = kDigitFont,
+     .face = "9"},
+    {.kind = kButton,
+     .name = "cmdTimes",
+     .place = key(3, 1),
+     .tabIndex = 10,
+     .font = kOperatorFont,
+     .face = "\u00D7",
+     .accessibleName = "Multiply"},
+    {.kind = kButton,
+     .name = "cmdPercent",
+     .place = key(4, 1),
+     .tabIndex = 11,
+     .font = kDigitFont,
+     .face = "%",
+     .accessibleName = "Percent"},
+
+    {.kind = kButton,
+     .name = "cmdClearTape",
+     .caption = "CTa&pe",
+     .toolTip = "Clears only the tape.",
+     .place = clearKey(2),
+     .tabIndex = 12,
+     .font = kWordFont,
+     .accessibleName = "Clear tape"},
+    {.kind = kButton,
+     .name = "cmdMemStore",
+     .toolTip = "Replace memory total with entry.",
+     .place = memoryKey(2),
+     .tabIndex = 13,
+     .font = kWordFont,
+     .face = "MS",
+     .accessibleName = "Memory store"},
+    {.kind = kButton,
+     .name = "cmdNumber(4)",
+     .place = key(0, 2),
+     .tabIndex = 14,
+     .font = kDigitFont,
+     .face = "4"},
+    {.kind = kButton,
+     .name = "cmdNumber(5)",
+     .place = key(1, 2),
+     .tabIndex = 15,
+     .font = kDigitFont,
+     .face = "5"},
+    {.kind = kButton,
+     .name = "cmdNumber(6)",
+     .place = key(2, 2),
+     .tabIndex = 16,
+     .font = kDigitFont,
+     .face = "6"},
+    {.kind = kButton,
+     .name = "cmdMinus",
+     .place = key(3, 2),
+     .tabIndex = 17,
+     .font = kOperatorFont,
+     .face = "\u2212",
+     .accessibleName = "Minus"},
+    {.kind = kButton,
+     .name = "cmdChangeSign",
+     .toolTip = "Change Sign",
+     .place = key(4, 2),
+     .tabIndex = 18,
+     .font = kDigitFont,
+     .face = "\u00B1",
+     .accessibleName = "Change sign"},
+
+    {.kind = kButton,
+     .name = "cmdClearAll",
+     .caption = "C&All",
+     .toolTip = "Clears the entry box, the tape and resets the total to zero but does not clear "
+                "the memory.",
+     .place = clearKey(3),
+     .tabIndex = 19,
+     .font = kWordFont,
+     .accessibleName = "Clear all"},
+    {.kind = kButton,
+     .name = "cmdMemPlus",
+     .caption = "&M +",
+     .toolTip = "Add entry to memory total.",
+     .place = memoryKey(3, 2),
+     .tabIndex = 20,
+     .font = kWordFont,
+     .accessibleName = "Memory plus"},
+    {.kind = kButton,
+     .name = "cmdNumber(1)",
+     .place = key(0, 3),
+     .tabIndex = 21,
+     .font = kDigitFont,
+     .face = "1"},
+    {.kind = kButton,
+     .name = "cmdNumber(2)",
+     .place = key(1, 3),
+     .tabIndex = 22,
+     .font = kDigitFont,
+     .face = "2"},
+    {.kind = kButton,
+     .name = "cmdNumber(3)",
+     .place = key(2, 3),
+     .tabIndex = 23,
+     .font = kDigitFont,
+     .face = "3"},
+    {.kind = kButton,
+     .name = "cmdPlus",
+     .place = key(3, 3, 1, 2),
+     .tabIndex = 24,
+     .font = kOperatorFont,
+     .face = "+",
+     .accessibleName = "Plus"},
+    {.kind = kButton,
+     .name = "cmdEquals",
+     .place = key(4, 3, 1, 2),
+     .tabIndex = 25,
+     .font = kOperatorFont,
+     .face = "=",
+     .accessibleName = "Equals"},
+
+    {.kind = kButton,
+     .name = "cmdSquareRoot",
+     .caption = "sqrt",
+     .toolTip = "Square Root",
+     .place = clearKey(4),
+     .tabIndex = 26,
+     .font = kWordFont,
+     .accessibleName = "Square root"},
+    {.kind = kButton,
+     .name = "cmdNumber(0)",
+     .place = key(0, 4, 2),
+     .tabIndex = 27,
+     .font = kDigitFont,
+     .face = "0"},
+    {.kind = kButton,
+     .name = "cmdPeriod",
+     .place = key(2, 4),
+     .tabIndex = 28,
+     .font = kDigitFont,
+     .face = ".",
+     .accessibleName = "Decimal point"},
+
+    {.kind = kToggle,
+     .name = "chkFloatingDec",
+     .toolTip = "Floating decimal is on when pressed down.",
+     .place = key(0, 0),
+     .tabIndex = 29,
+     .font = kToggleFont,
+     .face = "Float\ndec.",
+     .accessibleName = "Floating decimal"},
+    {.kind = kToggle,
+     .name = "chkShiftDec",
+     .toolTip = "The decimal is stationary until keyed when pressed down.",
+     .place = key(1, 0),
+     .tabIndex = 30,
+     .font = kToggleFont,
+     .face = "Stat.\ndec.",
+     .accessibleName = "Stationary decimal"},
+    {.kind = kToggle,
+     .name = "chkTapeOff",
+     .toolTip = "Tape is off when pressed down.",
+     .place = key(2, 0),
+     .tabIndex = 31,
+     .font = kToggleFont,
+     .face = "Tape\noff",
+     .accessibleName = "Tape off"},
+
+    {.kind = ControlKind::TextBox,
+     .name = "txtTape",
+     .place = {4000, 40, 2570, 2795},
+     .tabIndex = 32,
+     .font = kTapeFont,
+     .accessibleName = "Tape",
+     .alignment = Alignment::Right,
+     .multiLine = true},
+    {.kind = ControlKind::Label,
+     .name = "Label1",
+     .caption = "Decimals:",
+     .place = {2400, 75, 1005, 240},
+     .tabIndex = 33,
+     .font = kWordFont,
+     .alignment = Alignment::Right},
+    {.kind = ControlKind::TextBox,
+     .name = "txtDec",
+     .toolTip = "Number of decimal places allowed.",
+     .place = {3450, 0, 495, 375},
+     .tabIndex = 34,
+     .font = kEntryFont,
+     .accessibleName = "Decimal places"},
+});
+
+constexpr auto kMenu = std::to_array<MenuItemLayout>({
+    {0, "mnuFile", "&File"},
+    {1, "mnuFileSave", "&Save"},
+    {1, "mnuFilePrint", "&Print"},
+    {1, "mnuFileExit", "E&xit"},
+    {0, "mnuEdit", "&Edit"},
+    {1, "mnuEditCut", "Cu&t", "Ctrl+X"},
+    {1, "mnuEditCopy", "&Copy", "Ctrl+C"},
+    {1, "mnuEditPaste", "&Paste", "Ctrl+V"},
+    {1, "mnuEsep1", "-"},
+    {1, "mnuEditFloatingDecimal", "&Floating Decimal", "Ctrl+F"},
+    {1, "mnuEditStationaryDecimal", "&Stationary Decimal", "Ctrl+D"},
+    {1, "mnuEsep2", "-"},
+    {1, "mnuEditCopyTape", "Copy &Entire Tape"},
+    {1, "mnuEditTapeToNotepad", "Tape to &Notepad", "Ctrl+N"},
+    {0, "mnuWindow", "&Win"},
+    {1, "mnuWinAlwaysOnTop", "&Always on Top"},
+    {1, "mnuWinMicroWindow", "&Micro Window", "Ctrl+S"},
+    {1, "mnuWinModes", "M&odes"},
+    {2, "mnuWinMode(0)", "&Adding Machine", "Ctrl+A"},
+    {2, "mnuWinMode(1)", "&Calculator", "Ctrl+T", true},
+    {1, "mnuWinFinancialCalc", "&Financial Calc"},
+    {2, "mnuWinFinCalcLoan", "Loan Calc"},
+    {2, "mnuWinFinCalcInv", "Investment Calc"},
+    {2, "mnuFinCalcStandard", "Standard Calc"},
+    {1, "mnuWinPadTape", "&Pad Tape"},
+    {1, "mnuWinTapeOff", "&Tape Off", "Ctrl+O"},
+    {0, "mnuHelp", "&Help"},
+    {1, "mnuHelpContents", "Tallyrex &Help"},
+    {1, "mnuHsep1", "-"},
+    {1, "mnuHelpAbout", "&About Tallyrex"},
+});
+
+constexpr controls::WindowLayout kLayout = {.name = "frmCalc",
+                                            .caption = "Calc Mode",
+                                            .place = {500, 500, 6690, 3525},
+                                            .controls = kControls,
+                                            .menu = kMenu,
+                                            .resizable = true};
+
+}  // namespace
+
+const controls::WindowLayout& frmCalcLayout() {
+  return kLayout;
+}
+
+}  // namespace shell

@@ -1,0 +1,115 @@
+#include <algorithm>
+#include <cmath>
+
+#include "common/number_text.h"
+#include "shell/frm_calc.h"
+
+namespace shell {
+
+using controls::Twips;
+
+namespace {
+
+constexpr std::string_view kSection = "Settings";
+constexpr std::uint32_t kDefaultTextBackColor = 16777088;
+
+// No screen reaches further than a 16-bit number of pixels.
+constexpr double kFarthest = 32767 * 15;
+
+std::string chooseHelpFile(controls::Desktop& desktop) {
+  const std::string folder = desktop.programFolder();
+  const std::string file = desktop.programName() + ".hlp";
+  // Only a drive's root ends in a backslash of its own.
+  if (folder.size() == 3) return folder + file;
+  const std::string inHelpFolder = folder + "\\help\\" + file;
+  return desktop.fileExists(inHelpFolder) ? inHelpFolder : folder + "\\" + file;
+}
+
+}  // namespace
+
+double frmCalc::storedNumber(const std::string& key, double fallback) const {
+  return common::readNumber(desktop_.settings(), kSection, key, fallback);
+}
+
+Twips frmCalc::storedTwips(const std::string& key, Twips fallback) const {
+  const double stored = storedNumber(key, fallback);
+  return static_cast<Twips>(std::lround(std::clamp(stored, -kFarthest, kFarthest)));
+}
+
+bool frmCalc::storedTruth(const std::string& key) const {
+  return common::readTruth(desktop_.settings(), kSection, key, false);
+}
+
+void frmCalc::store(const std::string& key, std::string_view text) {
+  desktop_.settings().write(kSection, key, text);
+}
+
+void frmCalc::Form_Load() {
+  globals_.helpFile = chooseHelpFile(desktop_);
+  txtEntry.setText("");
+  txtTape.setText("Top");
+}
+
+// The first resize restores the settings; each size that it applies raises a resize of its own.
+void frmCalc::RestoreSettings() {
+  window_->setLeft(storedTwips("frmCalcAtUnloadLeft", 500));
+  window_->setTop(storedTwips("frmCalcAtUnloadTop", 500));
+  window_->setHeight(storedTwips("frmCalcAtUnloadHeight", 3525));
+  window_->setWidth(storedTwips("frmCalcAtUnloadWidth", 6690));
+  const double color = storedNumber("glngTextBackColor", kDefaultTextBackColor);
+  const bool isColor = color >= 0 && color <= 0xFFFFFF;
+  globals_.glngTextBackColor = isColor ? static_cast<std::uint32_t>(color) : kDefaultTextBackColor;
+  RestoreToggles();
+  const double mode = storedNumber("frmCalcmintMode", engine::kCalculatorMode);
+  engine_.restoreMode(mode == engine::kAddMode ? engine::kAddMode : engine::kCalculatorMode);
+  txtDec.setText(common::readText(desktop_.settings(), kSection, "frmCalctxtDec", "2"));
+  mblnResized = true;
+}
+
+void frmCalc::RestoreToggles() {
+  chkShiftDec.setValue(storedNumber("frmCalcchkShiftDec", 0) != 0);
+  chkFloatingDec.setValue(storedNumber("frmCalcchkFloatingDec", 0) != 0);
+  chkTapeOff.setValue(storedNumber("frmCalcchkTapeOff", 0) != 0);
+  mnuEditStationaryDecimal.setChecked(storedTruth("frmCalcchkShiftDec"));
+  mnuEditFloatingDecimal.setChecked(storedTruth("frmCalcchkFloatingDec"));
+  mnuWinTapeOff.setChecked(storedTruth("frmCalcchkTapeOff"));
+  mnuWinAlwaysOnTop.setChecked(storedTruth("frmCalcmnuWinAlwaysOnTop"));
+  mnuWinMicroWindow.setChecked(storedTruth("frmCalcmnuWinMicroWindow"));
+  mnuWinPadTape.setChecked(storedTruth("frmCalcmnuWinPadTape"));
+}
+
+void frmCalc::Form_Activate() {
+  if (!mblnActivated) {
+    mnuWinAlwaysOnTop_Click();
+    mnuWinPadTape_Click();
+    mnuWinMode_Click(engine_.restoredMode());
+    engine_.cmdClearTape_Click();
+  }
+  mblnActivated = true;
+  globals_.gblnCalcLoaded = true;
+}
+
+void frmCalc::unload() {
+  Form_Unload();
+  program_.unloadCalc();
+}
+
+void frmCalc::Form_Unload() {
+  globals_.gblnCalcLoaded = false;
+  if (window_->state() == controls::WindowState::Minimized || !window_->visible()) return;
+  const controls::Rect& bounds = window_->bounds();
+  store("frmCalcAtUnloadLeft", common::toText(bounds.left));
+  store("frmCalcAtUnloadTop", common::toText(bounds.top));
+  store("frmCalcAtUnloadHeight", common::toText(bounds.height));
+  store("frmCalcAtUnloadWidth", common::toText(bounds.width));
+  store("frmCalcchkShiftDec", common::toText(chkShiftDec.value()));
+  store("frmCalcchkTapeOff", common::toText(chkTapeOff.value()));
+  store("frmCalcchkFloatingDec", common::toText(chkFloatingDec.value()));
+  store("frmCalcmnuWinAlwaysOnTop", common::truthText(mnuWinAlwaysOnTop.checked()));
+  store("frmCalcmnuWinMicroWindow", common::truthText(mnuWinMicroWindow.checked()));
+  store("frmCalcmnuWinPadTape", common::truthText(mnuWinPadTape.checked()));
+  store("frmCalcmintMode", common::toText(engine_.chosenMode()));
+  store("frmCalctxtDec", txtDec.text());
+}
+
+}  // namespace shell
