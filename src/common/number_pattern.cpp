@@ -55,7 +55,7 @@ void roundHalfAwayFromZero(DecimalDigits& number, int decimals) {
   const char fill = up ? '9' : '0';
   digits.erase(digits.find_last_not_of(fill) + 1);
   if (up && digits.empty()) {
-    digits = "1";
+    digits.assign(1, '1');
     ++number.point;
   } else if (up) {
     ++digits.back();
