@@ -11,6 +11,7 @@
 #include <limits>
 #include <nlohmann/json.hpp>
 #include <random>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -140,7 +141,7 @@ TEST(Rate, StartsFromTheGuess) {
   EXPECT_NEAR(Rate(208, -700, 137600, 8000, 0, 0.001), 0, 1e-9);
   EXPECT_NEAR(Rate(208, -700, 137600, 8000, 0, -0.08), -0.08749999147846454, 1e-9);
   EXPECT_EQ(errorOf([] { return Rate(360, -699.21, 100000, 0, 0, -1); }), 5);
-  EXPECT_EQ(errorOf([] { return Rate(360, -699.21, 100000, 0, 0, -2); }), 5);
+  EXPECT_EQ(errorOf([] { return Rate(45, -790, 4105, 0, 0, -3.8092); }), 5);
 }
 
 constexpr double kHalfACent = 0.005;
@@ -255,11 +256,10 @@ TEST(TimeValue, AnswersANumberOrRaisesAnError) {
     for (const char* function : {"Pmt", "PV", "FV", "NPer", "Rate"}) {
       const std::vector<double> arguments = {numbers.next(), numbers.next(), numbers.next(),
                                              numbers.next(), static_cast<double>(numbers.due())};
-      SCOPED_TRACE(testing::Message() << function << testing::PrintToString(arguments));
       double answer = 0;
       const int error = errorOf([&] { return answer = callByName(function, arguments); });
-      EXPECT_TRUE(error == 0 || error == 5 || error == 6) << error;
-      EXPECT_TRUE(std::isfinite(answer)) << answer;
+      EXPECT_TRUE((error == 0 && std::isfinite(answer)) || error == 5 || error == 6)
+          << function << testing::PrintToString(arguments) << " = " << answer << ", " << error;
       ++(error == 0 ? answers : errors);
     }
   }
