@@ -1,0 +1,125 @@
+"""Writes the same topics as one HTML page that needs nothing beside it."""
+
+from html import escape
+from pathlib import Path
+
+from topic_source import BOLD, CODE, LINK, ContentsList, Heading, ListBlock, Note, Paragraph, Sample, Span, Table
+
+_STYLE_FILE = Path(__file__).with_name("style.css")
+_TAGS = {BOLD: "b", CODE: "code"}
+
+
+def anchor(topic):
+    """The name after the # by which a topic is opened."""
+    return f"topic{topic.number}"
+
+
+def write_html(title, topics):
+    """The text of the page; `topics` in their order, the contents first."""
+    return _PageWriter(title, topics).page()
+
+
+def write_redirect(page_name, topic):
+    """A page that leads on to one topic: Windows drops what follows the # when it opens a local page."""
+    target = f"{page_name}#{anchor(topic)}"
+    return (
+        '<!DOCTYPE html>\n<html lang="en">\n<meta charset="utf-8">\n'
+        f'<meta http-equiv="refresh" content="0; url={target}">\n'
+        f"<title>{escape(topic.title)}</title>\n"
+        f'<p><a href="{target}">{escape(topic.title)}</a></p>\n</html>\n'
+    )
+
+
+class _PageWriter:
+    def __init__(self, title, topics):
+        self._title = title
+        self._topics = topics
+        self._by_slug = {topic.slug: topic for topic in topics}
+
+    def page(self):
+        style = _STYLE_FILE.read_text(encoding="utf-8")
+        sections = "\n".join(self._section(place) for place in range(len(self._topics)))
+        return (
+            '<!DOCTYPE html>\n<html lang="en">\n<head>\n<meta charset="utf-8">\n'
+            '<meta name="viewport" content="width=device-width, initial-scale=1">\n'
+            '<meta name="color-scheme" content="light dark">\n'
+            f"<title>{escape(self._title)}</title>\n<style>\n{style}</style>\n</head>\n<body>\n"
+            f'<nav class="side" aria-label="Contents">\n<p><a href="#{anchor(self._topics[0])}">'
+            f"{escape(self._title)}</a></p>\n{self._contents(self._topics[0])}</nav>\n"
+            f"<main>\n{sections}\n</main>\n</body>\n</html>\n"
+        )
+
+    def _section(self, place):
+        topic = self._topics[place]
+        level = 1 if place == 0 else 2
+        parts = [f'<section id="{anchor(topic)}">\n']
+        if place > 0:
+            parts.append(f'<p class="chapter">{escape(topic.chapter)}</p>\n')
+        parts.append(f"<h{level}>{escape(topic.title)}</h{level}>\n")
+        parts += [f'<blockquote class="message">{escape(message)}</blockquote>\n' for message in topic.messages]
+        parts += [self._block(topic, block) for block in topic.blocks]
+        if topic.see:
+            links = ", ".join(self._link(self._by_slug[slug].title, slug) for slug in topic.see)
+            parts.append(f'<p class="see">See also: {links}</p>\n')
+        parts.append(self._browse(place))
+        parts.append("</section>")
+        return "".join(parts)
+
+    def _browse(self, place):
+        links = []
+        if place > 0:
+            links.append(f'<a href="#{anchor(self._topics[place - 1])}" title="Topic before">&lsaquo;&lsaquo;</a>')
+            links.append(f'<a href="#{anchor(self._topics[0])}">Contents</a>')
+        if place + 1 < len(self._topics):
+            links.append(f'<a href="#{anchor(self._topics[place + 1])}" title="Next topic">&rsaquo;&rsaquo;</a>')
+        return f'<p class="browse">{" ".join(links)}</p>\n'
+
+    def _block(self, topic, block):
+        if isinstance(block, Heading):
+            return f"<h3>{self._inline(block.spans)}</h3>\n"
+        if isinstance(block, Paragraph):
+            return f"<p>{self._inline(block.spans)}</p>\n"
+        if isinstance(block, Note):
+            return f'<p class="note">{self._inline(block.spans)}</p>\n'
+        if isinstance(block, Sample):
+            return f"<pre>{escape(chr(10).join(block.lines), quote=False)}</pre>\n"
+        if isinstance(block, Table):
+            return self._table(block.rows)
+        if isinstance(block, ListBlock):
+            tag = "ol" if block.ordered else "ul"
+            items = "".join(f"<li>{self._inline(item)}</li>\n" for item in block.items)
+            return f"<{tag}>\n{items}</{tag}>\n"
+        assert isinstance(block, ContentsList)
+        return f'<div class="contents">\n{self._contents(topic)}</div>\n'
+
+    def _table(self, rows):
+        head = "".join(f"<th>{self._inline(cell)}</th>" for cell in rows[0])
+        body = "".join(
+            "<tr>" + "".join(f"<td>{self._inline(cell)}</td>" for cell in row) + "</tr>\n" for row in rows[1:]
+        )
+        return f'<div class="table"><table>\n<tr>{head}</tr>\n{body}</table></div>\n'
+
+    def _contents(self, contents):
+        parts, chapter = [], None
+        for topic in self._topics:
+            if topic is contents:
+                continue
+            if topic.chapter != chapter:
+                parts.append("</ul>\n" if chapter else "")
+                chapter = topic.chapter
+                parts.append(f"<h3>{escape(chapter)}</h3>\n<ul>\n")
+            parts.append(f"<li>{self._link(topic.title, topic.slug)}</li>\n")
+        return "".join(parts) + "</ul>\n"
+
+    def _inline(self, spans):
+        return "".join(self._span(span) for span in spans)
+
+    def _span(self, span: Span):
+        if span.style == LINK:
+            return self._link(span.text, span.target)
+        words = escape(span.text, quote=False)
+        tag = _TAGS.get(span.style)
+        return f"<{tag}>{words}</{tag}>" if tag else words
+
+    def _link(self, words, slug):
+        return f'<a href="#{anchor(self._by_slug[slug])}">{escape(words, quote=False)}</a>'

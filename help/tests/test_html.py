@@ -1,0 +1,104 @@
+import re
+import unittest
+from html.parser import HTMLParser
+
+from support import TOPICS, one_spaced, plain
+from html_writer import write_html, write_redirect
+from topic_checks import links_of, spans_of
+from topic_source import Sample
+
+VOID = {"meta", "br", "hr", "img", "link"}
+
+
+class Page(HTMLParser):
+    """The anchors, links and words of a page; complains about tags that are not closed in order."""
+
+    def __init__(self, text):
+        super().__init__()
+        self.anchors, self.links, self.outside, self.words = [], {}, [], {}
+        self._open, self._section = [], None
+        self.feed(text)
+        self.close()
+        if self._open:
+            raise ValueError(f"not closed: {self._open}")
+
+    def handle_starttag(self, tag, attributes):
+        attributes = dict(attributes)
+        if tag not in VOID:
+            self._open.append(tag)
+        if "id" in attributes:
+            self.anchors.append(attributes["id"])
+        if tag == "section":
+            self._section = attributes["id"]
+        if tag == "a":
+            self.links.setdefault(self._section, []).append(attributes["href"])
+        self.outside += [attributes[name] for name in ("src", "srcset") if name in attributes]
+        self.outside += [tag] if tag in ("link", "script", "iframe") else []
+
+    def handle_endtag(self, tag):
+        if not self._open or self._open.pop() != tag:
+            raise ValueError(f"</{tag}> closes nothing")
+        if tag == "section":
+            self._section = None
+
+    def handle_data(self, data):
+        self.words[self._section] = self.words.get(self._section, "") + data
+
+
+class HtmlTest(unittest.TestCase):
+    @classmethod
+    def setUpClass(cls):
+        cls.text = write_html("Tallyrex Help", TOPICS)
+        cls.page = Page(cls.text)
+
+    def test_every_topic_has_one_anchor_by_its_number(self):
+        self.assertEqual(self.page.anchors, [f"topic{topic.number}" for topic in TOPICS])
+
+    def test_no_link_is_broken(self):
+        for section, links in self.page.links.items():
+            for link in links:
+                self.assertIn(link[1:], self.page.anchors, section)
+                self.assertTrue(link.startswith("#"), link)
+
+    def test_links_lead_where_the_text_says(self):
+        number_of = {topic.slug: topic.number for topic in TOPICS}
+        for topic in TOPICS:
+            links = self.page.links[f"topic{topic.number}"]
+            for slug in links_of(topic, TOPICS):
+                self.assertIn(f"#topic{number_of[slug]}", links, topic.slug)
+
+    def test_contents_and_side_bar_list_every_topic(self):
+        for section in ("topic1", None):
+            for topic in TOPICS[1:]:
+                self.assertIn(f"#topic{topic.number}", self.page.links[section])
+
+    def test_shows_every_word_of_every_topic(self):
+        for topic in TOPICS:
+            shown = one_spaced(self.page.words[f"topic{topic.number}"])
+            texts = [topic.title, *topic.messages]
+            for block in topic.blocks:
+                texts += [span.text for span in spans_of(block)]
+                texts += block.lines if isinstance(block, Sample) else ()
+            for expected in texts:
+                self.assertIn(one_spaced(expected), shown, topic.slug)
+
+    def test_a_tape_keeps_its_blanks(self):
+        self.assertIn("\n               1,231.50 *\n", self.page.words["topic14"])
+
+    def test_stands_alone(self):
+        self.assertEqual(self.page.outside, [])
+        self.assertIsNone(re.search(r"@import|url\(|https?:", self.text))
+
+    def test_the_page_for_the_program_leads_to_topic_23(self):
+        financial = next(topic for topic in TOPICS if topic.number == 23)
+        text = write_redirect("Tallyrex.html", financial)
+        self.assertIn('content="0; url=Tallyrex.html#topic23"', text)
+        self.assertEqual(Page(text).links[None], ["Tallyrex.html#topic23"])
+
+    def test_signs_of_the_language_are_escaped(self):
+        self.assertIn("Win &gt; Pad Tape", self.text)
+        self.assertNotIn("Win > Pad Tape", self.text)
+
+
+if __name__ == "__main__":
+    unittest.main()

@@ -1,0 +1,111 @@
+import unittest
+
+from support import TOPICS, one_spaced
+
+# Every message of the program, in the pieces between which it puts what the user typed.
+MESSAGES = [
+    (
+        'Since you are in "Add Mode" you must first hit the plus or minus key for the current entry which is ',
+        ".  If you do not want the current entry then enter zero and click plus and then click equals.",
+    ),
+    ("There must be an entry before running a square root function.",),
+    ("The entry caused an error:  divide by zero.",),
+    ("The entry caused an error:  result too large",),
+    ("Error:5 Invalid procedure call or argument",),
+    ("Error:6 Overflow",),
+    ("Error:11 Division by zero",),
+    ("Error:13 Type mismatch",),
+    ("Pasted entry is not a valid number.",),
+    ("Changing the padding works best when the tape is cleared first.",),
+    (
+        "Note: If pasting to a text file this option will work better if the Win | Pad Tape choice is selected from "
+        "the main menu.  This choice must be selected before keying in the numbers.",
+    ),
+    (
+        "Note: This option will work better if the Win | Pad Tape choice is selected from the main menu.  This "
+        "choice must be selected before keying in the numbers.",
+    ),
+    ("Error finding or displaying NotePad.exe",),
+    (
+        "This option copies the Tape Display to the clipboard and executes Notepad.  If you would like to use another "
+        "program other than Notepad choose Edit from the main menu and then Copy Entire Tape.  Do you wish to "
+        "continue?",
+    ),
+    (
+        "On the next screen choose the color you would like as the background color for the text boxes. Choose Cancel "
+        "on the next screen to quit.",
+    ),
+    ('You may want to turn off the "Always on Top" since this next screen is run independently.',),
+    ("One of the boxes must be left blank while the others must contain numbers.",),
+    ("Future Value box should be blank to calculate.",),
+    ("The Term and Interest Rate must contain numbers for the Balloon Payment calculation.",),
+    ("The Term and Interest Rate must contain numbers for the Future Value calculation.",),
+    (
+        "Either the Payment or Present Value must contain a number for this calculation and zero is allowed for one "
+        "or the other but not both.",
+    ),
+    (
+        "Error:5 Invalid procedure call or argument",
+        "The answer is not obtainable using the current variables, try adjusting one or more of the numbers "
+        "significantly.",
+    ),
+    (
+        "Error:6 Overflow",
+        "The answer is not obtainable using the current variables, try adjusting one or more of the numbers "
+        "significantly.",
+    ),
+    (
+        "Note: Each cash OUTFLOW amount needs to be entered as a negative number.  Examples include: payments, monthly "
+        "deposits, monthly investments, or initial cash outlays. ",
+        "Each cash INFLOW amount needs to entered as a positive number. Examples include:  loan amounts, dividend "
+        "checks, and future available account balances.",
+        "Do you wish to see this message again?",
+    ),
+    (
+        "Note: The Monthly Payment amount and the Balloon Payment amount (if any) are set to be negatively signed in "
+        "the background.",
+        "Do you wish to see this message again?",
+    ),
+    (
+        "Note: The Monthly Investment amount and the Dollars Invested Today are set to be negatively signed in the "
+        "background.",
+        "Do you wish to see this message again?",
+    ),
+    (
+        "For this action to work correctly you must first reload Tallyrex then execute this again.  Do you wish to "
+        "reload Tallyrex?",
+    ),
+    ("Cannot Find The External Program For System Information (MSINFO32.EXE)",),
+]
+
+
+def explains(shown, message):
+    """Whether the text in a topic's header is this message, all its pieces in order."""
+    at = 0
+    for piece in message:
+        found = shown.find(one_spaced(piece), at)
+        if found < 0 or (at == 0 and found > 0):
+            return False
+        at = found + len(one_spaced(piece))
+    return at == len(shown)
+
+
+class MessagesTest(unittest.TestCase):
+    def setUp(self):
+        self.shown = [(topic.slug, one_spaced(message)) for topic in TOPICS for message in topic.messages]
+
+    def test_every_message_has_one_topic(self):
+        for message in MESSAGES:
+            found = [slug for slug, shown in self.shown if explains(shown, message)]
+            self.assertEqual(len(found), 1, message)
+
+    def test_no_topic_explains_a_message_that_does_not_exist(self):
+        for slug, shown in self.shown:
+            self.assertTrue(any(explains(shown, message) for message in MESSAGES), f"{slug}: {shown}")
+
+    def test_messages_stand_in_their_chapter(self):
+        self.assertEqual({topic.chapter for topic in TOPICS if topic.messages}, {"Messages"})
+
+
+if __name__ == "__main__":
+    unittest.main()
