@@ -165,23 +165,35 @@ double magnitudeOf(const Significand& significand) {
   return 0;
 }
 
-// Fixed notation of 0.DIGITS times ten to the power of `point`.
-std::string fixedText(const std::string& digits, long long point) {
-  if (point <= 0) return "0." + std::string(static_cast<std::size_t>(-point), '0') + digits;
+// Appends fixed notation of 0.DIGITS times ten to the power of `point`.
+void appendFixed(std::string& text, std::string_view digits, long long point) {
+  if (point <= 0) {
+    text += "0.";
+    text.append(static_cast<std::size_t>(-point), '0');
+    text += digits;
+    return;
+  }
   const auto inFront = static_cast<std::size_t>(point);
-  if (inFront >= digits.size()) return digits + std::string(inFront - digits.size(), '0');
-  return digits.substr(0, inFront) + "." + digits.substr(inFront);
+  text += digits.substr(0, inFront);
+  if (inFront < digits.size()) {
+    text += '.';
+    text += digits.substr(inFront);
+  } else {
+    text.append(inFront - digits.size(), '0');
+  }
 }
 
-// Scientific notation of the same.
-std::string exponentText(const std::string& digits, int point) {
+// Appends scientific notation of the same.
+void appendScientific(std::string& text, std::string_view digits, int point) {
+  text += digits.front();
+  if (digits.size() > 1) {
+    text += '.';
+    text += digits.substr(1);
+  }
   const int exponent = point - 1;
-  const std::string size = std::to_string(std::abs(exponent));
-  std::string text = digits.substr(0, 1);
-  if (digits.size() > 1) text += "." + digits.substr(1);
   text += exponent < 0 ? "E-" : "E+";
-  if (size.size() < 2) text += '0';
-  return text + size;
+  if (std::abs(exponent) < 10) text += '0';
+  text += std::to_string(std::abs(exponent));
 }
 
 }  // namespace
@@ -225,9 +237,13 @@ std::string toText(double value) {
   const DecimalDigits number = toDigits(value);
   if (number.digits.empty()) return "0";
   const int digitsBehind = static_cast<int>(number.digits.size()) - number.point;
-  const bool fixed = number.point <= kSignificantDigits && digitsBehind <= kSignificantDigits;
-  return (number.negative ? "-" : "") + (fixed ? fixedText(number.digits, number.point)
-                                               : exponentText(number.digits, number.point));
+  std::string text(number.negative ? 1 : 0, '-');
+  if (number.point <= kSignificantDigits && digitsBehind <= kSignificantDigits) {
+    appendFixed(text, number.digits, number.point);
+  } else {
+    appendScientific(text, number.digits, number.point);
+  }
+  return text;
 }
 
 std::string toPlainText(std::string_view text) {
@@ -237,13 +253,16 @@ std::string toPlainText(std::string_view text) {
   if (written.plain) return std::string(text);
   std::string plain;
   if (written.sign) plain += written.sign;
-  if (written.hasExponent) {
+  if (!written.hasExponent) {
+    plain += written.integer.empty() ? "0" : written.integer;
+    if (written.hasPoint) plain += '.';
+    plain += written.fraction;
+  } else if (magnitude == 0) {
     // A size that vanishes in a double could have more zeros than memory holds.
-    return plain + (magnitude == 0 ? "0" : fixedText(significand.digits, significand.point));
+    plain += '0';
+  } else {
+    appendFixed(plain, significand.digits, significand.point);
   }
-  plain += written.integer.empty() ? "0" : written.integer;
-  if (written.hasPoint) plain += '.';
-  plain += written.fraction;
   return plain;
 }
 

@@ -1,0 +1,34 @@
+# GoogleTest as the targets GTest::gtest and GTest::gtest_main, for every toolchain. No distribution
+# packages it for mingw-w64, so its sources are built where they are installed; elsewhere the
+# compiled package of a native toolchain serves.
+set(TALLYREX_GOOGLETEST_SOURCES /usr/src/googletest
+    CACHE PATH "The sources of GoogleTest (in Debian the package googletest)")
+
+if(EXISTS ${TALLYREX_GOOGLETEST_SOURCES}/googletest/CMakeLists.txt)
+  set(INSTALL_GTEST OFF CACHE BOOL "" FORCE)
+  set(gtest_force_shared_crt ON CACHE BOOL "" FORCE)
+  set(googletest_binaries ${CMAKE_BINARY_DIR}/googletest)
+  add_subdirectory(${TALLYREX_GOOGLETEST_SOURCES}/googletest ${googletest_binaries}
+                   EXCLUDE_FROM_ALL)
+  # Its warnings are not ours to mend.
+  foreach(library gtest gtest_main)
+    target_compile_options(${library} PRIVATE $<IF:$<CXX_COMPILER_ID:MSVC>,/w,-w>)
+    if(NOT TARGET GTest::${library})
+      add_library(GTest::${library} ALIAS ${library})
+    endif()
+  endforeach()
+else()
+  # A package of the building machine would be found too, and its libraries do not link.
+  if(CMAKE_CROSSCOMPILING)
+    set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
+  endif()
+  find_package(GTest)
+  if(NOT GTest_FOUND)
+    message(FATAL_ERROR
+      "The tests need GoogleTest: neither a package for this compiler nor its sources in "
+      "${TALLYREX_GOOGLETEST_SOURCES} were found. Install the sources (in Debian: apt install "
+      "googletest), name their folder with -DTALLYREX_GOOGLETEST_SOURCES=FOLDER, or leave the "
+      "tests out with -DTALLYREX_TESTS=OFF.")
+  endif()
+endif()
+include(GoogleTest)

@@ -1,0 +1,52 @@
+#include "common/run_time_error.h"
+
+#include <gtest/gtest.h>
+
+#include <stdexcept>
+
+namespace common {
+namespace {
+
+TEST(RunTimeErrorText, SaysWhatWentWrong) {
+  EXPECT_EQ(errorText(kInvalidProcedureCall), "Error:5 Invalid procedure call or argument");
+  EXPECT_EQ(errorText(kOverflow), "Error:6 Overflow");
+  EXPECT_EQ(errorText(kDivisionByZero), "Error:11 Division by zero");
+  EXPECT_EQ(errorText(kTypeMismatch), "Error:13 Type mismatch");
+}
+
+TEST(RunTimeErrorText, HasADescriptionForEveryOtherNumber) {
+  EXPECT_EQ(errorText(3020), "Error:3020 Application-defined or object-defined error");
+}
+
+TEST(Trap, RunsABodyWithoutAnErrorToItsEnd) {
+  bool ended = false;
+  EXPECT_TRUE(trap([&] { ended = true; }, [](const RunTimeError&) { FAIL(); }));
+  EXPECT_TRUE(ended);
+}
+
+TEST(Trap, EndsTheBodyAtItsErrorAndReportsItOnce) {
+  bool ended = false;
+  int reports = 0;
+  int reported = 0;
+  const bool ok = trap(
+      [&] {
+        if (!ended) throw RunTimeError(kTypeMismatch);
+        ended = true;
+      },
+      [&](const RunTimeError& error) {
+        ++reports;
+        reported = error.number();
+      });
+  EXPECT_FALSE(ok);
+  EXPECT_FALSE(ended);
+  EXPECT_EQ(reports, 1);
+  EXPECT_EQ(reported, 13);
+}
+
+TEST(Trap, LetsOtherExceptionsPass) {
+  const auto report = [](const RunTimeError&) { FAIL(); };
+  EXPECT_THROW(trap([] { throw std::logic_error("other"); }, report), std::logic_error);
+}
+
+}  // namespace
+}  // namespace common

@@ -1,0 +1,110 @@
+#include "common/settings_store.h"
+
+#include <gtest/gtest.h>
+
+#include <map>
+#include <string>
+#include <utility>
+
+namespace common {
+namespace {
+
+class MapStore : public SettingsStore {
+ public:
+  std::optional<std::string> read(std::string_view section, std::string_view key) const override {
+    const auto found = texts_.find({std::string(section), std::string(key)});
+    if (found == texts_.end()) return std::nullopt;
+    return found->second;
+  }
+  void write(std::string_view section, std::string_view key, std::string_view text) override {
+    texts_[{std::string(section), std::string(key)}] = text;
+  }
+
+ private:
+  std::map<std::pair<std::string, std::string>, std::string> texts_;
+};
+
+class StoredValue : public testing::Test {
+ protected:
+  double number(std::string_view text, double fallback = 77) {
+    store_.write("Settings", "key", text);
+    return readNumber(store_, "Settings", "key", fallback);
+  }
+  bool truth(std::string_view text, bool fallback) {
+    store_.write("Settings", "key", text);
+    return readTruth(store_, "Settings", "key", fallback);
+  }
+
+  MapStore store_;
+};
+
+TEST_F(StoredValue, IsItsDefaultWhenAbsent) {
+  EXPECT_EQ(readNumber(store_, "Settings", "key", 77), 77);
+  EXPECT_TRUE(readTruth(store_, "Settings", "key", true));
+  EXPECT_FALSE(readTruth(store_, "Settings", "key", false));
+  EXPECT_EQ(readText(store_, "Settings", "key", "as designed"), "as designed");
+}
+
+TEST_F(StoredValue, IsItsDefaultInAnotherSection) {
+  store_.write("Annuity", "key", "5");
+  EXPECT_EQ(readNumber(store_, "Settings", "key", 77), 77);
+  EXPECT_EQ(readNumber(store_, "Annuity", "key", 77), 5);
+}
+
+TEST_F(StoredValue, IsTheNumberThatTheTextStandsFor) {
+  EXPECT_EQ(number("0"), 0);
+  EXPECT_EQ(number("-60"), -60);
+  EXPECT_EQ(number("16777088"), 16777088);
+  EXPECT_EQ(number("1,234.5"), 1234.5);
+  EXPECT_EQ(number(" 5 "), 5);
+}
+
+TEST_F(StoredValue, ThatIsNoNumberCountsAsAbsent) {
+  for (const char* text : {"", "abc", "5x", "-", "1E999", "True", "5\r\n", "\xFF\xFE"}) {
+    EXPECT_EQ(number(text), 77) << text;
+  }
+}
+
+TEST_F(StoredValue, IsTrueOrFalseInAnyLetterCase) {
+  for (const char* text : {"True", "true", "TRUE", "tRuE"}) EXPECT_TRUE(truth(text, false)) << text;
+  for (const char* text : {"False", "false", "FALSE"}) EXPECT_FALSE(truth(text, true)) << text;
+}
+
+TEST_F(StoredValue, IsTrueForEveryNumberOtherThanZero) {
+  for (const char* text : {"1", "-1", "2", "0.5", "1E3"}) EXPECT_TRUE(truth(text, false)) << text;
+  for (const char* text : {"0", "-0", "0.00"}) EXPECT_FALSE(truth(text, true)) << text;
+}
+
+TEST_F(StoredValue, ThatIsNoTruthCountsAsAbsent) {
+  for (const char* text : {"", "Truea", "Tru", "Yes", "No", "Wahr", " True", "\xFF", "1E999"}) {
+    EXPECT_TRUE(truth(text, true)) << text;
+    EXPECT_FALSE(truth(text, false)) << text;
+  }
+}
+
+TEST_F(StoredValue, IsReadWhateverItsSize) {
+  for (const char filler : {'0', '9', 'T', ',', '\0', '\xFF'}) {
+    const std::string text(65536, filler);
+    const bool zero = filler == '0';
+    EXPECT_EQ(number(text), zero ? 0 : 77);
+    EXPECT_EQ(truth(text, true), !zero);
+    EXPECT_EQ(readText(store_, "Settings", "key", ""), text);
+  }
+}
+
+TEST_F(StoredValue, IsTheTextAsItIs) {
+  store_.write("Annuity", "key", " 5,x ");
+  EXPECT_EQ(readText(store_, "Annuity", "key", "as designed"), " 5,x ");
+  store_.write("Annuity", "key", "");
+  EXPECT_EQ(readText(store_, "Annuity", "key", "as designed"), "");
+}
+
+TEST_F(StoredValue, IsReadBackAsTheTruthThatWasWritten) {
+  EXPECT_EQ(truthText(true), "True");
+  EXPECT_EQ(truthText(false), "False");
+  EXPECT_TRUE(truth(truthText(true), false));
+  EXPECT_FALSE(truth(truthText(false), true));
+}
+
+}  // namespace
+}  // namespace common
