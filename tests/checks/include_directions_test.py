@@ -1,0 +1,90 @@
+"""Includes run one way, and Windows stays behind one door."""
+import re
+import unittest
+
+import tree
+
+# What each folder of src/ may include: whole folders, or single headers.
+ALLOWED = {
+    "common": {"common"},
+    "controls": {"common", "controls"},
+    "engine": {"common", "controls", "engine"},
+    "shell": {"common", "controls", "engine", "shell"},
+    "annuity": {"common", "controls", "annuity", "engine/allow_key.h", "shell/globals.h"},
+    "about": {"common", "controls", "about"},
+    "inmemory": {"common", "controls", "inmemory"},
+    "win32": {"common", "controls", "win32"},
+    "app": {"common", "controls", "engine", "shell", "annuity", "about", "app"},
+}
+# The one file that ties the program to its windows.
+ALLOWED_FOR_FILE = {"src/win32/main.cpp": {"app"}}
+
+# Headers of the C++ standard library have neither a suffix nor a folder.
+STANDARD_HEADER = re.compile(r"[a-z0-9_]+")
+# Their tables of locales and facets double the size of a small program.
+STREAMS = {"fstream", "iomanip", "ios", "iostream", "istream", "locale", "ostream", "regex", "sstream"}
+INCLUDE = re.compile(r'\s*#\s*include\s*(?:"([^"]+)"|<([^>]+)>)')
+
+
+def complaint(file, line):
+    """Why a line of a source file may not stand there, or None."""
+    match = INCLUDE.match(line)
+    if not match:
+        return None
+    quoted, angled = match.groups()
+    folder = file.split("/")[1]
+    if angled:
+        if folder == "win32":
+            return None
+        if not STANDARD_HEADER.fullmatch(angled):
+            return "only src/win32 may include a system header: <%s>" % angled
+        return "the program uses no streams: <%s>" % angled if angled in STREAMS else None
+    if folder == "win32" and "/" not in quoted and quoted.startswith("resource"):
+        return None
+    allowed = ALLOWED.get(folder, set()) | ALLOWED_FOR_FILE.get(file, set())
+    if quoted in allowed or quoted.split("/")[0] in allowed and "/" in quoted:
+        return None
+    return 'src/%s may not include "%s"' % (folder, quoted)
+
+
+class IncludeDirections(unittest.TestCase):
+    def test_every_include_runs_the_allowed_way(self):
+        sources = tree.files(".h", ".cpp", ".rc", below="src")
+        self.assertTrue(sources)
+        for path in sources:
+            for number, line in enumerate(tree.lines(path), 1):
+                found = complaint(tree.name(path), line)
+                with self.subTest(file=tree.name(path)):
+                    self.assertIsNone(found, "%s:%d: %s" % (tree.name(path), number, found))
+
+    def test_every_folder_has_its_rule(self):
+        folders = {path.name for path in (tree.ROOT / "src").iterdir() if path.is_dir()}
+        self.assertEqual(folders - set(ALLOWED), set())
+
+    def test_a_forbidden_include_is_found(self):
+        for file, line in [("src/common/a.cpp", '#include "controls/control.h"'),
+                           ("src/controls/a.h", '#include "engine/engine.h"'),
+                           ("src/annuity/a.cpp", '#include "shell/frm_calc.h"'),
+                           ("src/about/a.cpp", '#include "annuity/frm_annuity.h"'),
+                           ("src/inmemory/a.h", '#include "shell/frm_calc.h"'),
+                           ("src/win32/window.cpp", '#include "app/application.h"'),
+                           ("src/app/a.cpp", '#include "win32/window.h"'),
+                           ("src/app/a.cpp", '  #  include <windows.h>'),
+                           ("src/inmemory/a.cpp", "#include <sys/stat.h>"),
+                           ("src/engine/a.cpp", "#include <sstream>"),
+                           ("src/engine/a.cpp", '#include "engine.h"')]:
+            self.assertIsNotNone(complaint(file, line), (file, line))
+
+    def test_an_allowed_include_is_let_through(self):
+        for file, line in [("src/engine/a.cpp", '#include "controls/control.h"'),
+                           ("src/annuity/a.cpp", '#include "engine/allow_key.h"'),
+                           ("src/annuity/a.cpp", '#include "shell/globals.h"'),
+                           ("src/win32/main.cpp", '#include "app/application.h"'),
+                           ("src/win32/window.cpp", "#include <windows.h>"),
+                           ("src/common/a.cpp", "#include <string_view>"),
+                           ("src/common/a.cpp", "// windows.h is not for us")]:
+            self.assertIsNone(complaint(file, line), (file, line))
+
+
+if __name__ == "__main__":
+    unittest.main()

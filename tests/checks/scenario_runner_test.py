@@ -1,0 +1,93 @@
+"""The scenario runner finds what is wrong: it is tried on a driver that answers what it is told."""
+import pathlib
+import subprocess
+import sys
+import tempfile
+import unittest
+
+import tree
+
+# Answers ok, or what one of its arguments COMMAND=ANSWER says for the command.
+DRIVER = """
+import sys, time
+answers = dict(argument.split("=", 1) for argument in sys.argv[1:])
+for line in sys.stdin:
+    answer = answers.get(line.strip(), '{"ok":true}')
+    if answer == "silence":
+        time.sleep(60)
+    print(answer, flush=True)
+"""
+
+
+class ScenarioRunner(unittest.TestCase):
+    def setUp(self):
+        scratch = tempfile.TemporaryDirectory()
+        self.addCleanup(scratch.cleanup)
+        self.folder = pathlib.Path(scratch.name)
+        (self.folder / "driver.py").write_text(DRIVER, encoding="utf-8")
+
+    def driver(self, *answers):
+        return [sys.executable, str(self.folder / "driver.py"), *answers]
+
+    def run_on(self, scenario, *arguments):
+        """The runner's exit code and what it printed for one scenario."""
+        (self.folder / "one.txt").write_text(scenario, encoding="utf-8")
+        runner = str(tree.ROOT / "tests/scenarios/run_scenarios.py")
+        done = subprocess.run([sys.executable, "-B", runner, "--folder", str(self.folder), *arguments],
+                              stdout=subprocess.PIPE, text=True, check=False)
+        return done.returncode, done.stdout.splitlines()
+
+    def assert_passes(self, result):
+        self.assertEqual(result, (0, ["1 passed, 0 failed"]))
+
+    def assert_fails(self, result, line):
+        self.assertEqual(result[0], 1)
+        self.assertIn(line, result[1])
+        self.assertEqual(result[1][-1], "0 passed, 1 failed")
+
+    def test_an_expected_answer_passes_also_when_it_says_more(self):
+        self.assert_passes(self.run_on('snapshot\n=> {"entry":"1","caret":1}\n', *self.driver(
+            'snapshot={"caret":1.0,"entry":"1","tape":""}')))
+
+    def test_another_answer_fails_and_shows_the_difference(self):
+        self.assert_fails(self.run_on('snapshot\n=> {"entry":"1","caret":1}\n', *self.driver(
+            'snapshot={"entry":"2","caret":1}')), '    expected  {"entry": "1"}')
+
+    def test_true_is_not_one(self):
+        self.assert_fails(self.run_on('get\n=> {"value":1}\n', *self.driver('get={"value":true}')),
+                          "one.txt:1: get")
+
+    def test_an_error_fails_where_none_is_expected(self):
+        self.assert_fails(self.run_on("start\n", *self.driver('start={"error":"why"}')),
+                          '    got       {"error": "why"}')
+
+    def test_any_error_passes_where_one_is_expected(self):
+        self.assert_passes(self.run_on('start\n=> {"error":"*"}\n',
+                                       *self.driver('start={"error":"why"}')))
+
+    def test_a_driver_that_hangs_fails(self):
+        self.assert_fails(self.run_on("start\n", "--timeout", "0.5", *self.driver("start=silence")),
+                          "    no answer")
+
+    def test_a_driver_that_ends_badly_fails(self):
+        self.assert_fails(self.run_on("start\n", "false"), "    the driver ended with code 1")
+
+    def test_two_drivers_that_agree_pass(self):
+        same = self.driver('get={"value":2}')
+        self.assert_passes(self.run_on("get\n", "--compare", *same, "--", *same))
+
+    def test_two_drivers_that_differ_fail(self):
+        self.assert_fails(self.run_on("get\n", "--compare", *self.driver('get={"value":2}'), "--",
+                                      *self.driver('get={"value":3}')), "    the drivers differ")
+
+    def test_a_scenario_for_memory_alone_is_left_out_aloud_on_real_windows(self):
+        code, said = self.run_on("# only: in-memory\nfiles\n", "--real-windows", *self.driver())
+        self.assertEqual((code, said[-1]), (0, "0 passed, 0 failed, 1 skipped"))
+        self.assertEqual(said[0], "one.txt: left out, only for the in-memory driver")
+
+    def test_no_scenario_at_all_fails(self):
+        self.assertEqual(self.run_on("start\n", "--only", "other", *self.driver())[0], 1)
+
+
+if __name__ == "__main__":
+    unittest.main()

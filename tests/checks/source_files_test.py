@@ -1,0 +1,72 @@
+"""Source files are formatted, short, and built."""
+import re
+import shutil
+import subprocess
+import unittest
+
+import tree
+
+MOST_LINES = 400
+# Each release formats a little differently; this is the one that the tree is formatted with.
+CLANG_FORMAT_RELEASE = "14"
+
+
+def sources():
+    return tree.files(".h", ".cpp", below="src") + tree.files(".h", ".cpp", below="tests")
+
+
+def clang_format():
+    """The formatter of our release, or None."""
+    for command in ("clang-format-" + CLANG_FORMAT_RELEASE, "clang-format"):
+        if shutil.which(command):
+            version = subprocess.run([command, "--version"], stdout=subprocess.PIPE, check=True,
+                                     text=True).stdout
+            if re.search(r"\b%s\." % CLANG_FORMAT_RELEASE, version):
+                return command
+    return None
+
+
+def unformatted(command, paths):
+    """The names of the files that the formatter would change."""
+    done = subprocess.run([command, "--dry-run", "--Werror", *paths], stderr=subprocess.PIPE,
+                          text=True, check=False)
+    places = re.findall(r"^(.*?):\d+:\d+: error:", done.stderr, re.MULTILINE)
+    return sorted(set(places) or ({done.stderr} if done.returncode else set()))
+
+
+class SourceFiles(unittest.TestCase):
+    def test_all_are_formatted(self):
+        command = clang_format()
+        if not command:
+            self.skipTest("no clang-format %s here" % CLANG_FORMAT_RELEASE)
+        self.assertEqual(unformatted(command, [str(path) for path in sources()]), [])
+
+    def test_none_is_too_long(self):
+        longest = {tree.name(path): len(tree.lines(path))
+                   for path in sources() + tree.files(".py", ".sh", ".cmd", ".cmake")}
+        self.assertEqual({file: n for file, n in longest.items() if n > MOST_LINES}, {})
+
+    def test_each_stands_in_the_list_of_its_folder(self):
+        for path in tree.files(".cpp", below="src") + tree.files(".cpp", below="tests"):
+            with self.subTest(file=tree.name(path)):
+                self.assertTrue(self.is_listed(path), "in no CMakeLists.txt")
+
+    @staticmethod
+    def is_listed(path):
+        folder = path.parent
+        while folder != tree.ROOT:
+            cmake = folder / "CMakeLists.txt"
+            if cmake.exists():
+                wanted = re.escape(path.relative_to(folder).as_posix())
+                return re.search(r"(?<![\w/])%s\b" % wanted, cmake.read_text(encoding="utf-8"))
+            folder = folder.parent
+        return False
+
+    def test_headers_are_guarded_by_pragma_once(self):
+        for path in tree.files(".h", below="src") + tree.files(".h", below="tests"):
+            with self.subTest(file=tree.name(path)):
+                self.assertIn("#pragma once", tree.lines(path))
+
+
+if __name__ == "__main__":
+    unittest.main()
