@@ -3,7 +3,8 @@
 namespace app {
 
 void Application::start() {
-  calc_ = std::make_unique<shell::frmCalc>(desktop_, globals_, *this);
+  shell::Program& program = *this;
+  calc_ = std::make_unique<shell::frmCalc>(desktop_, globals_, program);
   calc_->show();
 }
 

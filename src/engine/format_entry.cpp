@@ -85,7 +85,8 @@ void Engine::DropSignOfZero() {
     RewriteEntry(text.substr(1), std::max(c_.txtEntry.selStart() - 1, 0));
 }
 
-void Engine::RepairEntry() {
+void Engine::TidyEntry() {
+  FormatEntry();
   DropLeadingCommas();
 }
 

@@ -1,0 +1,72 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "driver/command.h"
+#include "driver/json.h"
+#include "driver/stage.h"
+
+namespace driver {
+
+/// Carries out the driver's commands on a stage.
+class Driver {
+ public:
+  explicit Driver(Stage& stage) : stage_(stage) {}
+
+  /// The answer to one line: one line of JSON. Nothing for a blank line or a comment.
+  std::string answer(const std::string& line);
+  bool quitting() const { return quitting_; }
+
+ private:
+  using Handler = void (Driver::*)(Command&);
+  struct Entry;
+  static const Entry kCommands[];
+
+  void carryOut(Command& command);
+
+  void start(Command& command);
+  void close(Command& command);
+  void bringToFront(Command& command);
+  void type(Command& command);
+  void roll(Command& command);
+  void press(Command& command);
+  void click(Command& command);
+  void doubleClick(Command& command);
+  void focus(Command& command);
+  void select(Command& command);
+  void mousePaste(Command& command);
+  void choose(Command& command);
+  void resize(Command& command);
+  void move(Command& command);
+  void minimize(Command& command);
+  void maximize(Command& command);
+  void restore(Command& command);
+  void clipboard(Command& command);
+  void store(Command& command);
+  void queueAnswer(Command& command);
+  void queueColor(Command& command);
+  void programs(Command& command) { arrange("programs", command); }
+  void registry(Command& command);
+  void files(Command& command) { arrange("files", command); }
+  void call(Command& command);
+  void get(Command& command);
+  void snapshot(Command& command);
+  void events(Command& command);
+  void quit(Command& command);
+
+  void arrange(const std::string& name, Command& command);
+  void setState(Command& command, controls::WindowState state);
+
+  controls::Window& window(const std::string& name);
+  controls::Control& control(const std::string& name);
+  controls::Control& usableControl(const std::string& name);
+  controls::TextBox& textBox(const std::string& name);
+  void requireRunning();
+
+  Stage& stage_;
+  Json value_;
+  bool quitting_ = false;
+};
+
+}  // namespace driver

@@ -1,0 +1,140 @@
+#include "driver/in_memory_stage.h"
+
+#include "inmemory/window.h"
+
+namespace driver {
+
+controls::Window* InMemoryStage::findWindow(std::string_view name) {
+  return app_ ? app_->findWindow(name) : nullptr;
+}
+
+void InMemoryStage::start(const std::string& name) {
+  desktop_.name = name;
+  app_ = std::make_unique<app::Application>(desktop_);
+  app_->start();
+}
+
+void InMemoryStage::keyDown(const controls::KeyStroke& stroke, controls::KeyAscii character) {
+  keyboard_.down(stroke, character);
+}
+
+void InMemoryStage::keyUp(const controls::KeyStroke& stroke) {
+  if (!stroke.alt) keyboard_.up(stroke.key);
+}
+
+// The mouse brings the window to the front and gives the control the focus.
+void InMemoryStage::moveTo(controls::Control& control) {
+  desktop_.bringToFront(control.window());
+  control.setFocus();
+}
+
+void InMemoryStage::click(controls::Control& control) {
+  moveTo(control);
+  if (auto* clickable = dynamic_cast<controls::ClickControl*>(&control)) clickable->click();
+}
+
+void InMemoryStage::doubleClick(controls::Control& control) {
+  moveTo(control);
+  control.doubleClick();
+}
+
+void InMemoryStage::focus(controls::Control& control) {
+  moveTo(control);
+}
+
+void InMemoryStage::select(controls::TextBox& box, int start, int length) {
+  box.select(start, length);
+}
+
+void InMemoryStage::mousePaste(controls::TextBox& box, const std::string& text) {
+  moveTo(box);
+  box.mouseDown();
+  box.paste(text);
+  box.mouseUp();
+}
+
+void InMemoryStage::choose(controls::MenuItem& item) {
+  item.choose();
+}
+
+void InMemoryStage::resize(controls::Window& window, controls::Twips width,
+                           controls::Twips height) {
+  window.setBounds({window.bounds().left, window.bounds().top, width, height});
+}
+
+void InMemoryStage::move(controls::Window& window, controls::Twips left, controls::Twips top) {
+  window.setBounds({left, top, window.bounds().width, window.bounds().height});
+}
+
+void InMemoryStage::setState(controls::Window& window, controls::WindowState state) {
+  window.setState(state);
+}
+
+std::optional<std::string> InMemoryStage::readSetting(const std::string& section,
+                                                      const std::string& key) {
+  return desktop_.settings().read(section, key);
+}
+
+void InMemoryStage::writeSetting(const std::string& section, const std::string& key,
+                                 const std::string& text) {
+  desktop_.settings().write(section, key, text);
+}
+
+void InMemoryStage::deleteSetting(const std::string& section, const std::string& key) {
+  auto& sections = desktop_.stores[desktop_.name].sections;
+  const auto found = sections.find(section);
+  if (found == sections.end()) return;
+  found->second.erase(key);
+  if (found->second.empty()) sections.erase(found);
+}
+
+void InMemoryStage::clearSettings() {
+  desktop_.stores[desktop_.name].sections.clear();
+}
+
+Json InMemoryStage::dumpSettings() {
+  Json dump = Json::object();
+  for (const auto& [section, values] : desktop_.stores[desktop_.name].sections)
+    for (const auto& [key, text] : values) dump[section][key] = text;
+  return dump;
+}
+
+Json InMemoryStage::takeEvents() {
+  Json boxes = Json::array();
+  for (const auto& [box, answer] : desktop_.boxes)
+    boxes.push_back({{"text", box.text},
+                     {"title", box.title},
+                     {"buttons", box.buttons == controls::Buttons::Ok ? "OK" : "YesNo"},
+                     {"icon", box.icon == controls::Icon::None ? "none" : "question"},
+                     {"answer", answer}});
+  Json launches = Json::array();
+  for (const auto& [program, keys] : desktop_.launches)
+    launches.push_back({{"program", program}, {"keys", keys}});
+  Json help = Json::array();
+  for (const auto& request : desktop_.helpRequests) {
+    const bool winHelp = request.caller == controls::HelpRequest::Caller::WinHelp;
+    help.push_back({{"call", winHelp ? "WinHelp" : "CommonDialog"},
+                    {"file", request.file},
+                    {"command", request.command},
+                    {"data", request.data}});
+  }
+  const int beeps = desktop_.beeps;
+  desktop_.beeps = 0;
+  desktop_.boxes.clear();
+  desktop_.launches.clear();
+  desktop_.helpRequests.clear();
+  return {{"beeps", beeps}, {"boxes", boxes}, {"launches", launches}, {"help", help}};
+}
+
+bool InMemoryStage::arrange(const std::string& command, const std::vector<std::string>& texts) {
+  if (command == "programs") {
+    desktop_.programs = {texts.begin(), texts.end()};
+  } else if (command == "files") {
+    desktop_.files = {texts.begin(), texts.end()};
+  } else {
+    desktop_.registry[{texts[0], texts[1]}] = texts[2];
+  }
+  return true;
+}
+
+}  // namespace driver

@@ -1,0 +1,56 @@
+#pragma once
+
+#include <memory>
+
+#include "app/application.h"
+#include "driver/stage.h"
+#include "inmemory/desktop.h"
+#include "inmemory/keyboard.h"
+
+namespace driver {
+
+/// The program on controls without a screen.
+class InMemoryStage : public Stage {
+ public:
+  void inspect(const std::function<void()>& body) override { body(); }
+  controls::Window* findWindow(std::string_view name) override;
+  bool running() override { return app_ && !app_->ended(); }
+  void start(const std::string& name) override;
+  void close(controls::Window& window) override { window.requestClose(); }
+  void bringToFront(controls::Window& window) override { desktop_.bringToFront(window); }
+  void keyDown(const controls::KeyStroke& stroke, controls::KeyAscii character) override;
+  void keyUp(const controls::KeyStroke& stroke) override;
+  void click(controls::Control& control) override;
+  void doubleClick(controls::Control& control) override;
+  void focus(controls::Control& control) override;
+  void select(controls::TextBox& box, int start, int length) override;
+  void mousePaste(controls::TextBox& box, const std::string& text) override;
+  void choose(controls::MenuItem& item) override;
+  void resize(controls::Window& window, controls::Twips width, controls::Twips height) override;
+  void move(controls::Window& window, controls::Twips left, controls::Twips top) override;
+  void setState(controls::Window& window, controls::WindowState state) override;
+  std::optional<std::string> clipboardText() override { return desktop_.clipboard; }
+  void setClipboard(const std::optional<std::string>& text) override { desktop_.clipboard = text; }
+  std::optional<std::string> readSetting(const std::string& section,
+                                         const std::string& key) override;
+  void writeSetting(const std::string& section, const std::string& key,
+                    const std::string& text) override;
+  void deleteSetting(const std::string& section, const std::string& key) override;
+  void clearSettings() override;
+  Json dumpSettings() override;
+  void queueAnswer(int answer) override { desktop_.answers.push_back(answer); }
+  void queueColor(const std::optional<std::uint32_t>& color) override {
+    desktop_.colors.push_back(color);
+  }
+  Json takeEvents() override;
+  bool arrange(const std::string& command, const std::vector<std::string>& texts) override;
+
+ private:
+  void moveTo(controls::Control& control);
+
+  inmemory::Desktop desktop_;
+  inmemory::Keyboard keyboard_{desktop_};
+  std::unique_ptr<app::Application> app_;
+};
+
+}  // namespace driver
