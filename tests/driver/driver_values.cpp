@@ -82,7 +82,6 @@ void Driver::get(Command& command) {
   const std::string name = command.word();
   const std::string property = command.word();
   command.end();
-  requireRunning();
   Json value;
   std::string failure;
   stage_.inspect([&] {
