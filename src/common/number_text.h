@@ -6,17 +6,17 @@
 
 namespace common {
 
-/// The number that a text stands for. Accepted: blanks and tabs around; one sign in front or a minus
-/// behind; "$"; parentheses for a negative; digits with "," anywhere in the integer part; a "." ;
-/// an exponent. Raises error 13 on any other text, error 6 beyond the range of a double.
+/// The number that a text stands for. Accepted: blanks and tabs around; one sign in front or a
+/// minus behind; "$"; parentheses for a negative; digits with "," anywhere in the integer part; a
+/// "." ; an exponent. Raises error 13 on any other text, error 6 beyond the range of a double.
 double toNumber(std::string_view text);
 
 /// As toNumber, with nothing in the place of either error.
 std::optional<double> tryNumber(std::string_view text);
 
 /// The shortest general text of a finite number: at most 15 significant digits, correctly rounded,
-/// an exponent ("1E+15", "3.33333333333333E-06") only where fixed notation needs more than 15 digits
-/// in front of the point or behind it. Zero of either sign is "0".
+/// an exponent ("1E+15", "3.33333333333333E-06") only where fixed notation needs more than 15
+/// digits in front of the point or behind it. Zero of either sign is "0".
 std::string toText(double value);
 
 /// A number that is not written plainly (exponent, "$", parentheses, a minus behind, blanks around,
@@ -25,8 +25,8 @@ std::string toText(double value);
 /// toNumber does.
 std::string toPlainText(std::string_view text);
 
-/// A number in decimal: 0.DIGITS times ten to the power of `point`, so that `point` is the number of
-/// digits in front of the decimal point. Zero has no digits and no sign.
+/// A number in decimal: 0.DIGITS times ten to the power of `point`, so that `point` is the number
+/// of digits in front of the decimal point. Zero has no digits and no sign.
 struct DecimalDigits {
   bool negative = false;
   std::string digits;

@@ -19,8 +19,8 @@ class SettingsStore {
 double readNumber(const SettingsStore& store, std::string_view section, std::string_view key,
                   double fallback);
 
-/// The stored truth value: True and False as words, any number other than 0 is true; `fallback` when
-/// the key is absent or its text is neither.
+/// The stored truth value: True and False as words, any number other than 0 is true; `fallback`
+/// when the key is absent or its text is neither.
 bool readTruth(const SettingsStore& store, std::string_view section, std::string_view key,
                bool fallback);
 
