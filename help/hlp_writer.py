@@ -6,7 +6,9 @@ from hlp_topic_file import TopicFile
 
 _MAGIC = 0x00035F3F
 _SYSTEM_MAGIC, _VERSION_3_1, _PACKED = 0x036C, 21, 4
-_TITLE_RECORD, _CONTENTS_RECORD, _MACRO_RECORD = 1, 3, 4
+_TITLE_RECORD, _CONTENTS_RECORD, _MACRO_RECORD, _WINDOW_RECORD = 1, 3, 4, 6
+# Left, top, width, height: the viewer divides the screen into 1024 parts either way, Wine's takes pixels.
+_WINDOW_PLACE = (60, 40, 560, 800)
 _DIRECTORY_PAGE, _PAGE = 0x400, 0x800
 
 
@@ -34,10 +36,20 @@ def _system_file(title, contents_offset):
         (_TITLE_RECORD, text(title)),
         (_CONTENTS_RECORD, u32(contents_offset)),
         (_MACRO_RECORD, text("BrowseButtons()")),
+        (_WINDOW_RECORD, _window_record(title)),
     )
     # No date: the same topics give the same file.
     header = u16(_SYSTEM_MAGIC) + u16(_VERSION_3_1) + u16(1) + u32(0) + u16(_PACKED)
     return header + b"".join(u16(kind) + u16(len(data)) + data for kind, data in records)
+
+
+def _window_record(title):
+    """The caption and the place of the main window."""
+    given = 0x01 | 0x02 | 0x04 | 0x08 | 0x10 | 0x20 | 0x40
+    names = b"primary".ljust(10, b"\0") + b"main".ljust(9, b"\0") + text(title).ljust(51, b"\0")
+    place = b"".join(u16(value) for value in _WINDOW_PLACE) + u16(0)
+    white = bytes([255, 255, 255, 0])
+    return u16(given) + names + place + white + white
 
 
 def _context_file(topics, offsets):

@@ -37,7 +37,7 @@ def find_problems(topics):
             if target not in slugs:
                 problems.append(f"{topic.slug}: links to '{target}', which is no topic")
         problems += _text_problems(topic)
-    return problems + _reach_problems(topics)
+    return problems + _keyword_problems(topics) + _reach_problems(topics)
 
 
 def _number_problems(topics):
@@ -68,6 +68,17 @@ def _text_problems(topic):
             text.encode("cp1252")
         except UnicodeEncodeError as error:
             problems.append(f"{topic.slug}: '{text[error.start]}' cannot be shown by the help viewer")
+    return problems
+
+
+def _keyword_problems(topics):
+    """The index lists words that differ by capitals only as two."""
+    problems, written = [], {}
+    for topic in topics:
+        for keyword in topic.keywords:
+            first = written.setdefault(keyword.lower(), keyword)
+            if first != keyword:
+                problems.append(f"{topic.slug}: the keyword '{keyword}' is also written '{first}'")
     return problems
 
 

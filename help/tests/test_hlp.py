@@ -37,6 +37,8 @@ class HlpTest(unittest.TestCase):
         self.assertEqual(records[1], b"Tallyrex Help\0")
         self.assertEqual(struct.unpack("<I", records[3])[0], self.offsets["contents"])
         self.assertEqual(records[4], b"BrowseButtons()\0")
+        self.assertEqual(records[6][12:16] + records[6][21:35], b"mainTallyrex Help\0")
+        self.assertEqual(len(records[6]), 90)
 
     def test_shows_every_word_of_every_topic(self):
         for topic, read in zip(TOPICS, self.file.topics):

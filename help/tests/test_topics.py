@@ -86,6 +86,11 @@ class ProblemsTest(unittest.TestCase):
         self.topics.append(topic("third", 3, "Text", "see: nowhere\n"))
         self.assertEqual(find_problems(self.topics), ["third: links to 'nowhere', which is no topic"])
 
+    def test_a_keyword_written_in_two_ways(self):
+        self.topics[0].keywords = ["Add Mode"]
+        self.topics[1].keywords = ["add mode"]
+        self.assertEqual(find_problems(self.topics), ["money: the keyword 'add mode' is also written 'Add Mode'"])
+
     def test_a_character_that_the_viewer_lacks(self):
         self.topics.append(topic("third", 3, "The key \u221a"))
         self.assertEqual(find_problems(self.topics), ["third: '\u221a' cannot be shown by the help viewer"])
