@@ -1,6 +1,7 @@
+import re
 import unittest
 
-from support import TOPICS, one_spaced
+from support import HELP, TOPICS, one_spaced
 
 # Every message of the program, in the pieces between which it puts what the user typed.
 MESSAGES = [
@@ -90,6 +91,21 @@ def explains(shown, message):
     return at == len(shown)
 
 
+_LITERAL = re.compile(r'"((?:[^"\\]|\\.)*)"')
+_BETWEEN_PIECES = re.compile(r'(?<!\\)"\s+"')
+
+
+def messages_in(source):
+    """The literal pieces of the messages that a C++ source shows."""
+    pieces = []
+    for call in source.split("showMessage(")[1:]:
+        # The text ends where the statement does, or the next member of the message box begins.
+        statement = re.split(r",\s*\.(?:buttons|icon|title)\b|\);", call, maxsplit=1)[0]
+        joined = _BETWEEN_PIECES.sub("", statement)
+        pieces += [literal.replace('\\"', '"') for literal in _LITERAL.findall(joined)]
+    return pieces
+
+
 class MessagesTest(unittest.TestCase):
     def setUp(self):
         self.shown = [(topic.slug, one_spaced(message)) for topic in TOPICS for message in topic.messages]
@@ -102,6 +118,23 @@ class MessagesTest(unittest.TestCase):
     def test_no_topic_explains_a_message_that_does_not_exist(self):
         for slug, shown in self.shown:
             self.assertTrue(any(explains(shown, message) for message in MESSAGES), f"{slug}: {shown}")
+
+    def test_every_message_in_the_sources_has_a_topic(self):
+        found = 0
+        for path in sorted((HELP.parent / "src").rglob("*.cpp")):
+            for piece in messages_in(path.read_text(encoding="utf-8")):
+                found += 1
+                self.assertTrue(any(one_spaced(piece) in shown for _, shown in self.shown), f"{path.name}: {piece}")
+        self.assertGreater(found, 10)
+
+    def test_messages_are_found_in_a_source(self):
+        source = r"""
+          desktop_.showMessage({.text = "One \"piece\" and "
+                                        "another " + text() + "."});
+          other("Not this");
+          desktop_.showMessage({.text = "A question?", .title = "Its title"});
+        """
+        self.assertEqual(messages_in(source), ['One "piece" and another ', ".", "A question?"])
 
     def test_messages_stand_in_their_chapter(self):
         self.assertEqual({topic.chapter for topic in TOPICS if topic.messages}, {"Messages"})
