@@ -5,6 +5,8 @@ from topic_source import LINK, ContentsList, Heading, ListBlock, Note, Paragraph
 CONTENTS_NUMBER = 1
 FINANCIAL_CALCULATOR_NUMBER = 23
 FINANCIAL_CALCULATOR_TITLE = "Financial calculator"
+# In characters, at the size in which the help window opens.
+_MOST_BEFORE_LAST_COLUMN, _MOST_IN_TABLE = 56, 84
 
 
 def spans_of(block):
@@ -36,7 +38,7 @@ def find_problems(topics):
         for target in links_of(topic, topics):
             if target not in slugs:
                 problems.append(f"{topic.slug}: links to '{target}', which is no topic")
-        problems += _text_problems(topic)
+        problems += _text_problems(topic) + _table_problems(topic)
     return problems + _keyword_problems(topics) + _reach_problems(topics)
 
 
@@ -68,6 +70,17 @@ def _text_problems(topic):
             text.encode("cp1252")
         except UnicodeEncodeError as error:
             problems.append(f"{topic.slug}: '{text[error.start]}' cannot be shown by the help viewer")
+    return problems
+
+
+def _table_problems(topic):
+    """The viewer sets tables with tabs: only the last column wraps, and it needs some room for that."""
+    problems = []
+    for block in topic.blocks:
+        if isinstance(block, Table):
+            widths = [max(len("".join(span.text for span in cell)) for cell in column) for column in zip(*block.rows)]
+            if sum(widths[:-1]) > _MOST_BEFORE_LAST_COLUMN and sum(widths) > _MOST_IN_TABLE:
+                problems.append(f"{topic.slug}: a table leaves too little room for its last column")
     return problems
 
 

@@ -91,6 +91,13 @@ class ProblemsTest(unittest.TestCase):
         self.topics[1].keywords = ["add mode"]
         self.assertEqual(find_problems(self.topics), ["money: the keyword 'add mode' is also written 'Add Mode'"])
 
+    def test_a_table_that_is_too_wide(self):
+        wide = "| " + "x" * 57 + " | " + "y " * 20 + " |"
+        self.topics.append(topic("third", 3, wide))
+        self.assertEqual(find_problems(self.topics), ["third: a table leaves too little room for its last column"])
+        self.topics[-1] = topic("third", 3, wide.replace("y " * 20, "y"))
+        self.assertEqual(find_problems(self.topics), [])
+
     def test_a_character_that_the_viewer_lacks(self):
         self.topics.append(topic("third", 3, "The key \u221a"))
         self.assertEqual(find_problems(self.topics), ["third: '\u221a' cannot be shown by the help viewer"])
