@@ -1,0 +1,43 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "contract/kind.h"
+
+namespace contract {
+
+/// A window with one control of each sort and a menu, shown and in front.
+const controls::WindowLayout& testLayout();
+/// A second window, which has no menu.
+const controls::WindowLayout& plainLayout();
+
+class ContractTest : public testing::Test {
+ protected:
+  ContractTest();
+
+  /// Types a character of the common keyboard, or "\b" and "\r".
+  void type(std::string_view text);
+  void press(controls::KeyCode key, controls::KeyAscii character = 0);
+  void pressControl(char letter);
+  /// The events noted since the last call, one word each.
+  std::vector<std::string> takeLog();
+  void note(const std::string& event) { log_.push_back(event); }
+
+  std::unique_ptr<Kind> kind_;
+  std::unique_ptr<controls::Window> window_;
+  controls::TextBox& first_;
+  controls::TextBox& second_;
+  controls::TextBox& tape_;
+  controls::Button& button_;
+  controls::ToggleButton& toggle_;
+
+ private:
+  std::vector<std::string> log_;
+};
+
+using Log = std::vector<std::string>;
+
+}  // namespace contract

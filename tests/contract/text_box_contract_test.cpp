@@ -1,0 +1,257 @@
+#include <map>
+
+#include "contract/contract_test.h"
+
+namespace contract {
+
+using controls::ChangedBy;
+
+class TextBoxContract : public ContractTest, public testing::WithParamInterface<const char*> {
+ protected:
+  TextBoxContract() : box_(window_->textBox(GetParam())) {
+    box_.setFocus();
+    kind_->settle();
+    box_.onChange = [this](ChangedBy by) { note(by == ChangedBy::User ? "user" : "program"); };
+  }
+
+  controls::TextBox& box_;
+};
+
+INSTANTIATE_TEST_SUITE_P(Boxes, TextBoxContract, testing::Values("first", "tape"));
+
+TEST_P(TextBoxContract, AssignedTextHasItsCaretAtTheStartAndIsAChange) {
+  box_.setText("12345");
+  box_.select(2, 2);
+  takeLog();
+  box_.setText("12345");
+  EXPECT_EQ(box_.text(), "12345");
+  EXPECT_EQ(box_.selStart(), 0);
+  EXPECT_EQ(box_.selLength(), 0);
+  EXPECT_EQ(takeLog(), Log{"program"});
+}
+
+TEST_P(TextBoxContract, AssignedCaretDropsTheSelection) {
+  box_.setText("12345");
+  box_.select(1, 3);
+  EXPECT_EQ(box_.selectedText(), "234");
+  EXPECT_EQ(box_.textWithoutSelection(), "15");
+  box_.setSelStart(2);
+  EXPECT_EQ(box_.selStart(), 2);
+  EXPECT_EQ(box_.selLength(), 0);
+}
+
+TEST_P(TextBoxContract, SelectionIsKeptWithinTheText) {
+  box_.setText("123");
+  box_.select(2, 9);
+  EXPECT_EQ(box_.selStart(), 2);
+  EXPECT_EQ(box_.selLength(), 1);
+  box_.select(-4, 2);
+  EXPECT_EQ(box_.selStart(), 0);
+  EXPECT_EQ(box_.selLength(), 2);
+  box_.setSelStart(99);
+  EXPECT_EQ(box_.selStart(), 3);
+}
+
+TEST_P(TextBoxContract, TypedCharacterIsInsertedAtTheCaret) {
+  box_.setText("13");
+  box_.setSelStart(1);
+  takeLog();
+  type("2");
+  EXPECT_EQ(box_.text(), "123");
+  EXPECT_EQ(box_.selStart(), 2);
+  EXPECT_EQ(takeLog(), Log{"user"});
+}
+
+TEST_P(TextBoxContract, TypedCharacterReplacesTheSelection) {
+  box_.setText("1995");
+  box_.select(1, 2);
+  takeLog();
+  type("2");
+  EXPECT_EQ(box_.text(), "125");
+  EXPECT_EQ(box_.selStart(), 2);
+  EXPECT_EQ(box_.selLength(), 0);
+  EXPECT_EQ(takeLog(), Log{"user"});
+}
+
+TEST_P(TextBoxContract, BackspaceDeletesInFrontOfTheCaretOrTheSelection) {
+  box_.setText("12345");
+  box_.setSelStart(2);
+  takeLog();
+  type("\b");
+  EXPECT_EQ(box_.text(), "1345");
+  EXPECT_EQ(box_.selStart(), 1);
+  box_.select(1, 2);
+  type("\b");
+  EXPECT_EQ(box_.text(), "15");
+  EXPECT_EQ(takeLog(), (Log{"user", "user"}));
+}
+
+TEST_P(TextBoxContract, DeleteDeletesBehindTheCaretOrTheSelection) {
+  box_.setText("12345");
+  box_.setSelStart(2);
+  takeLog();
+  press(controls::kKeyDelete);
+  EXPECT_EQ(box_.text(), "1245");
+  EXPECT_EQ(box_.selStart(), 2);
+  box_.select(0, 3);
+  press(controls::kKeyDelete);
+  EXPECT_EQ(box_.text(), "5");
+  EXPECT_EQ(takeLog(), (Log{"user", "user"}));
+}
+
+TEST_P(TextBoxContract, EditThatChangesNothingIsNoChange) {
+  box_.setText("12");
+  takeLog();
+  type("\b");
+  box_.moveCaretToEnd();
+  press(controls::kKeyDelete);
+  press(controls::kKeyLeft);
+  EXPECT_EQ(box_.text(), "12");
+  EXPECT_EQ(takeLog(), Log{});
+}
+
+TEST_P(TextBoxContract, KeyStrokeIsPressEditChangeRelease) {
+  box_.onKeyPress = [this](controls::KeyAscii& key) {
+    note("press " + std::to_string(key) + " at " + box_.text());
+  };
+  box_.onKeyUp = [this](controls::KeyCode key) {
+    note("up " + std::to_string(key) + " at " + box_.text());
+  };
+  type("7");
+  EXPECT_EQ(takeLog(), (Log{"press 55 at ", "user", "up 55 at 7"}));
+  press(controls::kKeyHome);
+  EXPECT_EQ(takeLog(), Log{"up 36 at 7"});
+}
+
+TEST_P(TextBoxContract, KeyPressMayDiscardTheCharacter) {
+  box_.onKeyPress = [](controls::KeyAscii& key) { key = 0; };
+  type("7\b");
+  EXPECT_EQ(box_.text(), "");
+  EXPECT_EQ(takeLog(), Log{});
+}
+
+TEST_P(TextBoxContract, KeyPressMayMoveTheCaretBeforeTheEdit) {
+  box_.setText("1,234");
+  box_.setSelStart(2);
+  box_.onKeyPress = [this](controls::KeyAscii&) { box_.setSelStart(1); };
+  type("\b");
+  EXPECT_EQ(box_.text(), ",234");
+  EXPECT_EQ(box_.selStart(), 0);
+}
+
+TEST_P(TextBoxContract, KeyPressMayAssignTheTextBeforeTheEdit) {
+  box_.setText("15");
+  box_.onKeyPress = [this](controls::KeyAscii&) { box_.setText(""); };
+  type("7");
+  EXPECT_EQ(box_.text(), "7");
+  EXPECT_EQ(box_.selStart(), 1);
+}
+
+TEST_P(TextBoxContract, PastedTextReplacesTheSelection) {
+  box_.setText("1995");
+  box_.select(1, 2);
+  takeLog();
+  box_.paste("23");
+  EXPECT_EQ(box_.text(), "1235");
+  EXPECT_EQ(box_.selStart(), 3);
+  EXPECT_EQ(takeLog(), Log{"user"});
+}
+
+TEST_P(TextBoxContract, PasteHandlerMayChangeOrDiscardTheText) {
+  box_.onPaste = [](std::string& text) { text = text == "drop" ? "" : "<" + text + ">"; };
+  box_.paste("a");
+  box_.paste("drop");
+  EXPECT_EQ(box_.text(), "<a>");
+}
+
+TEST_P(TextBoxContract, AppendedTextHasTheCaretBehindIt) {
+  box_.setText("Top");
+  takeLog();
+  box_.append("12");
+  EXPECT_EQ(box_.text(), "Top12");
+  EXPECT_EQ(box_.selStart(), 5);
+  EXPECT_EQ(takeLog(), Log{"program"});
+}
+
+TEST_P(TextBoxContract, LettersOfOtherLanguagesCountAsOneCharacter) {
+  box_.setText("€ä7");
+  EXPECT_EQ(box_.length(), 3);
+  box_.select(1, 1);
+  EXPECT_EQ(box_.selectedText(), "ä");
+  EXPECT_EQ(box_.textWithoutSelection(), "€7");
+}
+
+TEST_P(TextBoxContract, AlignmentChangesWithoutTouchingTheText) {
+  box_.setText("12345");
+  box_.select(1, 2);
+  takeLog();
+  box_.setAlignment(controls::Alignment::Left);
+  box_.setAlignment(controls::Alignment::Right);
+  EXPECT_EQ(box_.text(), "12345");
+  EXPECT_EQ(box_.selStart(), 1);
+  EXPECT_EQ(box_.selLength(), 2);
+  EXPECT_EQ(takeLog(), Log{});
+}
+
+class OneLineContract : public ContractTest {};
+
+TEST_F(OneLineContract, LineBreakEndsAPaste) {
+  first_.paste("12\r\n34");
+  EXPECT_EQ(first_.text(), "12");
+}
+
+TEST_F(OneLineContract, PasteHandlerDecidesAboutLineBreaks) {
+  first_.onPaste = [](std::string&) {};
+  first_.paste("12\r\n34");
+  EXPECT_EQ(first_.text(), "12\r\n34");
+}
+
+class TapeContract : public ContractTest {
+ protected:
+  TapeContract() {
+    tape_.setFocus();
+    kind_->settle();
+  }
+};
+
+TEST_F(TapeContract, IsEditedByHand) {
+  tape_.setText("Top\r\n12.00 + ");
+  tape_.setSelStart(3);
+  type(" rent\rx");
+  EXPECT_EQ(tape_.text(), "Top rent\r\nx\r\n12.00 + ");
+  EXPECT_EQ(tape_.selStart(), 11);
+}
+
+TEST_F(TapeContract, CountsALineBreakAsTwoCharacters) {
+  tape_.setText("a\r\nb\r\nc");
+  EXPECT_EQ(tape_.length(), 7);
+  tape_.select(3, 4);
+  EXPECT_EQ(tape_.selStart(), 3);
+  EXPECT_EQ(tape_.selLength(), 4);
+  EXPECT_EQ(tape_.selectedText(), "b\r\nc");
+}
+
+TEST_F(TapeContract, HomeAndEndGoToTheEndsOfTheLine) {
+  tape_.setText("one\r\ntwo");
+  tape_.setSelStart(6);
+  press(controls::kKeyEnd);
+  EXPECT_EQ(tape_.selStart(), 8);
+  press(controls::kKeyHome);
+  EXPECT_EQ(tape_.selStart(), 5);
+  press(controls::kKeyUp);
+  EXPECT_EQ(tape_.selStart(), 0);
+}
+
+TEST_F(TapeContract, TakesLinesWithoutEnd) {
+  std::string expected = "Top";
+  tape_.setText("Top");
+  for (int line = 0; line < 300; ++line) {
+    tape_.append("\r\n1,234.50 + ");
+    expected += "\r\n1,234.50 + ";
+  }
+  EXPECT_EQ(tape_.text(), expected);
+  EXPECT_EQ(tape_.length(), static_cast<int>(expected.size()));
+  EXPECT_EQ(tape_.selStart(), tape_.length());
+}
+
+}  // namespace contract
