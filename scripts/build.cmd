@@ -1,0 +1,72 @@
+@echo off
+rem Finds or installs the tools, then builds with them:  scripts\build.cmd ON/OFF [TARGET...]
+rem ON builds the tests too, which need vcpkg (VCPKG_ROOT) or a MinGW with GoogleTest and nlohmann-json.
+cd /d "%~dp0.."
+set tests=%1
+set targets=
+set toolchain=
+shift
+:nextTarget
+if "%~1"=="" goto findCompiler
+set targets=%targets% %1
+shift
+goto nextTarget
+
+:findCompiler
+where cl >nul 2>nul
+if not errorlevel 1 goto findCMake
+call :useVisualStudio
+where cl >nul 2>nul
+if not errorlevel 1 goto findCMake
+where g++ >nul 2>nul
+if not errorlevel 1 goto useMinGW
+echo Installing the compiler, CMake and Ninja (Visual Studio Build Tools, by winget)
+winget install --id Microsoft.VisualStudio.2022.BuildTools --override "--wait --passive --add Microsoft.VisualStudio.Workload.VCTools --includeRecommended"
+call :useVisualStudio
+where cl >nul 2>nul
+if not errorlevel 1 goto findCMake
+echo No C++ compiler was found: install Visual Studio with "Desktop development with C++".
+exit /b 1
+
+:useMinGW
+set CXX=g++
+set toolchain=-DCMAKE_EXE_LINKER_FLAGS=-static
+
+:findCMake
+where cmake >nul 2>nul
+if errorlevel 1 goto noCMake
+if "%tests%"=="OFF" goto configureOnce
+if defined CXX goto configure
+if not defined VCPKG_ROOT goto noVcpkg
+if exist "%VCPKG_ROOT%\installed\x64-windows-static\share\gtest" goto useVcpkg
+"%VCPKG_ROOT%\vcpkg.exe" install gtest nlohmann-json --triplet x64-windows-static
+if errorlevel 1 exit /b 1
+:useVcpkg
+set toolchain="-DCMAKE_TOOLCHAIN_FILE=%VCPKG_ROOT%\scripts\buildsystems\vcpkg.cmake" -DVCPKG_TARGET_TRIPLET=x64-windows-static
+goto configure
+
+:configureOnce
+if exist build\windows-msvc\build.ninja goto build
+:configure
+cmake --preset windows-msvc -DTALLYREX_TESTS=%tests% %toolchain%
+if errorlevel 1 exit /b 1
+:build
+if not defined targets cmake --build --preset windows-msvc
+if defined targets cmake --build --preset windows-msvc --target%targets%
+exit /b %errorlevel%
+
+:noCMake
+echo CMake was not found: install it, or the C++ CMake tools of Visual Studio.
+exit /b 1
+
+:noVcpkg
+echo The tests need GoogleTest and nlohmann-json: set VCPKG_ROOT to a vcpkg that can install them.
+exit /b 1
+
+:useVisualStudio
+set "vswhere=%ProgramFiles(x86)%\Microsoft Visual Studio\Installer\vswhere.exe"
+if not exist "%vswhere%" exit /b 0
+set studio=
+for /f "usebackq delims=" %%i in (`"%vswhere%" -latest -products * -requires Microsoft.VisualStudio.Component.VC.Tools.x86.x64 -property installationPath`) do set "studio=%%i"
+if defined studio call "%studio%\VC\Auxiliary\Build\vcvars64.bat" >nul
+exit /b 0
