@@ -3,18 +3,28 @@
 namespace app {
 
 void Application::start() {
+  showMainWindow();
+}
+
+void Application::loadCalc() {
   shell::Program& program = *this;
-  calc_ = std::make_unique<shell::frmCalc>(desktop_, globals_, program);
-  calc_->show();
+  if (!calc_) calc_ = std::make_unique<shell::frmCalc>(desktop_, globals_, program);
 }
 
 controls::Window* Application::findWindow(std::string_view name) const {
   if (name == "frmCalc" && calc_) return &calc_->window();
+  if (name == "frmAnnuity" && annuity_) return &annuity_->window();
   if (name == "frmAbout" && about_) return &about_->window();
   return nullptr;
 }
 
-void Application::openFinancialCalc() {}
+// One that is open goes first, so that it opens afresh in the configuration requested.
+void Application::openFinancialCalc() {
+  if (annuity_) annuity_->unload();
+  annuity::Program& program = *this;
+  annuity_ = std::make_unique<annuity::frmAnnuity>(desktop_, globals_, program);
+  annuity_->show();
+}
 
 // The box is modal: the main window takes no input while it is open.
 void Application::showAbout(std::function<void()> closed) {
@@ -41,8 +51,36 @@ void Application::unloadCalc() {
   });
 }
 
+controls::Rect Application::mainWindowPlace() const {
+  return calc_->window().bounds();
+}
+
+void Application::showMainWindow() {
+  loadCalc();
+  calc_->show();
+}
+
+void Application::printToTape(const std::string& lines, controls::Twips width) {
+  loadCalc();
+  calc_->printLines(lines);
+  calc_->window().setWidth(width);
+}
+
+void Application::unloadAnnuity() {
+  annuity_->window().hide();
+  std::shared_ptr<annuity::frmAnnuity> gone = std::move(annuity_);
+  desktop_.events().post([this, gone = std::move(gone)]() mutable {
+    gone.reset();
+    endWithLastWindow();
+  });
+}
+
+// A main window that was loaded for a print but never shown does not keep the program running.
 void Application::endWithLastWindow() {
-  if (ended() && onEnded) onEnded();
+  const bool calcShown = calc_ && calc_->window().visible();
+  if (calcShown || annuity_ || about_) return;
+  calc_.reset();
+  if (onEnded) onEnded();
 }
 
 }  // namespace app

@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "about/frm_about.h"
+#include "annuity/frm_annuity.h"
 #include "controls/desktop.h"
 #include "shell/frm_calc.h"
 #include "shell/globals.h"
@@ -11,7 +12,7 @@
 namespace app {
 
 /// The program: it owns its windows, knows which are loaded, and ends with the last visible one.
-class Application : private shell::Program {
+class Application : private shell::Program, private annuity::Program {
  public:
   explicit Application(controls::Desktop& desktop) : desktop_(desktop) {}
   Application(const Application&) = delete;
@@ -22,7 +23,7 @@ class Application : private shell::Program {
 
   /// Loads and shows the main window.
   void start();
-  bool ended() const { return !calc_ && !about_; }
+  bool ended() const { return !calc_ && !annuity_ && !about_; }
   /// The loaded window of that name; none when it is not loaded.
   controls::Window* findWindow(std::string_view name) const;
 
@@ -31,12 +32,19 @@ class Application : private shell::Program {
   void showAbout(std::function<void()> closed) override;
   void unloadCalc() override;
 
+  controls::Rect mainWindowPlace() const override;
+  void showMainWindow() override;
+  void printToTape(const std::string& lines, controls::Twips width) override;
+  void unloadAnnuity() override;
+
+  void loadCalc();
   void closeAbout(const std::function<void()>& closed);
   void endWithLastWindow();
 
   controls::Desktop& desktop_;
   shell::Globals globals_;
   std::unique_ptr<shell::frmCalc> calc_;
+  std::unique_ptr<annuity::frmAnnuity> annuity_;
   std::unique_ptr<about::frmAbout> about_;
 };
 

@@ -1,0 +1,253 @@
+#include "annuity/frm_annuity_layout.h"
+
+#include <array>
+
+namespace annuity {
+
+using controls::Alignment;
+using controls::ControlKind;
+using controls::ControlLayout;
+using controls::FontLayout;
+using controls::Rect;
+using controls::Twips;
+
+namespace {
+
+// At the left the five fields stand under each other, each with its label in front, and the answer
+// closes their column like the sum of it. At the right is what the answer depends on besides, and
+// below it the four picture buttons.
+constexpr Twips kMargin = 180;
+constexpr Twips kLabelWidth = 2040;
+constexpr Twips kFieldColumn = 2310;
+constexpr Twips kFieldWidth = 1950;
+constexpr Twips kColumnWidth = kFieldColumn + kFieldWidth - kMargin;
+constexpr Twips kRowPitch = 420;
+constexpr Twips kFirstRow = 495;
+constexpr Twips kFieldHeight = 330;
+constexpr Twips kTextHeight = 240;
+constexpr Twips kRightColumn = 4500;
+constexpr Twips kRightWidth = 2430;
+constexpr Twips kClientWidth = kRightColumn + kRightWidth + kMargin;
+constexpr Twips kClientHeight = 4845;
+
+// A picture of 32 x 32 with the frame of a button around it.
+constexpr Twips kPictureButton = 570;
+constexpr Twips kPicturePitch = 620;
+constexpr Twips kPictureRow = 3930;
+
+constexpr Twips row(int index) {
+  return kFirstRow + index * kRowPitch;
+}
+
+// The text of a label stands on the line of the text in its field.
+constexpr Rect label(int r) {
+  return {kMargin, row(r) + 60, kLabelWidth, kTextHeight};
+}
+
+constexpr Rect field(int r) {
+  return {kFieldColumn, row(r), kFieldWidth, kFieldHeight};
+}
+
+constexpr Rect picture(int index) {
+  return {kRightColumn + index * kPicturePitch, kPictureRow, kPictureButton, kPictureButton};
+}
+
+constexpr FontLayout kFont = {"MS Sans Serif", 83, false};
+constexpr FontLayout kFieldFont = {"MS Sans Serif", 98, false};
+constexpr FontLayout kResultFont = {"MS Sans Serif", 98, true};
+constexpr FontLayout kAnswerFont = {"MS Sans Serif", 180, false};
+
+constexpr ControlKind kLabel = ControlKind::Label;
+constexpr ControlKind kTextBox = ControlKind::TextBox;
+constexpr ControlKind kButton = ControlKind::Button;
+constexpr ControlKind kOption = ControlKind::OptionButton;
+
+constexpr int kTermUnit = 1;
+constexpr int kTiming = 2;
+
+// Each label stands in front of its field in the order of the Tab key, so that its access key leads
+// there. A screen reader names a field by the label too: it changes with the configuration.
+constexpr auto kControls = std::to_array<ControlLayout>({
+    {.kind = kLabel,
+     .name = "Label1",
+     .caption = "Leave one blank to calculate its result.",
+     .place = {kMargin, 150, kColumnWidth, kTextHeight},
+     .tabIndex = 0,
+     .font = kFont,
+     .alignment = Alignment::Right},
+
+    {.kind = kLabel,
+     .name = "Label2",
+     .place = label(0),
+     .tabIndex = 1,
+     .font = kFont,
+     .alignment = Alignment::Right},
+    {.kind = kTextBox,
+     .name = "txtNper",
+     .place = field(0),
+     .tabIndex = 2,
+     .font = kFieldFont,
+     .alignment = Alignment::Right},
+    {.kind = kLabel,
+     .name = "Label3",
+     .caption = "Annual Interest &Rate:",
+     .place = label(1),
+     .tabIndex = 3,
+     .font = kFont,
+     .alignment = Alignment::Right},
+    {.kind = kTextBox,
+     .name = "txtRate",
+     .place = field(1),
+     .tabIndex = 4,
+     .font = kFieldFont,
+     .alignment = Alignment::Right},
+    {.kind = kLabel,
+     .name = "Label4",
+     .place = label(2),
+     .tabIndex = 5,
+     .font = kFont,
+     .alignment = Alignment::Right},
+    {.kind = kTextBox,
+     .name = "txtPmt",
+     .place = field(2),
+     .tabIndex = 6,
+     .font = kFieldFont,
+     .alignment = Alignment::Right},
+    {.kind = kLabel,
+     .name = "Label5",
+     .place = label(3),
+     .tabIndex = 7,
+     .font = kFont,
+     .alignment = Alignment::Right},
+    {.kind = kTextBox,
+     .name = "txtPV",
+     .place = field(3),
+     .tabIndex = 8,
+     .font = kFieldFont,
+     .alignment = Alignment::Right},
+    {.kind = kLabel,
+     .name = "Label6",
+     .place = label(4),
+     .tabIndex = 9,
+     .font = kFont,
+     .alignment = Alignment::Right},
+    {.kind = kTextBox,
+     .name = "txtFV",
+     .place = field(4),
+     .tabIndex = 10,
+     .font = kFieldFont,
+     .alignment = Alignment::Right},
+    {.kind = kLabel,
+     .name = "Label8",
+     .caption = "For normal loans balloon pmt = zero.",
+     .place = {kMargin, row(5) - 30, kColumnWidth, kTextHeight},
+     .tabIndex = 21,
+     .font = kFont,
+     .alignment = Alignment::Right},
+
+    {.kind = kButton,
+     .name = "cmdCalculate",
+     .place = {kFieldColumn, 2910, kFieldWidth, 435},
+     .tabIndex = 11,
+     .font = kFieldFont},
+    {.kind = kLabel,
+     .name = "lblResultType",
+     .place = {kMargin, 3480, kColumnWidth, 285},
+     .tabIndex = 17,
+     .font = kResultFont,
+     .alignment = Alignment::Right},
+    {.kind = kLabel,
+     .name = "lblAnswer",
+     .place = {kMargin, 3780, kColumnWidth, 930},
+     .tabIndex = 16,
+     .font = kAnswerFont,
+     .alignment = Alignment::Right},
+
+    {.kind = kOption,
+     .name = "optNper(0)",
+     .place = {kRightColumn, row(0), 1170, kFieldHeight},
+     .tabIndex = 12,
+     .font = kFont,
+     .optionGroup = kTermUnit,
+     .chosen = true},
+    {.kind = kOption,
+     .name = "optNper(1)",
+     .place = {kRightColumn + 1260, row(0), 1170, kFieldHeight},
+     .tabIndex = 13,
+     .font = kFont,
+     .optionGroup = kTermUnit},
+    {.kind = ControlKind::Frame,
+     .name = "fraDueBy",
+     .caption = "Payments are due by:",
+     .place = {kRightColumn, row(1), kRightWidth, row(4) + kFieldHeight - row(1)},
+     .tabIndex = 18,
+     .font = kFont},
+    {.kind = kOption,
+     .name = "optDue(0)",
+     .place = {kRightColumn + 180, row(1) + 315, kRightWidth - 360, kFieldHeight},
+     .tabIndex = 14,
+     .font = kFont,
+     .optionGroup = kTiming,
+     .chosen = true},
+    {.kind = kOption,
+     .name = "optDue(1)",
+     .place = {kRightColumn + 180, row(1) + 705, kRightWidth - 360, kFieldHeight},
+     .tabIndex = 15,
+     .font = kFont,
+     .optionGroup = kTiming},
+    {.kind = kLabel,
+     .name = "Label7",
+     .caption = "of the period.",
+     .place = {kRightColumn + 180, row(1) + 1140, kRightWidth - 360, kTextHeight},
+     .tabIndex = 19,
+     .font = kFont},
+
+    {.kind = kButton,
+     .name = "cmdRotateLabels",
+     .toolTip = "Rotate the financial annuity configuration.",
+     .place = picture(0),
+     .tabIndex = 20,
+     .font = kFont,
+     .accessibleName = "Rotate configuration",
+     .icon = "rotate"},
+    {.kind = kButton,
+     .name = "cmdPrintToTape",
+     .toolTip = "Send Info to Tape.",
+     .place = picture(1),
+     .tabIndex = 22,
+     .font = kFont,
+     .accessibleName = "Print to tape",
+     .icon = "print"},
+    {.kind = kButton,
+     .name = "cmdClearAll",
+     .toolTip = "Clear all boxes.",
+     .place = picture(2),
+     .tabIndex = 23,
+     .font = kFont,
+     .accessibleName = "Clear all boxes",
+     .icon = "clear"},
+    {.kind = kButton,
+     .name = "cmdHelp",
+     .toolTip = "Pulls up help.",
+     .place = picture(3),
+     .tabIndex = 24,
+     .font = kFont,
+     .accessibleName = "Help",
+     .icon = "help"},
+});
+
+constexpr controls::WindowLayout kLayout = {
+    .name = "frmAnnuity",
+    .caption = "Financial Calc (Annuities)",
+    .place = {900, 900, kClientWidth + controls::kFrameWidth,
+              kClientHeight + controls::kFrameHeight},
+    .controls = kControls,
+};
+
+}  // namespace
+
+const controls::WindowLayout& frmAnnuityLayout() {
+  return kLayout;
+}
+
+}  // namespace annuity
