@@ -102,6 +102,7 @@ class Engine {
   void FormatEntry();
   void ReformatEntry();
   void SettleEntry();
+  bool HasSign(const std::string& text) const;
   void RepairSign();
   void DropLeadingCommas();
   void DropSignOfZero();

@@ -62,10 +62,15 @@ void Engine::ShowValue(const std::string& text) {
   mblnDecKeyed = false;
 }
 
+// In a number that the program wrote, a minus inside belongs to its exponent.
+bool Engine::HasSign(const std::string& text) const {
+  return text.starts_with('-') || (!mblnValue && text.find('-') != std::string::npos);
+}
+
 // A character typed in front of the sign gives way; the caret is never left in front of it.
 void Engine::RepairSign() {
   const std::string text = c_.txtEntry.text();
-  if (text.find('-') == std::string::npos || text[0] == '-') return;
+  if (!HasSign(text) || text.starts_with('-')) return;
   const std::string repaired = text.substr(1);
   const int caret = c_.txtEntry.selStart() - 1;
   RewriteEntry(repaired, std::max(caret, repaired[0] == '-' ? 1 : 0));

@@ -187,10 +187,10 @@ void Engine::cmdChangeSign_Click() {
   const std::string text = c_.txtEntry.text();
   const int caret = c_.txtEntry.selStart();
   if (!text.empty()) {
-    if (text.find('-') == std::string::npos) {
-      RewriteEntry("-" + text, caret + 1);
-    } else {
+    if (HasSign(text)) {
       RewriteEntry(text.substr(1), std::max(caret - 1, 0));
+    } else {
+      RewriteEntry("-" + text, caret + 1);
     }
     mblnShowingResult = mblnPosted = false;
   }
