@@ -67,12 +67,15 @@ void frmCalc::RestoreSettings() {
 }
 
 void frmCalc::RestoreToggles() {
-  chkShiftDec.setValue(storedNumber("frmCalcchkShiftDec", 0) != 0);
-  chkFloatingDec.setValue(storedNumber("frmCalcchkFloatingDec", 0) != 0);
-  chkTapeOff.setValue(storedNumber("frmCalcchkTapeOff", 0) != 0);
-  mnuEditStationaryDecimal.setChecked(storedTruth("frmCalcchkShiftDec"));
-  mnuEditFloatingDecimal.setChecked(storedTruth("frmCalcchkFloatingDec"));
-  mnuWinTapeOff.setChecked(storedTruth("frmCalcchkTapeOff"));
+  const bool stationary = storedNumber("frmCalcchkShiftDec", 0) != 0;
+  const bool floating = storedNumber("frmCalcchkFloatingDec", 0) != 0;
+  const bool tapeOff = storedNumber("frmCalcchkTapeOff", 0) != 0;
+  chkShiftDec.setValue(stationary);
+  chkFloatingDec.setValue(floating);
+  chkTapeOff.setValue(tapeOff);
+  mnuEditStationaryDecimal.setChecked(stationary);
+  mnuEditFloatingDecimal.setChecked(floating);
+  mnuWinTapeOff.setChecked(tapeOff);
   mnuWinAlwaysOnTop.setChecked(storedTruth("frmCalcmnuWinAlwaysOnTop"));
   mnuWinMicroWindow.setChecked(storedTruth("frmCalcmnuWinMicroWindow"));
   mnuWinPadTape.setChecked(storedTruth("frmCalcmnuWinPadTape"));
