@@ -8,6 +8,7 @@ using controls::Color;
 namespace {
 
 constexpr Color kWhite = Color::rgb(0xFFFFFF);
+constexpr controls::KeyCode kKeyShift = 16;
 
 bool isDigit(int character) {
   return character >= '0' && character <= '9';
@@ -52,10 +53,10 @@ void frmCalc::txtDec_KeyPress(controls::KeyAscii& key) {
   desktop_.beep();
 }
 
-// One key stroke sets the places, and typing goes on in the entry box. The release of the Tab key
-// that led here is no key stroke of this box.
+// One key stroke sets the places, and typing goes on in the entry box. The release of Tab, and of
+// the Shift held with it, belongs to the stroke that led here.
 void frmCalc::txtDec_KeyUp(controls::KeyCode key) {
-  if (key != controls::kKeyTab) txtEntry.setFocus();
+  if (key != controls::kKeyTab && key != kKeyShift) txtEntry.setFocus();
 }
 
 void frmCalc::txtDec_Paste(std::string& text) {
