@@ -78,4 +78,11 @@ std::string toUtf8(std::u16string_view text) {
   return result;
 }
 
+std::string toUtf8(char32_t character) {
+  const bool surrogate = character >= 0xD800 && character <= 0xDFFF;
+  std::string result;
+  encode(surrogate || character > 0x10FFFF ? kReplacement : character, result);
+  return result;
+}
+
 }  // namespace common

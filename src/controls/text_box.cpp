@@ -2,18 +2,36 @@
 
 #include <algorithm>
 
+#include "common/unicode.h"
+#include "controls/desktop.h"
+
 namespace controls {
+
+namespace {
+
+// The characters of Ctrl+C, Ctrl+V, Ctrl+X and Ctrl+Z.
+constexpr KeyAscii kCopy = 3;
+constexpr KeyAscii kPaste = 22;
+constexpr KeyAscii kCut = 24;
+constexpr KeyAscii kUndo = 26;
+
+// What Ctrl+Backspace types.
+constexpr KeyAscii kRubout = 127;
+
+}  // namespace
 
 TextBox::TextBox(Window& window, const ControlLayout& layout)
     : Control(window, layout), alignment_(layout.alignment) {}
 
 void TextBox::setText(std::string_view text) {
+  lastEdit_.reset();
   storeText(text);
   storeSelection(0, 0);
   raise(onChange, ChangedBy::Program);
 }
 
 void TextBox::append(std::string_view text) {
+  lastEdit_.reset();
   storeAppended(text);
   raise(onChange, ChangedBy::Program);
 }
@@ -45,14 +63,17 @@ std::string TextBox::textWithoutSelection() const {
 
 void TextBox::replaceSelection(std::string_view text) {
   const Selection selection = loadSelection();
-  if (loadPart(selection.start, selection.length) == text) {
+  std::string before = loadPart(selection.start, selection.length);
+  if (before == text) {
     setSelStart(selection.start + selection.length);
     return;
   }
   const int behind = length() - selection.start - selection.length;
   storePart(selection.start, selection.length, text);
-  storeSelection(length() - behind, 0);
-  raiseEdited();
+  const int end = length() - behind;
+  storeSelection(end, 0);
+  lastEdit_ = {selection.start, end - selection.start, std::move(before)};
+  raise(onChange, ChangedBy::User);
 }
 
 void TextBox::backspace() {
@@ -81,6 +102,50 @@ void TextBox::paste(std::string text) {
     text.erase(std::min(text.find_first_of("\r\n"), text.size()));
   }
   replaceSelection(text);
+}
+
+void TextBox::copy() {
+  if (selLength() > 0) window().desktop().setClipboardText(selectedText());
+}
+
+void TextBox::cut() {
+  if (selLength() > 0 && window().desktop().setClipboardText(selectedText())) replaceSelection("");
+}
+
+void TextBox::undo() {
+  if (!lastEdit_) return;
+  const Edit edit = *std::move(lastEdit_);
+  storeSelection(edit.start, edit.length);
+  replaceSelection(edit.before);
+}
+
+void TextBox::typeCharacter(KeyAscii character) {
+  runEvent([&] { actOnCharacter(keyPress(character)); });
+}
+
+void TextBox::actOnCharacter(KeyAscii character) {
+  switch (character) {
+    case kKeyBackspace:
+      return backspace();
+    case kKeyEnter:
+      if (layout().multiLine) replaceSelection("\r\n");
+      return;
+    case kCopy:
+      return copy();
+    case kCut:
+      return cut();
+    case kUndo:
+      return undo();
+    case kPaste:
+      if (const auto text = window().desktop().clipboardText()) paste(*text);
+      return;
+    default:
+      if (character >= kKeySpace && character != kRubout) insert(character);
+  }
+}
+
+void TextBox::insert(KeyAscii character) {
+  replaceSelection(common::toUtf8(static_cast<char32_t>(character)));
 }
 
 void TextBox::setAlignment(Alignment alignment) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -57,6 +58,14 @@ class TextBox : public Control {
   void deleteForward();
   /// Asks onPaste, then replaces the selection.
   void paste(std::string text);
+  /// Puts a selection on the clipboard; cutting also takes it out of the text.
+  void copy();
+  void cut();
+  /// Takes back the user's last edit, and a second time restores it. What the program assigned is
+  /// not taken back.
+  void undo();
+  /// The character takes effect when KeyPress lets it through.
+  void typeCharacter(KeyAscii character) override;
 
   Alignment alignment() const { return alignment_; }
   void setAlignment(Alignment alignment);
@@ -81,11 +90,19 @@ class TextBox : public Control {
   virtual void storePart(int start, int length, std::string_view text) = 0;
   virtual void showAlignment() {}
 
-  /// For an implementation whose control edits by itself: reports an edit of the user's.
-  void raiseEdited() { raise(onChange, ChangedBy::User); }
-
  private:
+  // An edit as it is taken back: the part of the text that it put there, and what stood there.
+  struct Edit {
+    int start;
+    int length;
+    std::string before;
+  };
+
+  void actOnCharacter(KeyAscii character);
+  void insert(KeyAscii character);
+
   Alignment alignment_;
+  std::optional<Edit> lastEdit_;
 };
 
 }  // namespace controls

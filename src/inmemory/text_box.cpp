@@ -3,19 +3,12 @@
 #include <algorithm>
 
 #include "common/unicode.h"
-#include "controls/desktop.h"
 
 namespace inmemory {
 
-using controls::KeyAscii;
 using controls::KeyCode;
 
 namespace {
-
-constexpr KeyAscii kCopy = 3;
-constexpr KeyAscii kPaste = 22;
-constexpr KeyAscii kCut = 24;
-constexpr KeyAscii kUndo = 26;
 
 std::u16string_view part(const std::u16string& text, int start, int length) {
   return std::u16string_view(text).substr(static_cast<std::size_t>(start),
@@ -38,13 +31,11 @@ TextBox::Selection TextBox::loadSelection() const {
 
 void TextBox::storeText(std::string_view text) {
   text_ = common::toUtf16(text);
-  canUndo_ = false;
 }
 
 void TextBox::storeAppended(std::string_view text) {
   text_ += common::toUtf16(text);
   anchor_ = caret_ = loadLength();
-  canUndo_ = false;
 }
 
 void TextBox::storeSelection(int start, int length) {
@@ -53,48 +44,8 @@ void TextBox::storeSelection(int start, int length) {
 }
 
 void TextBox::storePart(int start, int length, std::string_view text) {
-  beforeLastEdit_ = text_;
-  canUndo_ = true;
   text_.replace(static_cast<std::size_t>(start), static_cast<std::size_t>(length),
                 common::toUtf16(text));
-}
-
-void TextBox::typeCharacter(KeyAscii character) {
-  runEvent([&] {
-    const KeyAscii kept = keyPress(character);
-    if (kept == controls::kKeyBackspace) {
-      backspace();
-    } else if (kept == controls::kKeyEnter) {
-      if (layout().multiLine) replaceSelection("\r\n");
-    } else if (kept >= controls::kKeySpace) {
-      insert(kept);
-    } else {
-      actOnControlCharacter(kept);
-    }
-  });
-}
-
-void TextBox::insert(KeyAscii character) {
-  const auto unit = static_cast<char16_t>(character);
-  replaceSelection(common::toUtf8(std::u16string_view(&unit, 1)));
-}
-
-void TextBox::actOnControlCharacter(KeyAscii character) {
-  controls::Desktop& desktop = window().desktop();
-  if ((character == kCopy || character == kCut) && selLength() > 0) {
-    if (desktop.setClipboardText(selectedText()) && character == kCut) replaceSelection("");
-  } else if (character == kPaste) {
-    if (const auto text = desktop.clipboardText()) paste(*text);
-  } else if (character == kUndo) {
-    undo();
-  }
-}
-
-void TextBox::undo() {
-  if (!canUndo_) return;
-  text_.swap(beforeLastEdit_);
-  anchor_ = caret_ = loadLength();
-  raiseEdited();
 }
 
 void TextBox::pressKey(KeyCode key, bool shift) {

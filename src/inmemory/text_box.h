@@ -8,13 +8,11 @@ namespace inmemory {
 
 class Desktop;
 
-/// A text box without a screen. It edits as the system's box does, one step of undo included.
+/// A text box without a screen.
 class TextBox : public controls::TextBox {
  public:
   using controls::TextBox::TextBox;
 
-  /// The character takes effect when KeyPress lets it through.
-  void typeCharacter(controls::KeyAscii character) override;
   /// A key without a character: caret keys, with Shift held or not, and Delete.
   void pressKey(controls::KeyCode key, bool shift);
 
@@ -29,9 +27,6 @@ class TextBox : public controls::TextBox {
   void storePart(int start, int length, std::string_view text) override;
 
  private:
-  void insert(controls::KeyAscii character);
-  void actOnControlCharacter(controls::KeyAscii character);
-  void undo();
   void moveCaret(int caret, bool extend);
   int caretAfter(controls::KeyCode key) const;
   int lineStart(int place) const;
@@ -42,8 +37,6 @@ class TextBox : public controls::TextBox {
   // The selection lies between the two; the caret is the end that the arrows move.
   int anchor_ = 0;
   int caret_ = 0;
-  std::u16string beforeLastEdit_;
-  bool canUndo_ = false;
 };
 
 }  // namespace inmemory
