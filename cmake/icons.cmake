@@ -1,0 +1,45 @@
+# Icons are drawings, rendered at each size of their own, so that none is scaled on the screen.
+find_program(TALLYREX_RSVG_CONVERT rsvg-convert)
+find_program(TALLYREX_ICOTOOL icotool)
+
+# tallyrex_render_icon(DRAWING.svg SIZES 16 32 ... [SMALL DRAWING-FOR-LESS-THAN-32.svg])
+# renders DRAWING.svg into ${CMAKE_BINARY_DIR}/icons/DRAWING.ico.
+function(tallyrex_render_icon drawing)
+  cmake_parse_arguments(PARSE_ARGV 1 arg "" "SMALL" "SIZES")
+  if(NOT TALLYREX_RSVG_CONVERT OR NOT TALLYREX_ICOTOOL)
+    message(FATAL_ERROR
+      "The icons are rendered by rsvg-convert and icotool, which were not found. Install them (in "
+      "Debian: apt install librsvg2-bin icoutils).")
+  endif()
+  get_filename_component(drawing ${drawing} ABSOLUTE)
+  if(arg_SMALL)
+    get_filename_component(arg_SMALL ${arg_SMALL} ABSOLUTE)
+  endif()
+  get_filename_component(name ${drawing} NAME_WE)
+  set(folder ${CMAKE_BINARY_DIR}/icons)
+  file(MAKE_DIRECTORY ${folder})
+
+  set(renderings)
+  set(pictures)
+  foreach(size ${arg_SIZES})
+    set(source ${drawing})
+    if(arg_SMALL AND size LESS 32)
+      set(source ${arg_SMALL})
+    endif()
+    set(picture ${folder}/${name}-${size}.png)
+    list(APPEND renderings COMMAND ${TALLYREX_RSVG_CONVERT} --width ${size} --height ${size}
+                                   --output ${picture} ${source})
+    # The large ones stay compressed: as bitmaps they would outweigh the program.
+    if(size LESS 64)
+      list(APPEND pictures ${picture})
+    else()
+      list(APPEND pictures --raw=${picture})
+    endif()
+  endforeach()
+
+  add_custom_command(OUTPUT ${folder}/${name}.ico ${renderings}
+                     COMMAND ${TALLYREX_ICOTOOL} --create --output=${folder}/${name}.ico ${pictures}
+                     DEPENDS ${drawing} ${arg_SMALL}
+                     COMMENT "Rendering the icon ${name}"
+                     VERBATIM)
+endfunction()
