@@ -33,12 +33,12 @@ void Engine::focusEntryAtEnd() {
 
 void Engine::chkFloatingDec_Click() {
   c_.mnuEditFloatingDecimal.setChecked(!c_.mnuEditFloatingDecimal.checked());
-  const bool places = !floatingDecimal();
-  c_.chkShiftDec.setEnabled(places);
-  c_.mnuEditStationaryDecimal.setEnabled(places);
-  c_.txtDec.setEnabled(places);
-  c_.txtDec.setBackColor(places ? controls::Color::window() : controls::Color::buttonFace());
-  if (places) c_.chkShiftDec.setCaption("");
+  const bool floating = floatingDecimal();
+  c_.chkShiftDec.setEnabled(!floating);
+  c_.mnuEditStationaryDecimal.setEnabled(!floating);
+  c_.txtDec.setEnabled(!floating);
+  c_.txtDec.setBackColor(floating ? controls::Color::buttonFace() : controls::Color::window());
+  if (!floating) c_.chkShiftDec.setCaption("");
   c_.txtEntry.setFocus();
 }
 

@@ -35,36 +35,50 @@ class Engine {
  public:
   explicit Engine(const EngineControls& controls) : c_(controls) {}
 
+  /// Adds the entry, or takes it off. In add mode a total just shown is not taken again: the last
+  /// amount is repeated. In calculator mode the operator waits for the next entry.
   void cmdPlus_Click();
   void cmdMinus_Click();
+  /// In add mode the entry is added first, and the next one multiplies or divides it; the window
+  /// calculates until the next total.
   void cmdTimes_Click();
   void cmdDivide_Click();
+  /// Prints the total. An entry that add mode has not been told to add or take off is asked for.
   void cmdEquals_Click();
+  /// A hundredth of the entry; ends the one calculation of add mode.
   void cmdPercent_Click();
+  /// Prints the entry and its root, once an open calculation is closed.
   void cmdSquareRoot_Click();
   void cmdChangeSign_Click();
 
+  /// CEntry, CTotal, CTape and CAll. None of them clears the memory.
   void cmdClearCurrent_Click();
   void cmdClearCalc_Click();
   void cmdClearTape_Click();
   void cmdClearAll_Click();
 
+  /// M +, MS, MR and MC. None of them prints or changes the total.
   void cmdMemPlus_Click();
   void cmdMemStore_Click();
   void cmdMemRecall_Click();
   void cmdMemClear_Click();
 
+  /// The digit `index`, the point and Backspace, typed into the entry box as on the keyboard.
   void cmdNumber_Click(int index);
   void cmdPeriod_Click();
   void cmdArrow_Click();
 
+  /// The toggles have changed: their menu items, and what they enable, follow.
   void chkFloatingDec_Click();
   void chkShiftDec_Click();
   void chkTapeOff_Click();
 
+  /// Runs an operator key, or judges a character; sets `key` to 0 when it is not to be typed.
   void txtEntry_KeyPress(controls::KeyAscii& key);
+  /// Puts the entry in shape, unless the key just moved the caret.
   void txtEntry_KeyUp(controls::KeyCode key);
   void txtEntry_Change(controls::ChangedBy by);
+  /// Between the two the mouse may have pasted something: that must be a number.
   void txtEntry_MouseDown();
   void txtEntry_MouseUp();
   /// The clipboard's text in the place of the whole entry; nothing when the clipboard has none.
@@ -75,7 +89,7 @@ class Engine {
   /// kAddMode or kCalculatorMode. In the one calculation that x or / start in add mode the machine
   /// calculates; the mode that the user chose is add mode.
   int chosenMode() const { return mblnTempCalc ? kAddMode : mintMode; }
-  /// The mode, before the mode switch applies it.
+  /// The mode as it was stored, kept until the mode switch applies it.
   void restoreMode(int mode) { mintMode = mode; }
   int restoredMode() const { return mintMode; }
   /// The mode switch: the running total begins anew.
@@ -98,8 +112,12 @@ class Engine {
   bool ProcessEntry();
   void EndCalculation();
   bool EntryIsTyped() const;
+  void AskForPlusOrMinus();
+  void PrintTotal();
+  void PrintShown();
 
   void FormatEntry();
+  std::string FormattedEntry(std::string text);
   void ReformatEntry();
   void SettleEntry();
   bool HasSign(const std::string& text) const;
@@ -118,6 +136,7 @@ class Engine {
   void PostError();
   void AppendToTape(const std::string& lines);
 
+  void StepOverComma();
   bool RunKey(controls::KeyAscii key);
   bool AcceptsCharacter(controls::KeyAscii key);
   bool AcceptsPoint(const std::string& text) const;

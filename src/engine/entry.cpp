@@ -3,6 +3,7 @@
 #include <cctype>
 
 #include "engine/engine.h"
+#include "engine/entry_format.h"
 
 namespace engine {
 
@@ -11,7 +12,6 @@ using controls::KeyCode;
 
 namespace {
 
-constexpr int kEntryCharacters = 19;
 constexpr int kStationaryDigits = 15;
 constexpr KeyAscii kCtrlV = 22;
 constexpr KeyCode kKeyDecimalPoint = 190;
@@ -54,12 +54,7 @@ void Engine::txtEntry_KeyPress(KeyAscii& key) {
   const bool done = common::trap(
       [&] {
         if (key == controls::kKeyBackspace) {
-          const int caret = c_.txtEntry.selStart();
-          const std::string text = c_.txtEntry.text();
-          const auto before = static_cast<std::size_t>(caret) - 1;
-          if (caret > 0 && c_.txtEntry.selLength() == 0 && before < text.size() &&
-              text[before] == ',')
-            c_.txtEntry.setSelStart(caret - 1);
+          StepOverComma();
         } else if (RunKey(key)) {
           key = 0;
         } else if (!AcceptsCharacter(key)) {
@@ -69,6 +64,14 @@ void Engine::txtEntry_KeyPress(KeyAscii& key) {
       },
       [&](const common::RunTimeError& error) { ShowError(error); });
   if (!done) key = 0;
+}
+
+// Backspace right behind a separator deletes the digit in front of it.
+void Engine::StepOverComma() {
+  const int caret = c_.txtEntry.selStart();
+  if (caret == 0 || c_.txtEntry.selLength() > 0) return;
+  if (c_.txtEntry.text()[static_cast<std::size_t>(caret) - 1] == ',')
+    c_.txtEntry.setSelStart(caret - 1);
 }
 
 bool Engine::RunKey(KeyAscii key) {
@@ -91,7 +94,7 @@ bool Engine::AcceptsCharacter(KeyAscii key) {
   }
   const std::string text = c_.txtEntry.textWithoutSelection();
   if (floatingDecimal() || places() > 0) {
-    if (text.size() >= kEntryCharacters) return false;
+    if (text.size() >= kEntryLength) return false;
     if (key == '.' && AcceptsPoint(text)) {
       mblnDecKeyed = true;
       return true;
@@ -111,7 +114,7 @@ bool Engine::AcceptsDigit(const std::string& text) const {
   if (!floatingDecimal() && keyed && hasPoint(text) && charactersBehindPoint(text) == places())
     return false;
   if (stationaryDecimal() && significantDigits(text) >= kStationaryDigits) return false;
-  return text.size() < kEntryCharacters;
+  return text.size() < kEntryLength;
 }
 
 void Engine::txtEntry_KeyUp(KeyCode key) {

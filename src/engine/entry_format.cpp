@@ -45,13 +45,8 @@ std::string decimalsPattern(int places) {
 }
 
 std::string formatFloating(std::string_view text) {
-  if (!hasDigit(text)) return std::string(text);
   const auto point = text.find('.');
-  if (point == std::string_view::npos) {
-    const std::string formatted = groupWhole(text);
-    return formatted.find('E') == std::string::npos ? formatted
-                                                    : formatText(formatted, kSmallNumberPattern);
-  }
+  if (point == std::string_view::npos) return groupWhole(text);
   const std::string_view whole = text.substr(0, point);
   const double wholeValue = hasDigit(whole) ? common::toNumber(whole) : 0;
   const std::string formatted = groupWhole(whole) + std::string(text.substr(point));

@@ -5,6 +5,9 @@
 
 namespace engine {
 
+/// As many characters as an entry may be typed with, separators and point included.
+inline constexpr int kEntryLength = 19;
+
 /// Whole numbers, grouped by thousands.
 inline constexpr std::string_view kWholePattern = "###,###,###,###,##0";
 

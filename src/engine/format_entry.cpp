@@ -11,30 +11,23 @@ void Engine::FormatEntry() {
                [&](const common::RunTimeError& error) { ShowError(error); });
 }
 
+std::string Engine::FormattedEntry(std::string text) {
+  if (floatingDecimal()) return formatFloating(text);
+  if (!stationaryDecimal()) return formatKeyed(text, places());
+  if (mblnValue) return formatValue(text, places());
+  const auto point = text.find('.');
+  if (point == std::string::npos) mblnDecKeyed = false;
+  if (!mblnDecKeyed) return formatStationary(text, places());
+  // The point that scaling has shown gives way to the one keyed behind it.
+  if (point > 0 && text.find('.', point + 2) != std::string::npos) text.erase(point, 1);
+  return formatKeyed(text, places());
+}
+
 void Engine::ReformatEntry() {
-  std::string text = c_.txtEntry.text();
-  if (text.empty()) return;
+  const std::string text = FormattedEntry(c_.txtEntry.text());
+  if (text == c_.txtEntry.text()) return;
   const int length = c_.txtEntry.length();
   const int caret = c_.txtEntry.selStart();
-  if (floatingDecimal()) {
-    text = formatFloating(text);
-  } else if (stationaryDecimal() && mblnValue) {
-    text = formatValue(text, places());
-  } else {
-    const auto point = text.find('.');
-    if (point == std::string::npos) mblnDecKeyed = false;
-    if (stationaryDecimal() && !mblnPosted && !mblnDecKeyed) {
-      text = formatStationary(text, places());
-    } else {
-      // The point that scaling has shown gives way to the one keyed behind it.
-      const bool twoPoints = stationaryDecimal() && !mblnPosted && point > 0 &&
-                             point != std::string::npos &&
-                             text.find('.', point + 2) != std::string::npos;
-      if (twoPoints) text.erase(point, 1);
-      text = formatKeyed(text, places());
-    }
-  }
-  if (text == c_.txtEntry.text()) return;
   c_.txtEntry.setText(text);
   const int moved = caret + c_.txtEntry.length() - length;
   c_.txtEntry.setSelStart(moved >= 0 ? moved : caret);

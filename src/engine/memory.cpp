@@ -40,12 +40,8 @@ void Engine::StoreInMemory(double base) {
 }
 
 void Engine::cmdMemRecall_Click() {
-  common::trap(
-      [&] {
-        ShowValue(common::toText(mdblMemory));
-        mblnShowingResult = mblnPosted = false;
-      },
-      [&](const RunTimeError& error) { ShowError(error); });
+  ShowValue(common::toText(mdblMemory));
+  mblnShowingResult = mblnPosted = false;
   c_.txtEntry.setFocus();
 }
 

@@ -10,7 +10,6 @@ namespace {
 
 constexpr controls::Twips kEntryWidth = 2175;
 constexpr controls::Twips kLongEntryWidth = 2300;
-constexpr int kEntryCharacters = 19;
 
 }  // namespace
 
@@ -39,7 +38,7 @@ void Engine::PostToTape() {
   mdblLastEntry = common::toNumber(entry);
   const std::string result = common::toText(mdblTotal);
   ShowValue(stationaryDecimal() ? common::formatText(result, pattern) : result);
-  c_.txtEntry.setWidth(c_.txtEntry.length() > kEntryCharacters ? kLongEntryWidth : kEntryWidth);
+  c_.txtEntry.setWidth(c_.txtEntry.length() > kEntryLength ? kLongEntryWidth : kEntryWidth);
   mblnPosted = true;
   c_.txtEntry.setFocus();
 }

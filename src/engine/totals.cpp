@@ -16,33 +16,16 @@ bool Engine::Total() {
     return false;
   }
   if (addMode() && !mblnPosted) {
-    c_.desktop.showMessage(
-        {.text = "Since you are in \"Add Mode\" you must first hit the plus or minus key for the "
-                 "current entry which is " +
-                 c_.txtEntry.text() +
-                 ".  If you do not want the current entry then enter zero and click plus and then "
-                 "click equals."});
-    c_.desktop.beep();
+    AskForPlusOrMinus();
     return false;
   }
   if (EntryIsTyped()) {
-    if (!addMode()) {
-      if (!ApplyOperator()) return false;
-      PostToTape();
-    }
-    if (mstrTapeOp != "*") {
-      mstrTapeOp = "*";
-      FormatEntry();
-      PostToTape();
-    }
-  } else {
-    if (mstrTapeOp == "*") {
-      ShowValue("0");
-      mdblTotal = 0;
-    }
-    mstrTapeOp = "*";
+    // Only in calculator mode: in add mode plus or minus has taken it, or was asked for.
+    if (!ApplyOperator()) return false;
     PostToTape();
-    if (addMode()) mdblTotal = 0;
+    PrintTotal();
+  } else {
+    PrintShown();
   }
   FormatEntry();
   c_.txtEntry.moveCaretToEnd();
@@ -55,10 +38,39 @@ bool Engine::Total() {
   return true;
 }
 
+void Engine::AskForPlusOrMinus() {
+  c_.desktop.showMessage(
+      {.text = "Since you are in \"Add Mode\" you must first hit the plus or minus key for the "
+               "current entry which is " +
+               c_.txtEntry.text() +
+               ".  If you do not want the current entry then enter zero and click plus and then "
+               "click equals."});
+  c_.desktop.beep();
+}
+
 // The zero that a total or C&Total leaves in the box was not typed, though nobody has posted it.
 bool Engine::EntryIsTyped() const {
   if (!mblnShowingResult) return true;
   return !mblnPosted && !(mblnNewCalc && common::tryNumber(c_.txtEntry.text()) == 0.0);
+}
+
+// Behind an error there is nothing to print: it has printed a zero total already.
+void Engine::PrintTotal() {
+  if (mstrTapeOp == "*") return;
+  mstrTapeOp = "*";
+  FormatEntry();
+  PostToTape();
+}
+
+// What the box shows is printed as the total; right behind a total that is a zero.
+void Engine::PrintShown() {
+  if (mstrTapeOp == "*") {
+    ShowValue("0");
+    mdblTotal = 0;
+  }
+  mstrTapeOp = "*";
+  PostToTape();
+  if (addMode()) mdblTotal = 0;
 }
 
 // A total closes the calculation: the modes may be changed again.
