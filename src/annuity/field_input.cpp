@@ -13,13 +13,16 @@ using controls::TextBox;
 
 namespace {
 
-// The caret stays behind the character behind which it was, and is never left in front of the sign.
+// A digit typed in front of the sign would be lost.
+void rewrite(TextBox& field, std::string_view text, int caret) {
+  field.setText(text);
+  field.setSelStart(std::max(caret, text.starts_with('-') ? 1 : 0));
+}
+
+// The caret stays behind the character behind which it was.
 void dropFirstCharacter(TextBox& field) {
   const std::u16string text = common::toUtf16(field.text());
-  const int caret = field.selStart() - 1;
-  const bool signedNow = text.size() > 1 && text[1] == u'-';
-  field.setText(common::toUtf8(std::u16string_view(text).substr(1)));
-  field.setSelStart(std::max(caret, signedNow ? 1 : 0));
+  rewrite(field, common::toUtf8(std::u16string_view(text).substr(1)), field.selStart() - 1);
 }
 
 // A minus typed behind the 0 that a field holds at first takes its place.
@@ -32,10 +35,8 @@ void formatSeparators(TextBox& field) {
   const std::string text = field.text();
   const std::string grouped = groupThousands(text);
   if (grouped == text) return;
-  const int caret = field.selStart();
-  const int length = field.length();
-  field.setText(grouped);
-  field.setSelStart(std::max(caret + field.length() - length, 0));
+  const int added = static_cast<int>(grouped.size()) - static_cast<int>(text.size());
+  rewrite(field, grouped, field.selStart() + added);
 }
 
 // Backspace takes the digit in front of a separator, not the separator.

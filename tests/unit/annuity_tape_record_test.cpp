@@ -41,6 +41,29 @@ TEST(TapeRecord, OfALoanIsWrittenInTwoColumnsOfLines) {
             "\r\n");
 }
 
+TEST(TapeRecord, OfFiveFieldsHasFiveOfThemAndTheAnswer) {
+  EXPECT_EQ(tapeRecord({{"&Term:", termOnTape("30", false)},
+                        {"Annual Interest &Rate:", rateOnTape("8.5")},
+                        {"Monthly P&ayment:", moneyOnTape("-1250")},
+                        {"&Present Value:", moneyOnTape("162,567.05")},
+                        {"&Future Value:", moneyOnTape("0")}},
+                       {"PV or Loan Amount equals:", answerOnTape("$ 162,567.05")}),
+            "\r\nAnnuity Calculation:      "
+            "\r\n                     Term:"
+            "\r\n30 Years                  "
+            "\r\n     Annual Interest Rate:"
+            "\r\n% 850.00                  "
+            "\r\n          Monthly Payment:"
+            "\r\n-$ 1,250.00               "
+            "\r\n            Present Value:"
+            "\r\n$ 162,567.05              "
+            "\r\n             Future Value:"
+            "\r\n$ 0.00                    "
+            "\r\n      PV or Loan Amount  ="
+            "\r\n$ 162,567.05              "
+            "\r\n");
+}
+
 TEST(TapeRecord, WithoutFieldsHasTheAnswerAlone) {
   EXPECT_EQ(tapeRecord({}, {"Answer:", answerOnTape("")}),
             kHeader +
