@@ -23,7 +23,8 @@ bool hasDigit(std::string_view text) {
 // A minus in front of the zeros typed so far is the sign of the digits to come.
 std::string keepSign(std::string_view typed, std::string formatted) {
   const bool lost = typed.starts_with('-') && !formatted.starts_with('-');
-  return lost && common::tryNumber(typed) == 0.0 ? "-" + formatted : formatted;
+  if (lost && common::tryNumber(typed) == 0.0) formatted.insert(0, 1, '-');
+  return formatted;
 }
 
 std::string groupWhole(std::string_view text) {
@@ -49,7 +50,7 @@ std::string formatFloating(std::string_view text) {
   if (point == std::string_view::npos) return groupWhole(text);
   const std::string_view whole = text.substr(0, point);
   const double wholeValue = hasDigit(whole) ? common::toNumber(whole) : 0;
-  const std::string formatted = groupWhole(whole) + std::string(text.substr(point));
+  std::string formatted = groupWhole(whole) + std::string(text.substr(point));
   // Exponent notation is spelt out where it is the text of a small number.
   if (formatted.find('E') == std::string::npos || wholeValue >= 1000) return formatted;
   return formatText(formatted, kSmallNumberPattern);

@@ -12,7 +12,7 @@ using controls::KeyCode;
 namespace {
 
 struct CharacterKey {
-  char character;
+  char16_t character;
   KeyCode key;
   bool shift;
 };
