@@ -1,7 +1,8 @@
-"""Adds up what the test runs left:  tally.py RESULTS.xml...
+"""Adds up what the test runs left:  tally.py RESULTS.xml... [LINT.log...]
 
 Prints what failed, a line for each run, and 'N passed, N failed' as the last line; exits with 1 unless
-all passed. A program that runs many tests counts as many as its own closing line says.
+all passed. A program that runs many tests counts as many as its own closing line says; a lint of all
+sources counts as one.
 """
 import pathlib
 import re
@@ -46,6 +47,19 @@ def count(case):
     return counts
 
 
+def report_lint(path):
+    """Prints the complaints of a lint and its line; returns its counts."""
+    said = path.read_text(encoding="utf-8").rstrip() if path.exists() else ""
+    closings = CLOSING.findall(said)
+    clean = bool(closings) and int(closings[-1][0]) > 0 and int(closings[-1][1]) == 0
+    if not clean:
+        print("==== %s failed" % path.stem)
+        print(said)
+    counts = [1, 0, 0] if clean else [0, 1, 0]
+    print("%-8s %s" % (path.stem, closing(counts)))
+    return counts
+
+
 def report(path):
     """Prints the failures of one run and its line; returns its counts."""
     if not path.exists():
@@ -72,7 +86,7 @@ def closing(counts):
 
 
 def main(paths):
-    totals = [report(pathlib.Path(path)) for path in paths]
+    totals = [(report_lint if path.endswith(".log") else report)(pathlib.Path(path)) for path in paths]
     total = [sum(column) for column in zip(*totals)]
     print(closing(total))
     return 1 if total[1] else 0
