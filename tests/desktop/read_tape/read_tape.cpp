@@ -1,5 +1,5 @@
-// Prints the tape of the Tallyrex that is open, as any other program can read it: the text of the
-// window's multi-line text box. Ends with 1 while there is no such window.
+// Prints the tape of the Tallyrex that is open, as any other program can read it: the window text of the
+// tape's control. Ends with 1 while there is no such window.
 #include <windows.h>
 
 #include <cstdio>
@@ -8,33 +8,26 @@
 
 namespace {
 
+BOOL CALLBACK takeTape(HWND window, LPARAM found) {
+  wchar_t name[32] = L"";
+  GetClassNameW(window, name, static_cast<int>(std::size(name)));
+  if (std::wstring(name) != L"TallyrexTape") return TRUE;
+  *reinterpret_cast<HWND*>(found) = window;
+  return FALSE;
+}
+
+BOOL CALLBACK takeTapeOfWindow(HWND window, LPARAM found) {
+  if (!IsWindowVisible(window)) return TRUE;
+  EnumChildWindows(window, takeTape, found);
+  return *reinterpret_cast<HWND*>(found) == nullptr;
+}
+
 std::wstring textOf(HWND window) {
   const auto length = SendMessageW(window, WM_GETTEXTLENGTH, 0, 0);
   std::vector<wchar_t> text(static_cast<std::size_t>(length) + 1);
   const auto copied =
       SendMessageW(window, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()));
   return {text.data(), static_cast<std::size_t>(copied)};
-}
-
-bool isTape(HWND window) {
-  wchar_t name[32] = L"";
-  GetClassNameW(window, name, static_cast<int>(std::size(name)));
-  const bool holdsText = std::wstring(name) == L"Edit" || std::wstring(name) == L"RICHEDIT50W";
-  return holdsText && (GetWindowLongPtrW(window, GWL_STYLE) & ES_MULTILINE) != 0;
-}
-
-BOOL CALLBACK takeTape(HWND window, LPARAM found) {
-  if (!isTape(window)) return TRUE;
-  *reinterpret_cast<HWND*>(found) = window;
-  return FALSE;
-}
-
-BOOL CALLBACK takeTapeOfMainWindow(HWND window, LPARAM found) {
-  wchar_t title[128] = L"";
-  GetWindowTextW(window, title, static_cast<int>(std::size(title)));
-  if (!IsWindowVisible(window) || !std::wstring(title).ends_with(L"Tallyrex")) return TRUE;
-  EnumChildWindows(window, takeTape, found);
-  return *reinterpret_cast<HWND*>(found) == nullptr;
 }
 
 std::string toUtf8(const std::wstring& text) {
@@ -50,7 +43,7 @@ std::string toUtf8(const std::wstring& text) {
 
 int main() {
   HWND tape = nullptr;
-  EnumWindows(takeTapeOfMainWindow, reinterpret_cast<LPARAM>(&tape));
+  EnumWindows(takeTapeOfWindow, reinterpret_cast<LPARAM>(&tape));
   if (tape == nullptr) return 1;
   const std::string text = toUtf8(textOf(tape));
   std::fwrite(text.data(), 1, text.size(), stdout);
