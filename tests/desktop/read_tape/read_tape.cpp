@@ -1,5 +1,5 @@
-// Prints the tape of the Tallyrex that is open, as any other program can read it: the window text of the
-// tape's control. Ends with 1 while there is no such window.
+// Prints the tape of the Tallyrex that is open, as any other program can read it: the window text
+// of the tape's control. Ends with 1 while there is no such window.
 #include <windows.h>
 
 #include <cstdio>
