@@ -64,6 +64,7 @@ class TextBox : public Control {
   /// Takes back the user's last edit, and a second time restores it. What the program assigned is
   /// not taken back.
   void undo();
+  bool canUndo() const { return lastEdit_.has_value(); }
   /// The character takes effect when KeyPress lets it through.
   void typeCharacter(KeyAscii character) override;
 

@@ -1,0 +1,60 @@
+#include "win32/button.h"
+
+#include <utility>
+
+namespace win32 {
+
+Button::Button(Window& frame, const controls::ControlLayout& layout)
+    : Native(frame, layout, {L"BUTTON", BS_PUSHBUTTON}), face_(frame, *this) {
+  putText();
+}
+
+void Button::takeNotification(UINT code) {
+  if (code == BN_CLICKED) click();
+}
+
+LRESULT Button::customDraw(NMCUSTOMDRAW& draw) {
+  return face_.draw(draw, false);
+}
+
+ToggleButton::ToggleButton(Window& frame, const controls::ControlLayout& layout)
+    : Native(frame, layout, {L"BUTTON", BS_CHECKBOX | BS_PUSHLIKE}), face_(frame, *this) {
+  putText();
+}
+
+void ToggleButton::takeNotification(UINT code) {
+  if (code == BN_CLICKED) click();
+}
+
+LRESULT ToggleButton::customDraw(NMCUSTOMDRAW& draw) {
+  return face_.draw(draw, value() == 1);
+}
+
+void ToggleButton::showValue() {
+  send(BM_SETCHECK, value() == 1 ? BST_CHECKED : BST_UNCHECKED);
+  InvalidateRect(handle(), nullptr, TRUE);
+}
+
+OptionButton::OptionButton(Window& frame, const controls::ControlLayout& layout)
+    : Native(frame, layout, {L"BUTTON", BS_RADIOBUTTON}) {
+  showValue();
+}
+
+void OptionButton::takeNotification(UINT code) {
+  if (code == BN_CLICKED && !takingFocus_) click();
+}
+
+// A native option button reports a click when it just gets the focus.
+std::optional<LRESULT> OptionButton::take(const Message& message) {
+  if (message.id != WM_SETFOCUS) return Native::take(message);
+  const bool before = std::exchange(takingFocus_, true);
+  const auto result = Native::take(message);
+  takingFocus_ = before;
+  return result;
+}
+
+void OptionButton::showValue() {
+  send(BM_SETCHECK, value() ? BST_CHECKED : BST_UNCHECKED);
+}
+
+}  // namespace win32

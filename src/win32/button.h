@@ -1,0 +1,55 @@
+#pragma once
+
+#include "controls/buttons.h"
+#include "win32/key_face.h"
+#include "win32/native_control.h"
+
+namespace win32 {
+
+/// A button that is pressed.
+class Button : public Native<controls::Button> {
+ public:
+  Button(Window& frame, const controls::ControlLayout& layout);
+
+  void takeNotification(UINT code) override;
+  LRESULT customDraw(NMCUSTOMDRAW& draw) override;
+
+ protected:
+  std::wstring windowText() const override { return keyName(*this); }
+
+ private:
+  KeyFace face_;
+};
+
+/// A button that stays down.
+class ToggleButton : public Native<controls::ToggleButton> {
+ public:
+  ToggleButton(Window& frame, const controls::ControlLayout& layout);
+
+  void takeNotification(UINT code) override;
+  LRESULT customDraw(NMCUSTOMDRAW& draw) override;
+
+ protected:
+  std::wstring windowText() const override { return keyName(*this); }
+  void showValue() override;
+
+ private:
+  KeyFace face_;
+};
+
+/// One choice of several.
+class OptionButton : public Native<controls::OptionButton> {
+ public:
+  OptionButton(Window& frame, const controls::ControlLayout& layout);
+
+  void takeNotification(UINT code) override;
+
+ protected:
+  std::optional<LRESULT> take(const Message& message) override;
+  void showValue() override;
+
+ private:
+  bool takingFocus_ = false;
+};
+
+}  // namespace win32

@@ -1,0 +1,71 @@
+#include "win32/clipboard.h"
+
+#include <cstring>
+
+#include "win32/system.h"
+#include "win32/text.h"
+
+namespace win32 {
+namespace {
+
+/// The clipboard while it is open. Another program may hold it for a moment.
+class Clipboard {
+ public:
+  Clipboard() {
+    constexpr int kAttempts = 25;
+    constexpr DWORD kPause = 10;
+    for (int attempt = 0; attempt < kAttempts && !open_; ++attempt) {
+      if (attempt > 0) Sleep(kPause);
+      open_ = OpenClipboard(owner());
+    }
+  }
+  ~Clipboard() {
+    if (open_) CloseClipboard();
+  }
+  Clipboard(const Clipboard&) = delete;
+  Clipboard& operator=(const Clipboard&) = delete;
+
+  bool isOpen() const { return open_; }
+
+ private:
+  // A clipboard that is emptied without an owner takes nothing afterwards.
+  static HWND owner() {
+    static const HWND window = CreateWindowExW(0, L"STATIC", nullptr, 0, 0, 0, 0, 0, HWND_MESSAGE,
+                                               nullptr, GetModuleHandleW(nullptr), nullptr);
+    return window;
+  }
+
+  BOOL open_ = FALSE;
+};
+
+}  // namespace
+
+std::optional<std::string> readClipboard() {
+  const Clipboard clipboard;
+  if (!clipboard.isOpen()) return {};
+  const HANDLE data = GetClipboardData(CF_UNICODETEXT);
+  if (!data) return {};
+  const auto* text = static_cast<const wchar_t*>(GlobalLock(data));
+  if (!text) return {};
+  // A program may have left out the terminating zero.
+  std::wstring copy(text, wcsnlen(text, GlobalSize(data) / sizeof(wchar_t)));
+  GlobalUnlock(data);
+  return narrow(copy);
+}
+
+bool writeClipboard(std::string_view text) {
+  const std::wstring units = wide(text);
+  const std::size_t bytes = (units.size() + 1) * sizeof(wchar_t);
+  const Clipboard clipboard;
+  if (!clipboard.isOpen() || !EmptyClipboard()) return false;
+  const HGLOBAL data = GlobalAlloc(GMEM_MOVEABLE, bytes);
+  if (!data) return false;
+  std::memcpy(GlobalLock(data), units.c_str(), bytes);
+  GlobalUnlock(data);
+  // What the clipboard has taken belongs to it.
+  if (SetClipboardData(CF_UNICODETEXT, data)) return true;
+  GlobalFree(data);
+  return false;
+}
+
+}  // namespace win32

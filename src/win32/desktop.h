@@ -1,0 +1,52 @@
+#pragma once
+
+#include <array>
+#include <string>
+#include <vector>
+
+#include "controls/desktop.h"
+#include "win32/registry_settings.h"
+
+namespace win32 {
+
+class Window;
+
+/// The user's desktop.
+class Desktop : public controls::Desktop {
+ public:
+  /// Keeps the settings under the user's own registry root, in the folder of keys that is named.
+  explicit Desktop(const std::string& settingsRoot = "Software\\Tallyrex");
+
+  std::unique_ptr<controls::Window> createWindow(const controls::WindowLayout& layout) override;
+  int showMessage(const controls::MessageBox& box) override;
+  void beep() override;
+  std::optional<std::string> clipboardText() override;
+  bool setClipboardText(std::string_view text) override;
+  bool startProgram(const std::string& program) override;
+  bool startProgramAndPaste(const std::string& program) override;
+  void showHelp(const controls::HelpRequest& request) override;
+  std::optional<std::uint32_t> chooseColor() override;
+  common::SettingsStore& settings() override { return settings_; }
+  std::optional<controls::RegistryValue> registryValue(std::string_view key,
+                                                       std::string_view name) override;
+  bool fileExists(const std::string& path) override;
+  std::string programFolder() override;
+  std::string programName() override;
+
+  /// The window has come to the front of the program's own.
+  void noteInFront(Window& window);
+  /// The window is about to be hidden: the one behind it comes to the front.
+  void handOver(Window& window);
+  void forget(Window& window);
+
+ private:
+  class Modal;
+
+  RegistrySettings settings_;
+  // The windows that have been in front, the one in front last.
+  std::vector<Window*> order_;
+  // The colours that the user has mixed in the colour picker.
+  std::array<std::uint32_t, 16> mixedColors_{};
+};
+
+}  // namespace win32

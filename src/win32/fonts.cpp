@@ -1,0 +1,79 @@
+#include "win32/fonts.h"
+
+#include <algorithm>
+#include <array>
+#include <vector>
+
+#include "win32/text.h"
+
+namespace win32 {
+
+using controls::FontLayout;
+
+namespace {
+
+struct Face {
+  std::string_view name;
+  const wchar_t* used;
+  BYTE pitchAndFamily;
+};
+
+// A layout names classic faces. Two of them are bitmaps, made for one resolution and blurred or too
+// small at any other, so that a scalable face of the same proportions takes their place. The pitch
+// lets a system without the face choose one whose figures still stand in columns.
+constexpr std::array kFaces = {
+    Face{"MS Sans Serif", L"Tahoma", VARIABLE_PITCH | FF_SWISS},
+    Face{"Terminal", L"Lucida Console", FIXED_PITCH | FF_MODERN},
+    Face{"Courier New", L"Courier New", FIXED_PITCH | FF_MODERN},
+};
+
+// Faces known for their symbols.
+constexpr std::array<std::string_view, 4> kSymbolFaces = {"Segoe UI Symbol", "Segoe UI", "Arial",
+                                                          "Courier New"};
+
+HFONT createFont(int height, bool bold, const wchar_t* face, BYTE pitchAndFamily) {
+  return CreateFontW(height, 0, 0, 0, bold ? FW_BOLD : FW_NORMAL, FALSE, FALSE, FALSE,
+                     DEFAULT_CHARSET, OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY,
+                     pitchAndFamily, face);
+}
+
+bool canShow(HFONT font, const std::wstring& text) {
+  const HDC screen = GetDC(nullptr);
+  const HGDIOBJ before = SelectObject(screen, font);
+  std::vector<WORD> glyphs(text.size());
+  GetGlyphIndicesW(screen, text.c_str(), static_cast<int>(text.size()), glyphs.data(),
+                   GGI_MARK_NONEXISTING_GLYPHS);
+  SelectObject(screen, before);
+  ReleaseDC(nullptr, screen);
+  return std::find(glyphs.begin(), glyphs.end(), 0xFFFF) == glyphs.end();
+}
+
+}  // namespace
+
+HFONT Fonts::font(const FontLayout& layout, std::string_view face) {
+  OwnedFont& font = fonts_[{std::string(face), layout.tenthsOfPoint, layout.bold}];
+  if (font) return font.get();
+  const int height = scale_.fontHeight(layout.tenthsOfPoint);
+  const auto known = std::find_if(kFaces.begin(), kFaces.end(),
+                                  [face](const Face& entry) { return entry.name == face; });
+  if (known != kFaces.end()) {
+    font.reset(createFont(height, layout.bold, known->used, known->pitchAndFamily));
+  } else {
+    font.reset(createFont(height, layout.bold, wide(face).c_str(), DEFAULT_PITCH));
+  }
+  return font.get();
+}
+
+HFONT Fonts::fontShowing(const FontLayout& layout, const std::wstring& text) {
+  std::wstring visible = text;
+  std::erase(visible, L'\n');
+  const HFONT wanted = font(layout);
+  if (canShow(wanted, visible)) return wanted;
+  for (const std::string_view face : kSymbolFaces) {
+    const HFONT other = font(layout, face);
+    if (canShow(other, visible)) return other;
+  }
+  return wanted;
+}
+
+}  // namespace win32

@@ -1,0 +1,69 @@
+#include "win32/help_viewer.h"
+
+#include "win32/system.h"
+
+#include <shellapi.h>
+
+#include "win32/paths.h"
+#include "win32/text.h"
+
+namespace win32 {
+namespace {
+
+// Newer systems keep a small program of the viewer's name that only says that there is none.
+bool hasViewer() {
+  constexpr DWORD kSmallestViewer = 100'000;
+  for (const auto folder : {GetSystemWindowsDirectoryW, GetSystemDirectoryW}) {
+    wchar_t buffer[MAX_PATH] = {};
+    folder(buffer, MAX_PATH);
+    const std::wstring viewer = buffer + std::wstring(L"\\winhlp32.exe");
+    WIN32_FILE_ATTRIBUTE_DATA file = {};
+    if (GetFileAttributesExW(viewer.c_str(), GetFileExInfoStandard, &file) &&
+        file.nFileSizeLow >= kSmallestViewer)
+      return true;
+  }
+  return false;
+}
+
+// The viewer blocks its caller over a file that is not there.
+bool openInViewer(const controls::HelpRequest& request, HWND owner) {
+  if (!isFile(wide(request.file)) || !hasViewer()) return false;
+  return WinHelpA(owner, request.file.c_str(), static_cast<UINT>(request.command),
+                  static_cast<ULONG_PTR>(request.data));
+}
+
+// The page lies beside the file of the viewer, or in the help folder.
+std::wstring findPage(const std::wstring& file, const std::wstring& name) {
+  const std::wstring folder = folderOf(file);
+  for (const std::wstring& page : {folder + L"\\" + name, folder + L"\\help\\" + name})
+    if (isFile(page)) return page;
+  return {};
+}
+
+bool openInBrowser(const controls::HelpRequest& request) {
+  const std::wstring file = wide(request.file);
+  const std::wstring name = baseNameOf(file);
+  std::wstring page;
+  // The system drops what follows the "#" of a page's address: a topic has a page of its own.
+  if (request.data != 0)
+    page = findPage(file, name + L"-" + std::to_wstring(request.data) + L".html");
+  if (page.empty()) page = findPage(file, name + L".html");
+  if (page.empty()) return false;
+  const auto result = reinterpret_cast<INT_PTR>(
+      ShellExecuteW(nullptr, L"open", page.c_str(), nullptr, nullptr, SW_SHOWNORMAL));
+  // The numbers up to it are errors.
+  constexpr INT_PTR kLastError = 32;
+  return result > kLastError;
+}
+
+}  // namespace
+
+bool openHelp(const controls::HelpRequest& request, HWND owner) {
+  return openInViewer(request, owner) || openInBrowser(request);
+}
+
+std::string helpPage(const std::string& file) {
+  return narrow(folderOf(wide(file)) + L"\\" + baseNameOf(wide(file)) + L".html");
+}
+
+}  // namespace win32

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <string>
+
+#include "controls/desktop.h"
+#include "win32/system.h"
+
+namespace win32 {
+
+/// Opens the help in the viewer that the system has for it, or as a page in the browser. False when
+/// neither can be had.
+bool openHelp(const controls::HelpRequest& request, HWND owner);
+
+/// The page that holds the same help for a browser.
+std::string helpPage(const std::string& file);
+
+}  // namespace win32

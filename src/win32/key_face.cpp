@@ -1,0 +1,138 @@
+#include "win32/key_face.h"
+
+#include "win32/system.h"
+
+#include <uxtheme.h>
+#include <vssym32.h>
+
+#include <algorithm>
+
+#include "win32/colors.h"
+#include "win32/text.h"
+#include "win32/window.h"
+
+namespace win32 {
+namespace {
+
+// The side of a button's picture, at 96 dots to the inch.
+constexpr int kIconSize = 32;
+
+struct CloseTheme {
+  void operator()(HTHEME theme) const noexcept { CloseThemeData(theme); }
+};
+using OwnedTheme = Owned<HTHEME, CloseTheme>;
+
+bool has(const NMCUSTOMDRAW& draw, UINT state) {
+  return (draw.uItemState & state) != 0;
+}
+
+int themeState(const NMCUSTOMDRAW& draw, bool down) {
+  if (has(draw, CDIS_DISABLED)) return PBS_DISABLED;
+  if (down || has(draw, CDIS_SELECTED)) return PBS_PRESSED;
+  return has(draw, CDIS_HOT) ? PBS_HOT : PBS_NORMAL;
+}
+
+UINT classicState(const NMCUSTOMDRAW& draw, bool down) {
+  UINT state = DFCS_BUTTONPUSH;
+  if (has(draw, CDIS_DISABLED)) state |= DFCS_INACTIVE;
+  if (down) state |= DFCS_CHECKED;
+  if (has(draw, CDIS_SELECTED)) state |= DFCS_PUSHED;
+  return state;
+}
+
+}  // namespace
+
+std::wstring keyName(const controls::Control& key) {
+  const controls::ControlLayout& layout = key.layout();
+  if (layout.face.empty() && layout.icon.empty()) return wide(key.caption());
+  return wide(layout.accessibleName.empty() ? layout.face : layout.accessibleName);
+}
+
+KeyFace::KeyFace(Window& frame, const controls::Control& key)
+    : frame_(frame), key_(key), face_(wide(key.layout().face)) {
+  if (key.layout().icon.empty()) return;
+  const int size = MulDiv(kIconSize, frame.scale().dpi(), 96);
+  icon_.reset(
+      static_cast<HICON>(LoadImageW(GetModuleHandleW(nullptr), wide(key.layout().icon).c_str(),
+                                    IMAGE_ICON, size, size, LR_DEFAULTCOLOR)));
+}
+
+LRESULT KeyFace::draw(const NMCUSTOMDRAW& draw, bool down) {
+  if (draw.dwDrawStage == CDDS_PREPAINT) {
+    if (!hasOwnFace()) return CDRF_NOTIFYPOSTPAINT;
+    drawKey(draw, down);
+    return CDRF_SKIPDEFAULT;
+  }
+  if (draw.dwDrawStage == CDDS_POSTPAINT) tint(draw);
+  return CDRF_DODEFAULT;
+}
+
+void KeyFace::drawKey(const NMCUSTOMDRAW& draw, bool down) const {
+  drawBackground(draw, down);
+  tint(draw);
+  if (icon_) {
+    drawIcon(draw);
+  } else {
+    drawText(draw);
+  }
+  if (!has(draw, CDIS_FOCUS)) return;
+  constexpr int kInset = 3;
+  RECT inside = draw.rc;
+  InflateRect(&inside, -kInset, -kInset);
+  DrawFocusRect(draw.hdc, &inside);
+}
+
+void KeyFace::drawBackground(const NMCUSTOMDRAW& draw, bool down) const {
+  const OwnedTheme theme(OpenThemeData(draw.hdr.hwndFrom, VSCLASS_BUTTON));
+  RECT area = draw.rc;
+  if (theme) {
+    DrawThemeParentBackground(draw.hdr.hwndFrom, draw.hdc, &area);
+    DrawThemeBackground(theme.get(), draw.hdc, BP_PUSHBUTTON, themeState(draw, down), &area,
+                        nullptr);
+  } else {
+    DrawFrameControl(draw.hdc, &area, DFC_BUTTON, classicState(draw, down));
+  }
+}
+
+void KeyFace::drawText(const NMCUSTOMDRAW& draw) const {
+  const HGDIOBJ before =
+      SelectObject(draw.hdc, frame_.fonts().fontShowing(key_.layout().font, face_));
+  SetBkMode(draw.hdc, TRANSPARENT);
+  SetTextColor(draw.hdc, has(draw, CDIS_DISABLED) ? GetSysColor(COLOR_GRAYTEXT)
+                                                  : textColorOn(key_.backColor()));
+  constexpr UINT kFormat = DT_CENTER | DT_NOPREFIX;
+  RECT needed = {0, 0, draw.rc.right - draw.rc.left, 0};
+  DrawTextW(draw.hdc, face_.c_str(), -1, &needed, kFormat | DT_CALCRECT);
+  RECT area = draw.rc;
+  area.top += std::max(0L, (area.bottom - area.top - needed.bottom) / 2);
+  DrawTextW(draw.hdc, face_.c_str(), -1, &area, kFormat);
+  SelectObject(draw.hdc, before);
+}
+
+void KeyFace::drawIcon(const NMCUSTOMDRAW& draw) const {
+  const int size = MulDiv(kIconSize, frame_.scale().dpi(), 96);
+  const int left = draw.rc.left + (draw.rc.right - draw.rc.left - size) / 2;
+  const int top = draw.rc.top + (draw.rc.bottom - draw.rc.top - size) / 2;
+  if (has(draw, CDIS_DISABLED)) {
+    DrawStateW(draw.hdc, nullptr, nullptr, reinterpret_cast<LPARAM>(icon_.get()), 0, left, top,
+               size, size, DST_ICON | DSS_DISABLED);
+  } else {
+    DrawIconEx(draw.hdc, left, top, icon_.get(), size, size, 0, nullptr, DI_NORMAL);
+  }
+}
+
+// The colour shines through what is drawn already: the style of the button stays, hot and pressed
+// included.
+void KeyFace::tint(const NMCUSTOMDRAW& draw) const {
+  if (key_.backColor() == controls::Color::buttonFace()) return;
+  constexpr DWORD kDestinationAndPattern = 0x00A000C9;
+  RECT area = draw.rc;
+  InflateRect(&area, -1, -1);
+  const OwnedBrush brush(CreateSolidBrush(colorOf(key_.backColor())));
+  const HGDIOBJ before = SelectObject(draw.hdc, brush.get());
+  PatBlt(draw.hdc, area.left, area.top, area.right - area.left, area.bottom - area.top,
+         kDestinationAndPattern);
+  SelectObject(draw.hdc, before);
+}
+
+}  // namespace win32

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "win32/system.h"
+
+#include <commctrl.h>
+
+#include <string>
+
+#include "controls/control.h"
+#include "win32/handles.h"
+
+namespace win32 {
+
+class Window;
+
+/// What the system and a screen reader know a button by: its caption, but for a key whose face is a
+/// symbol or a picture the word for it.
+std::wstring keyName(const controls::Control& key);
+
+/// What is seen on a button that shows a symbol or a picture in the place of its name, or that has
+/// a colour. It is drawn in the system's own style.
+class KeyFace {
+ public:
+  KeyFace(Window& frame, const controls::Control& key);
+
+  /// Draws what the native button does not; `down` is a toggle's.
+  LRESULT draw(const NMCUSTOMDRAW& draw, bool down);
+
+ private:
+  bool hasOwnFace() const { return !face_.empty() || icon_; }
+  void drawKey(const NMCUSTOMDRAW& draw, bool down) const;
+  void drawBackground(const NMCUSTOMDRAW& draw, bool down) const;
+  void drawText(const NMCUSTOMDRAW& draw) const;
+  void drawIcon(const NMCUSTOMDRAW& draw) const;
+  void tint(const NMCUSTOMDRAW& draw) const;
+
+  Window& frame_;
+  const controls::Control& key_;
+  std::wstring face_;
+  OwnedIcon icon_;
+};
+
+}  // namespace win32

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "win32/system.h"
+
+namespace win32 {
+
+inline bool isDown(int key) {
+  return GetKeyState(key) < 0;
+}
+
+/// The keys that do nothing by themselves: pressing one is no key stroke of the program.
+constexpr bool isModifier(WPARAM key) {
+  switch (key) {
+    case VK_SHIFT:
+    case VK_CONTROL:
+    case VK_MENU:
+    case VK_CAPITAL:
+    case VK_NUMLOCK:
+    case VK_SCROLL:
+    case VK_LWIN:
+    case VK_RWIN:
+    case VK_APPS:
+      return true;
+    default:
+      return false;
+  }
+}
+
+}  // namespace win32

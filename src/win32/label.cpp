@@ -1,0 +1,25 @@
+#include "win32/label.h"
+
+namespace win32 {
+
+using controls::Alignment;
+
+Label::Label(Window& frame, const controls::ControlLayout& layout)
+    : Native(frame, layout,
+             {L"STATIC",
+              static_cast<DWORD>(layout.alignment == Alignment::Right ? SS_RIGHT : SS_LEFT) |
+                  SS_NOTIFY}) {}
+
+std::optional<LRESULT> Label::take(const Message& message) {
+  if (message.id != WM_LBUTTONDBLCLK) return Native::take(message);
+  doubleClick();
+  return 0;
+}
+
+// Behind the controls that it surrounds.
+Frame::Frame(Window& frame, const controls::ControlLayout& layout)
+    : Native(frame, layout, {L"BUTTON", BS_GROUPBOX}) {
+  SetWindowPos(handle(), HWND_BOTTOM, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+}
+
+}  // namespace win32

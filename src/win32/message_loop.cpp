@@ -1,0 +1,73 @@
+#include "win32/message_loop.h"
+
+#include "win32/desktop.h"
+#include "win32/edge.h"
+#include "win32/keys.h"
+#include "win32/system.h"
+#include "win32/window.h"
+
+namespace win32 {
+namespace {
+
+// The key stroke that the window in front may take before a control sees it.
+std::optional<controls::KeyStroke> strokeOf(const MSG& message) {
+  controls::KeyStroke stroke{.key = static_cast<controls::KeyCode>(message.wParam),
+                             .shift = isDown(VK_SHIFT),
+                             .control = isDown(VK_CONTROL),
+                             .alt = isDown(VK_MENU)};
+  // Alt with a letter comes as the character, which is right for every keyboard layout.
+  if (message.message == WM_SYSCHAR) {
+    const auto upper = CharUpperW(reinterpret_cast<wchar_t*>(message.wParam));
+    stroke.key = static_cast<controls::KeyCode>(reinterpret_cast<UINT_PTR>(upper));
+    return stroke;
+  }
+  // Ctrl with Alt types characters that have no key of their own.
+  if (message.message != WM_KEYDOWN || stroke.alt || isModifier(message.wParam)) return {};
+  return stroke;
+}
+
+bool isTaken(Desktop& desktop, const MSG& message) {
+  const auto* window = static_cast<Window*>(desktop.activeWindow());
+  if (!window || GetAncestor(message.hwnd, GA_ROOT) != window->handle()) return false;
+  const auto stroke = strokeOf(message);
+  return stroke && desktop.activeWindow()->takeKey(*stroke);
+}
+
+// The decimal key types a point whatever the keyboard's layout makes of it.
+void translate(const MSG& message) {
+  if (message.message == WM_KEYDOWN && message.wParam == VK_DECIMAL) {
+    PostMessageW(message.hwnd, WM_CHAR, L'.', message.lParam);
+  } else {
+    TranslateMessage(&message);
+  }
+}
+
+void dispatch(Desktop& desktop, const MSG& message) {
+  atTheEdge(desktop.events(), [&]() -> LRESULT {
+    if (isTaken(desktop, message)) return 0;
+    translate(message);
+    return DispatchMessageW(&message);
+  });
+}
+
+}  // namespace
+
+void runMessageLoop(Desktop& desktop) {
+  MSG message;
+  while (GetMessageW(&message, nullptr, 0, 0) > 0) dispatch(desktop, message);
+}
+
+void endMessageLoop() {
+  PostQuitMessage(0);
+}
+
+bool dispatchWaiting(Desktop& desktop) {
+  MSG message;
+  while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
+    if (message.message == WM_QUIT) return false;
+    dispatch(desktop, message);
+  }
+  return true;
+}
+
+}  // namespace win32

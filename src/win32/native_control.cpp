@@ -1,0 +1,142 @@
+#include "win32/native_control.h"
+
+#include "win32/colors.h"
+#include "win32/desktop.h"
+#include "win32/edge.h"
+#include "win32/keys.h"
+#include "win32/text.h"
+
+namespace win32 {
+namespace {
+
+constexpr UINT_PTR kSubclass = 1;
+constexpr wchar_t kProperty[] = L"TallyrexControl";
+
+}  // namespace
+
+NativeControl::NativeControl(Window& frame, controls::Control& control, const NativeStyle& style)
+    : frame_(frame), control_(control) {
+  const RECT place = frame.scale().toPixels(control.bounds());
+  handle_ = CreateWindowExW(style.exStyle, style.windowClass, wide(control.caption()).c_str(),
+                            WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS | style.style, place.left,
+                            place.top, place.right - place.left, place.bottom - place.top,
+                            frame.handle(), nullptr, GetModuleHandleW(nullptr), nullptr);
+  assert(handle_);
+  SetPropW(handle_, kProperty, this);
+  SetWindowSubclass(handle_, receive, kSubclass, reinterpret_cast<DWORD_PTR>(this));
+  send(WM_SETFONT, reinterpret_cast<WPARAM>(frame.fonts().font(control.layout().font)));
+}
+
+NativeControl::~NativeControl() {
+  if (handle_) DestroyWindow(handle_);
+}
+
+NativeControl& NativeControl::of(controls::Control& control) {
+  return dynamic_cast<NativeControl&>(control);
+}
+
+NativeControl* NativeControl::of(HWND handle) {
+  return static_cast<NativeControl*>(GetPropW(handle, kProperty));
+}
+
+LRESULT CALLBACK NativeControl::receive(HWND handle, UINT id, WPARAM wParam, LPARAM lParam,
+                                        UINT_PTR, DWORD_PTR self) {
+  auto* control = reinterpret_cast<NativeControl*>(self);
+  if (id == WM_NCDESTROY) {
+    RemovePropW(handle, kProperty);
+    RemoveWindowSubclass(handle, receive, kSubclass);
+    control->handle_ = nullptr;
+    return DefSubclassProc(handle, id, wParam, lParam);
+  }
+  const Message message{id, wParam, lParam};
+  return atTheEdge(control->frame_.desktop().events(), [&] {
+    const std::optional<LRESULT> result = control->take(message);
+    return result ? *result : control->passOn(message);
+  });
+}
+
+LRESULT NativeControl::passOn(const Message& message) {
+  return DefSubclassProc(handle_, message.id, message.wParam, message.lParam);
+}
+
+std::optional<LRESULT> NativeControl::take(const Message& message) {
+  switch (message.id) {
+    case WM_SETFOCUS: {
+      const LRESULT result = passOn(message);
+      frame_.focusControl(control_);
+      return result;
+    }
+    case WM_KEYDOWN:
+      // The native control does not act on keys by itself: their characters do.
+      return 0;
+    case WM_CHAR:
+      takeCharacter(static_cast<wchar_t>(message.wParam));
+      return 0;
+    case WM_KEYUP:
+      if (!isModifier(message.wParam))
+        control_.keyUp(static_cast<controls::KeyCode>(message.wParam));
+      return DefWindowProcW(handle_, message.id, message.wParam, message.lParam);
+    default:
+      return {};
+  }
+}
+
+void NativeControl::takeCharacter(wchar_t unit) {
+  if (IS_HIGH_SURROGATE(unit)) {
+    highSurrogate_ = unit;
+    return;
+  }
+  controls::KeyAscii character = unit;
+  if (IS_LOW_SURROGATE(unit) && highSurrogate_)
+    character = 0x10000 + ((highSurrogate_ - 0xD800) << 10) + (unit - 0xDC00);
+  highSurrogate_ = 0;
+  control_.typeCharacter(character);
+}
+
+std::wstring NativeControl::windowText() const {
+  return wide(control_.caption());
+}
+
+HFONT NativeControl::font() {
+  return frame_.fonts().font(control_.layout().font);
+}
+
+void NativeControl::putText() {
+  SetWindowTextW(handle_, windowText().c_str());
+}
+
+void NativeControl::putPlace() {
+  const RECT place = frame_.scale().toPixels(control_.bounds());
+  SetWindowPos(handle_, nullptr, place.left, place.top, place.right - place.left,
+               place.bottom - place.top, SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void NativeControl::putVisible() {
+  ShowWindow(handle_, control_.visible() ? SW_SHOWNA : SW_HIDE);
+}
+
+void NativeControl::putEnabled() {
+  EnableWindow(handle_, control_.enabled());
+}
+
+void NativeControl::putBackColor() {
+  background_.reset();
+  InvalidateRect(handle_, nullptr, TRUE);
+}
+
+HBRUSH NativeControl::prepareColors(HDC context) {
+  const COLORREF background = colorOf(control_.backColor());
+  SetBkColor(context, background);
+  SetTextColor(context, textColorOn(control_.backColor()));
+  if (!background_) background_.reset(CreateSolidBrush(background));
+  return background_.get();
+}
+
+void NativeControl::refresh() {
+  background_.reset();
+  send(WM_SETFONT, reinterpret_cast<WPARAM>(font()), TRUE);
+  putPlace();
+  InvalidateRect(handle_, nullptr, TRUE);
+}
+
+}  // namespace win32

@@ -1,0 +1,126 @@
+#include "win32/system.h"
+
+#include <oleacc.h>
+#include <uxtheme.h>
+#include <vssym32.h>
+
+#include <algorithm>
+#include <cstring>
+
+#include "win32/tape_box.h"
+#include "win32/text.h"
+
+namespace win32 {
+
+// To a screen reader the tape is a box as the system's own: it answers what it would ask of one.
+std::optional<LRESULT> TapeBox::takeEditMessage(const Message& message) {
+  // The class of the system's edit box, in the numbering of the accessibility library.
+  constexpr LRESULT kEditClass = 65536 + 4;
+  const TapeLines& lines = view_.lines();
+  const int place = static_cast<int>(message.wParam);
+  switch (message.id) {
+    case WM_GETOBJECT:
+      if (static_cast<LONG>(message.lParam) != OBJID_QUERYCLASSNAMEIDX) return {};
+      return kEditClass;
+    case WM_GETFONT:
+      return reinterpret_cast<LRESULT>(view_.font());
+    case WM_SETFONT:
+      view_.setFont(reinterpret_cast<HFONT>(message.wParam));
+      return 0;
+    case EM_GETLINECOUNT:
+      return lines.count();
+    case EM_GETFIRSTVISIBLELINE:
+      return view_.firstLine();
+    case EM_LINEFROMCHAR:
+      return lines.lineOf(place < 0 ? view_.selectionStart() : place);
+    case EM_LINEINDEX:
+      if (place >= lines.count()) return -1;
+      return lines.start(place < 0 ? lines.lineOf(view_.caret()) : place);
+    case EM_LINELENGTH: {
+      const int line = lines.lineOf(place < 0 ? view_.selectionStart() : place);
+      return lines.end(line) - lines.start(line);
+    }
+    case EM_POSFROMCHAR: {
+      if (place < 0 || place > lines.length()) return -1;
+      const POINT point = view_.pointOf(place);
+      return MAKELRESULT(point.x, point.y);
+    }
+    case EM_CHARFROMPOS: {
+      const int hit = view_.placeAt(mousePlace(message));
+      return MAKELRESULT(hit, lines.lineOf(hit));
+    }
+    default:
+      return takeTextMessage(message);
+  }
+}
+
+namespace {
+
+// Fills a caller's buffer of characters; how many it took.
+LRESULT copyOut(std::wstring_view text, wchar_t* buffer, std::size_t room) {
+  const std::size_t taken = std::min(text.size(), room);
+  std::memcpy(buffer, text.data(), taken * sizeof(wchar_t));
+  return static_cast<LRESULT>(taken);
+}
+
+}  // namespace
+
+std::optional<LRESULT> TapeBox::takeTextMessage(const Message& message) {
+  const TapeLines& lines = view_.lines();
+  auto* text = reinterpret_cast<wchar_t*>(message.lParam);
+  switch (message.id) {
+    case WM_GETTEXTLENGTH:
+      return lines.length();
+    case WM_GETTEXT: {
+      if (message.wParam == 0) return 0;
+      const LRESULT taken = copyOut(lines.text(), text, message.wParam - 1);
+      text[taken] = L'\0';
+      return taken;
+    }
+    case EM_GETLINE:
+      if (static_cast<int>(message.wParam) >= lines.count()) return 0;
+      // The buffer begins with its own size.
+      return copyOut(lines.line(static_cast<int>(message.wParam)), text, static_cast<WORD>(*text));
+    case EM_GETSEL: {
+      const auto start = static_cast<DWORD>(view_.selectionStart());
+      const auto end = static_cast<DWORD>(view_.selectionEnd());
+      if (message.wParam) *reinterpret_cast<DWORD*>(message.wParam) = start;
+      if (message.lParam) *reinterpret_cast<DWORD*>(message.lParam) = end;
+      return MAKELRESULT(start, end);
+    }
+    case EM_SETSEL: {
+      const int end = message.lParam < 0 ? lines.length() : static_cast<int>(message.lParam);
+      const int start = static_cast<int>(message.wParam);
+      select(start, std::max(0, end - start));
+      return 0;
+    }
+    case WM_SETTEXT:
+      selectAll();
+      replaceSelection(narrow(text));
+      return TRUE;
+    case EM_REPLACESEL:
+      replaceSelection(narrow(text));
+      return 0;
+    default:
+      return {};
+  }
+}
+
+// The border of the system's boxes in the user's theme; without one the classic edge is drawn
+// already.
+void TapeBox::paintFrame() {
+  const HTHEME theme = OpenThemeData(handle(), VSCLASS_EDIT);
+  if (!theme) return;
+  RECT frame;
+  GetWindowRect(handle(), &frame);
+  OffsetRect(&frame, -frame.left, -frame.top);
+  const int x = GetSystemMetrics(SM_CXEDGE);
+  const int y = GetSystemMetrics(SM_CYEDGE);
+  const HDC context = GetWindowDC(handle());
+  ExcludeClipRect(context, x, y, frame.right - x, frame.bottom - y);
+  DrawThemeBackground(theme, context, EP_EDITTEXT, ETS_NORMAL, &frame, nullptr);
+  ReleaseDC(handle(), context);
+  CloseThemeData(theme);
+}
+
+}  // namespace win32

@@ -1,0 +1,78 @@
+#include "win32/tape_lines.h"
+
+#include <algorithm>
+#include <cwctype>
+
+namespace win32 {
+namespace {
+
+bool isHighSurrogate(wchar_t unit) {
+  return unit >= 0xD800 && unit < 0xDC00;
+}
+
+bool isLowSurrogate(wchar_t unit) {
+  return unit >= 0xDC00 && unit < 0xE000;
+}
+
+}  // namespace
+
+std::wstring_view TapeLines::part(int start, int length) const {
+  return std::wstring_view(text_).substr(static_cast<std::size_t>(start),
+                                         static_cast<std::size_t>(length));
+}
+
+int TapeLines::end(int line) const {
+  if (line + 1 == count()) return length();
+  const int feed = start(line + 1) - 1;
+  return feed > start(line) && at(feed - 1) == L'\r' ? feed - 1 : feed;
+}
+
+int TapeLines::lineOf(int place) const {
+  const auto behind = std::upper_bound(starts_.begin(), starts_.end(), place);
+  return static_cast<int>(behind - starts_.begin()) - 1;
+}
+
+// Between the two units of one character.
+bool TapeLines::isInside(int place) const {
+  if (place <= 0 || place >= length()) return false;
+  const wchar_t before = at(place - 1);
+  const wchar_t behind = at(place);
+  return (before == L'\r' && behind == L'\n') ||
+         (isHighSurrogate(before) && isLowSurrogate(behind));
+}
+
+int TapeLines::next(int place) const {
+  place = std::min(place + 1, length());
+  return isInside(place) ? place + 1 : place;
+}
+
+int TapeLines::previous(int place) const {
+  place = std::max(place - 1, 0);
+  return isInside(place) ? place - 1 : place;
+}
+
+int TapeLines::nextWord(int place) const {
+  while (place < length() && !std::iswspace(at(place))) ++place;
+  while (place < length() && std::iswspace(at(place))) ++place;
+  return place;
+}
+
+int TapeLines::previousWord(int place) const {
+  while (place > 0 && std::iswspace(at(place - 1))) --place;
+  while (place > 0 && !std::iswspace(at(place - 1))) --place;
+  return place;
+}
+
+void TapeLines::replace(int start, int length, std::wstring_view text) {
+  const auto first = std::upper_bound(starts_.begin(), starts_.end(), start);
+  const auto last = std::upper_bound(first, starts_.end(), start + length);
+  const int growth = static_cast<int>(text.size()) - length;
+  std::for_each(last, starts_.end(), [growth](int& lineStart) { lineStart += growth; });
+  std::vector<int> added;
+  for (std::size_t at = 0; at < text.size(); ++at)
+    if (text[at] == L'\n') added.push_back(start + static_cast<int>(at) + 1);
+  starts_.insert(starts_.erase(first, last), added.begin(), added.end());
+  text_.replace(static_cast<std::size_t>(start), static_cast<std::size_t>(length), text);
+}
+
+}  // namespace win32

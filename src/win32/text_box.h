@@ -1,0 +1,37 @@
+#pragma once
+
+#include "controls/text_box.h"
+#include "win32/native_control.h"
+#include "win32/text_input.h"
+
+namespace win32 {
+
+/// A text of one line.
+class TextBox : public Native<controls::TextBox> {
+ public:
+  TextBox(Window& frame, const controls::ControlLayout& layout);
+
+ protected:
+  std::optional<LRESULT> take(const Message& message) override;
+  // The window text of a box is what is typed into it.
+  void showCaption() override {}
+
+  std::string loadText() const override;
+  int loadLength() const override { return GetWindowTextLengthW(handle()); }
+  std::string loadPart(int start, int length) const override;
+  Selection loadSelection() const override;
+  void storeText(std::string_view text) override;
+  void storeAppended(std::string_view text) override;
+  void storeSelection(int start, int length) override;
+  void storePart(int start, int length, std::string_view text) override;
+
+ private:
+  std::wstring wideText() const;
+  void store(UINT message, WPARAM wParam, const std::wstring& text);
+
+  TextInput input_;
+  // The text that is being changed is the program's doing.
+  bool storing_ = false;
+};
+
+}  // namespace win32

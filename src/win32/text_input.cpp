@@ -1,0 +1,158 @@
+#include "win32/text_input.h"
+
+#include "controls/desktop.h"
+#include "win32/handles.h"
+#include "win32/keys.h"
+#include "win32/native_control.h"
+#include "win32/text.h"
+
+namespace win32 {
+namespace {
+
+enum Command : UINT { kNoCommand, kUndo, kCut, kCopy, kPaste, kDelete, kSelectAll };
+
+void addItem(HMENU menu, Command command, const wchar_t* caption, bool enabled) {
+  AppendMenuW(menu, static_cast<UINT>(enabled ? MF_ENABLED : MF_GRAYED), command, caption);
+}
+
+OwnedMenu makeMenu(const controls::TextBox& box) {
+  OwnedMenu menu(CreatePopupMenu());
+  const bool selected = box.selLength() > 0;
+  addItem(menu.get(), kUndo, L"&Undo", box.canUndo());
+  AppendMenuW(menu.get(), MF_SEPARATOR, 0, nullptr);
+  addItem(menu.get(), kCut, L"Cu&t", selected);
+  addItem(menu.get(), kCopy, L"&Copy", selected);
+  addItem(menu.get(), kPaste, L"&Paste", IsClipboardFormatAvailable(CF_UNICODETEXT));
+  addItem(menu.get(), kDelete, L"&Delete", selected);
+  AppendMenuW(menu.get(), MF_SEPARATOR, 0, nullptr);
+  addItem(menu.get(), kSelectAll, L"Select &All", box.selLength() < box.length());
+  return menu;
+}
+
+}  // namespace
+
+std::optional<LRESULT> TextInput::take(const Message& message) {
+  switch (message.id) {
+    case WM_KEYDOWN:
+      return takeKey(message.wParam);
+    case WM_LBUTTONDOWN:
+    case WM_RBUTTONDOWN:
+    case WM_RBUTTONUP:
+    case WM_CONTEXTMENU:
+      return takeMouse(message);
+    case WM_CUT:
+    case WM_COPY:
+    case WM_PASTE:
+    case WM_CLEAR:
+    case WM_UNDO:
+    case EM_UNDO:
+    case EM_CANUNDO:
+      return takeEdit(message);
+    case WM_SYSCHAR:
+      // Alt+Backspace, which the native control takes for its own undo.
+      if (message.wParam != VK_BACK) return {};
+      box_.undo();
+      return 0;
+    default:
+      return {};
+  }
+}
+
+std::optional<LRESULT> TextInput::takeKey(WPARAM key) {
+  const bool shift = isDown(VK_SHIFT);
+  const bool control = isDown(VK_CONTROL);
+  if (key == VK_DELETE) {
+    if (control) return 0;
+    if (shift) {
+      box_.cut();
+    } else {
+      box_.deleteForward();
+    }
+    return 0;
+  }
+  if (key == VK_INSERT) {
+    if (control && !shift) box_.copy();
+    if (shift && !control) paste();
+    return 0;
+  }
+  // The keys that only move the caret are the native control's.
+  const bool moves = (key >= VK_PRIOR && key <= VK_DOWN);
+  return moves ? std::nullopt : std::optional<LRESULT>(0);
+}
+
+std::optional<LRESULT> TextInput::takeMouse(const Message& message) {
+  if (message.id == WM_LBUTTONDOWN || message.id == WM_RBUTTONDOWN) {
+    // The focus comes first, so that the caret ends where the user has clicked whatever a handler
+    // does to it when the focus arrives.
+    SetFocus(native_.handle());
+    box_.mouseDown();
+    return message.id == WM_RBUTTONDOWN ? std::optional<LRESULT>(0) : std::nullopt;
+  }
+  // From the keyboard, the menu is to be understood as from the mouse.
+  if (message.id == WM_CONTEXTMENU) box_.mouseDown();
+  showMenu(menuPlace(message));
+  box_.mouseUp();
+  return 0;
+}
+
+POINT TextInput::menuPlace(const Message& message) const {
+  POINT place = mousePlace(message);
+  if (message.id == WM_CONTEXTMENU) {
+    if (message.lParam != -1) return place;
+    RECT area;
+    GetClientRect(native_.handle(), &area);
+    place = {area.left, area.bottom};
+  }
+  ClientToScreen(native_.handle(), &place);
+  return place;
+}
+
+void TextInput::showMenu(POINT screenPlace) {
+  const OwnedMenu menu = makeMenu(box_);
+  const BOOL command = TrackPopupMenu(menu.get(), TPM_RETURNCMD | TPM_RIGHTBUTTON, screenPlace.x,
+                                      screenPlace.y, 0, native_.handle(), nullptr);
+  switch (command) {
+    case kUndo:
+      return box_.undo();
+    case kCut:
+      return box_.cut();
+    case kCopy:
+      return box_.copy();
+    case kPaste:
+      return paste();
+    case kDelete:
+      return box_.replaceSelection("");
+    case kSelectAll:
+      return box_.selectAll();
+    default:
+      return;
+  }
+}
+
+std::optional<LRESULT> TextInput::takeEdit(const Message& message) {
+  switch (message.id) {
+    case WM_CUT:
+      box_.cut();
+      return 0;
+    case WM_COPY:
+      box_.copy();
+      return 0;
+    case WM_PASTE:
+      paste();
+      return 0;
+    case WM_CLEAR:
+      box_.replaceSelection("");
+      return 0;
+    case EM_CANUNDO:
+      return box_.canUndo();
+    default:
+      box_.undo();
+      return TRUE;
+  }
+}
+
+void TextInput::paste() {
+  if (const auto text = box_.window().desktop().clipboardText()) box_.paste(*text);
+}
+
+}  // namespace win32

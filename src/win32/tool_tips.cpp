@@ -1,0 +1,42 @@
+#include "win32/tool_tips.h"
+
+#include "win32/system.h"
+
+#include <commctrl.h>
+
+#include "win32/text.h"
+
+namespace win32 {
+namespace {
+
+// Longer tips are wrapped, in pixels.
+constexpr int kWidest = 300;
+
+}  // namespace
+
+ToolTips::~ToolTips() {
+  if (handle_) DestroyWindow(handle_);
+}
+
+// It has no owner: a window that owns another cannot be kept on top of other programs' windows by
+// every system.
+void ToolTips::create() {
+  handle_ = CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_ALWAYSTIP, 0, 0,
+                            0, 0, nullptr, nullptr, GetModuleHandleW(nullptr), nullptr);
+  SendMessageW(handle_, TTM_SETMAXTIPWIDTH, 0, kWidest);
+}
+
+void ToolTips::add(HWND control, const std::string& text) {
+  if (text.empty()) return;
+  if (!handle_) create();
+  std::wstring tip = wide(text);
+  TTTOOLINFOW info = {};
+  info.cbSize = sizeof info;
+  info.uFlags = TTF_SUBCLASS | TTF_IDISHWND;
+  info.hwnd = GetParent(control);
+  info.uId = reinterpret_cast<UINT_PTR>(control);
+  info.lpszText = tip.data();
+  SendMessageW(handle_, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&info));
+}
+
+}  // namespace win32

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <string>
+
+#include "win32/system.h"
+
+namespace win32 {
+
+/// The tool tips of a window's controls.
+class ToolTips {
+ public:
+  ToolTips() = default;
+  ~ToolTips();
+  ToolTips(const ToolTips&) = delete;
+  ToolTips& operator=(const ToolTips&) = delete;
+
+  void add(HWND control, const std::string& text);
+
+ private:
+  void create();
+
+  HWND handle_ = nullptr;
+};
+
+}  // namespace win32

@@ -1,0 +1,93 @@
+#pragma once
+
+#include <optional>
+
+#include "controls/window.h"
+#include "win32/fonts.h"
+#include "win32/handles.h"
+#include "win32/message.h"
+#include "win32/scale.h"
+#include "win32/tool_tips.h"
+
+namespace win32 {
+
+class Desktop;
+
+/// A window on the screen.
+class Window : public controls::Window {
+ public:
+  Window(Desktop& desktop, const controls::WindowLayout& layout);
+  ~Window() override;
+
+  /// The program's window with that handle; nothing for another window.
+  static Window* of(HWND handle);
+
+  HWND handle() const { return handle_; }
+  const Scale& scale() const { return scale_; }
+  Fonts& fonts() { return fonts_; }
+  bool isInFront() const { return GetForegroundWindow() == handle_; }
+  void comeToFront() { bringToFront(); }
+
+ protected:
+  std::unique_ptr<controls::Control> makeControl(const controls::ControlLayout& layout) override;
+  std::unique_ptr<controls::MenuItem> makeMenuItem(const controls::MenuItemLayout& layout,
+                                                   controls::MenuItem* parent) override;
+  void showCaption() override;
+  void showBounds() override;
+  void showVisible() override;
+  void showEnabled() override;
+  void showState() override;
+  void showOnTop() override;
+  void bringToFront() override;
+  void showFocus(controls::Control& control) override;
+
+ private:
+  // Where the window stands, in pixels: its frame's corner and the size of its client area.
+  struct Placement {
+    LONG left = 0;
+    LONG top = 0;
+    LONG width = 0;
+    LONG height = 0;
+
+    bool operator==(const Placement&) const = default;
+  };
+
+  struct Normal {
+    controls::Rect bounds;
+    Placement placed;
+  };
+
+  static LRESULT CALLBACK receive(HWND handle, UINT id, WPARAM wParam, LPARAM lParam);
+  HWND createHandle() const;
+
+  std::optional<LRESULT> take(const Message& message);
+  std::optional<LRESULT> takeFocus(const Message& message);
+  std::optional<LRESULT> takeGeometry(const Message& message);
+  std::optional<LRESULT> takeControl(const Message& message);
+  std::optional<LRESULT> takeColors(const Message& message);
+  std::optional<LRESULT> takeClosing(const Message& message);
+  LRESULT passOn(const Message& message);
+
+  void focusNative();
+  void place();
+  Placement measure() const;
+  void noteGeometry();
+  void noteShownState();
+  void takeResolution(const Message& message);
+  void refreshControls();
+
+  Desktop& screen_;
+  HWND handle_ = nullptr;
+  Scale scale_;
+  Fonts fonts_;
+  ToolTips toolTips_;
+  OwnedMenu menu_;
+  // As it was last placed or seen.
+  Placement placed_;
+  // As it stood before it was maximized.
+  Normal normal_;
+  bool placing_ = false;
+  bool placeWhenRestored_ = false;
+};
+
+}  // namespace win32

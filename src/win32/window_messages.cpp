@@ -1,0 +1,99 @@
+#include "win32/desktop.h"
+#include "win32/edge.h"
+#include "win32/menu_item.h"
+#include "win32/native_control.h"
+#include "win32/window.h"
+
+namespace win32 {
+
+LRESULT CALLBACK Window::receive(HWND handle, UINT id, WPARAM wParam, LPARAM lParam) {
+  auto* window = reinterpret_cast<Window*>(GetWindowLongPtrW(handle, GWLP_USERDATA));
+  if (!window) return DefWindowProcW(handle, id, wParam, lParam);
+  const Message message{id, wParam, lParam};
+  return atTheEdge(window->desktop().events(), [&] {
+    const std::optional<LRESULT> result = window->take(message);
+    return result ? *result : window->passOn(message);
+  });
+}
+
+LRESULT Window::passOn(const Message& message) {
+  return DefWindowProcW(handle_, message.id, message.wParam, message.lParam);
+}
+
+std::optional<LRESULT> Window::take(const Message& message) {
+  switch (message.id) {
+    case WM_ACTIVATE:
+    case WM_SETFOCUS:
+      return takeFocus(message);
+    case WM_GETMINMAXINFO:
+    case WM_WINDOWPOSCHANGED:
+    case WM_DPICHANGED:
+      return takeGeometry(message);
+    case WM_COMMAND:
+    case WM_NOTIFY:
+      return takeControl(message);
+    case WM_CTLCOLOREDIT:
+    case WM_CTLCOLORSTATIC:
+    case WM_CTLCOLORBTN:
+    case WM_SYSCOLORCHANGE:
+    case WM_THEMECHANGED:
+      return takeColors(message);
+    case WM_CLOSE:
+    case WM_ENDSESSION:
+      return takeClosing(message);
+    default:
+      return {};
+  }
+}
+
+std::optional<LRESULT> Window::takeFocus(const Message& message) {
+  if (message.id == WM_SETFOCUS) {
+    focusNative();
+    return 0;
+  }
+  if (LOWORD(message.wParam) != WA_INACTIVE) {
+    screen_.noteInFront(*this);
+    noteActivated();
+  }
+  return {};
+}
+
+std::optional<LRESULT> Window::takeControl(const Message& message) {
+  if (message.id == WM_NOTIFY) {
+    auto& header = *reinterpret_cast<NMHDR*>(message.lParam);
+    if (header.code != NM_CUSTOMDRAW) return {};
+    NativeControl* control = NativeControl::of(header.hwndFrom);
+    if (!control) return {};
+    return control->customDraw(reinterpret_cast<NMCUSTOMDRAW&>(header));
+  }
+  if (message.lParam) {
+    NativeControl* control = NativeControl::of(reinterpret_cast<HWND>(message.lParam));
+    if (control) control->takeNotification(HIWORD(message.wParam));
+    return 0;
+  }
+  const auto item = MenuItem::indexOf(LOWORD(message.wParam));
+  if (item < menuItems().size()) menuItems()[item]->choose();
+  return 0;
+}
+
+std::optional<LRESULT> Window::takeColors(const Message& message) {
+  if (message.id == WM_SYSCOLORCHANGE || message.id == WM_THEMECHANGED) {
+    refreshControls();
+    return {};
+  }
+  NativeControl* control = NativeControl::of(reinterpret_cast<HWND>(message.lParam));
+  if (!control) return {};
+  return reinterpret_cast<LRESULT>(control->prepareColors(reinterpret_cast<HDC>(message.wParam)));
+}
+
+// The end of the session does not ask, and a dialog in front does not hinder it.
+std::optional<LRESULT> Window::takeClosing(const Message& message) {
+  if (message.id == WM_CLOSE) {
+    requestClose();
+  } else if (message.wParam && onClose) {
+    onClose();
+  }
+  return 0;
+}
+
+}  // namespace win32
