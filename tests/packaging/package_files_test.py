@@ -1,0 +1,130 @@
+"""What the files of the packages are: their contents, and what is read from the programs themselves."""
+import unittest
+import xml.etree.ElementTree
+import zipfile
+
+import packages
+import pe_file
+from pe_file import PeFile
+
+MOST_BYTES_OF_PROGRAM = 600 * 1024
+NEEDED_FLAGS = pe_file.DYNAMIC_BASE | pe_file.HIGH_ENTROPY_VA | pe_file.NX_COMPAT
+NUMBERS = tuple(int(part) for part in packages.VERSION.split(".")) + (0,)
+
+# What every Windows brings in its system folder.
+SYSTEM_LIBRARIES = {
+    "advapi32.dll", "comctl32.dll", "comdlg32.dll", "dwmapi.dll", "gdi32.dll", "imm32.dll",
+    "kernel32.dll", "msvcrt.dll", "ntdll.dll", "ole32.dll", "oleacc.dll", "oleaut32.dll",
+    "shell32.dll", "shlwapi.dll", "user32.dll", "uxtheme.dll", "version.dll", "winmm.dll"}
+
+
+def local_names(manifest):
+    """[(name without namespace, attributes, text)] of the elements of a manifest."""
+    root = xml.etree.ElementTree.fromstring(manifest)
+    return [(element.tag.rpartition("}")[2], element.attrib, (element.text or "").strip())
+            for element in root.iter()]
+
+
+class PortableArchive(unittest.TestCase):
+    def test_holds_the_program_its_help_and_a_page_to_read(self):
+        self.assertEqual(set(packages.archived()), {
+            "Tallyrex.exe", "readme.txt", "help/Tallyrex.hlp", "help/Tallyrex.html",
+            "help/Tallyrex-23.html"})
+
+    def test_is_whole(self):
+        with zipfile.ZipFile(packages.ARCHIVE) as archive:
+            self.assertIsNone(archive.testzip())
+
+    def test_the_page_is_one_page_with_the_line_ends_of_windows(self):
+        page = packages.archived()["readme.txt"]
+        lines = page.decode("ascii").split("\r\n")
+        self.assertLessEqual(len(lines), 60)
+        self.assertLessEqual(max(map(len, lines)), 80)
+        self.assertEqual(page.count(b"\r\n"), page.count(b"\n"))
+        self.assertEqual(lines[0], "Tallyrex " + packages.VERSION)
+
+    def test_carries_no_dates_of_the_building_machine(self):
+        with zipfile.ZipFile(packages.ARCHIVE) as archive:
+            self.assertEqual({entry.date_time[0] for entry in archive.infolist()}, {1980})
+
+
+class EitherProgram:
+    """What holds for Tallyrex.exe and for the installer."""
+
+    program = None
+
+    def test_its_addresses_are_randomised_and_its_data_is_not_executed(self):
+        self.assertEqual(self.program.dll_characteristics & NEEDED_FLAGS, NEEDED_FLAGS)
+        self.assertEqual(self.program.writable_code(), [])
+
+    def test_a_flag_that_is_off_is_seen(self):
+        for flag in (pe_file.DYNAMIC_BASE, pe_file.HIGH_ENTROPY_VA, pe_file.NX_COMPAT):
+            data = bytearray(self.program.data)
+            data[self.program.flags_offset() + flag // 0x100] &= ~(flag % 0x100 or flag // 0x100)
+            flags = PeFile(bytes(data)).dll_characteristics
+            self.assertEqual(flags & NEEDED_FLAGS, NEEDED_FLAGS & ~flag)
+
+    def test_it_asks_for_no_more_rights_than_who_starts_it_has(self):
+        levels = [attributes for name, attributes, _ in local_names(self.manifest())
+                  if name == "requestedExecutionLevel"]
+        self.assertEqual([level["level"] for level in levels], ["asInvoker"])
+        self.assertEqual(levels[0]["uiAccess"], "false")
+
+    def test_it_is_made_of_system_libraries_alone(self):
+        self.assertEqual(set(self.program.imports()) - SYSTEM_LIBRARIES, set())
+
+    def test_its_icon_has_a_picture_for_every_size(self):
+        self.assertEqual(self.program.icon_sizes(), [16, 24, 32, 48, 64, 256])
+
+    def test_its_properties_name_product_and_version(self):
+        file_version, product_version, texts = self.program.version()
+        self.assertEqual((file_version, product_version), (NUMBERS, NUMBERS))
+        self.assertEqual(texts["ProductName"], "Tallyrex")
+        self.assertEqual(texts["ProductVersion"], packages.VERSION)
+        self.assertEqual(texts["FileVersion"], packages.VERSION)
+        self.assertIn("Tallyrex", texts["FileDescription"])
+
+    def manifest(self):
+        return self.program.resource(pe_file.MANIFEST)
+
+
+class Program(EitherProgram, unittest.TestCase):
+    @classmethod
+    def setUpClass(cls):
+        cls.data = packages.archived()["Tallyrex.exe"]
+        cls.program = PeFile(cls.data)
+
+    def test_is_small(self):
+        self.assertLessEqual(len(self.data), MOST_BYTES_OF_PROGRAM)
+
+    def test_is_a_64_bit_windows_program_that_can_lie_at_any_address(self):
+        self.assertEqual(self.program.machine, pe_file.AMD64)
+        self.assertEqual(self.program.subsystem, pe_file.WINDOWS_GUI)
+        self.assertFalse(self.program.characteristics & pe_file.RELOCATIONS_STRIPPED)
+
+    def test_the_same_sources_link_to_the_same_bytes(self):
+        self.assertEqual(self.program.timestamp, 0, "the time of linking is in the file")
+
+    def test_looks_for_libraries_in_the_system_folder_alone(self):
+        self.assertIn("SetDefaultDllDirectories", self.program.imports()["kernel32.dll"])
+
+    def test_takes_the_current_visual_style(self):
+        parts = [attributes for name, attributes, _ in local_names(self.manifest())
+                 if name == "assemblyIdentity"]
+        self.assertIn(("Microsoft.Windows.Common-Controls", "6.0.0.0"),
+                      [(part["name"], part["version"]) for part in parts])
+
+    def test_is_drawn_anew_for_the_scaling_of_each_monitor(self):
+        awareness = [text for name, _, text in local_names(self.manifest())
+                     if name == "dpiAwareness"]
+        self.assertEqual([text.split(",")[0].strip() for text in awareness], ["PerMonitorV2"])
+
+
+class Setup(EitherProgram, unittest.TestCase):
+    @classmethod
+    def setUpClass(cls):
+        cls.program = PeFile.read(packages.SETUP)
+
+
+if __name__ == "__main__":
+    unittest.main()

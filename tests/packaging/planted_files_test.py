@@ -1,0 +1,86 @@
+"""Libraries and programs that lie in the current folder are not taken for those of the system."""
+import os
+import pathlib
+import re
+import shutil
+import tempfile
+import unittest
+
+import packages
+import wine_account as account
+from pe_file import PeFile
+
+LIBRARY = pathlib.Path(os.environ["TALLYREX_PLANTED_LIBRARY"])
+PROGRAM = pathlib.Path(os.environ["TALLYREX_PLANTED_PROGRAM"])
+CARELESS = pathlib.Path(os.environ["TALLYREX_CARELESS"])
+
+# What Windows itself loads by name for a program with windows, dialogs and help.
+LOADED_BY_WINDOWS = {"cryptbase.dll", "dwmapi.dll", "hhctrl.ocx", "msctf.dll", "msftedit.dll",
+                     "oleacc.dll", "profapi.dll", "propsys.dll", "riched20.dll", "textshaping.dll",
+                     "uxtheme.dll", "version.dll", "windows.storage.dll", "winmm.dll"}
+PROGRAMS = ["notepad.exe", "winhlp32.exe", "hh.exe", "msinfo32.exe", "explorer.exe"]
+FILE_NAME = r"[A-Za-z0-9_.-]{1,30}\.(?:dll|ocx|drv)"
+MAIN_WINDOW = "Tallyrex$"
+
+
+def names_in(data):
+    """The names of libraries that a program holds, in either width of character."""
+    narrow = re.findall(FILE_NAME.encode("ascii"), data, re.IGNORECASE)
+    wide = re.findall(FILE_NAME, data.decode("utf-16-le", "replace") +
+                      data[1:].decode("utf-16-le", "replace"), re.IGNORECASE)
+    return {name.decode("ascii").lower() for name in narrow} | {name.lower() for name in wide}
+
+
+class PlantedFiles(unittest.TestCase):
+    def setUp(self):
+        folder = tempfile.TemporaryDirectory()
+        self.addCleanup(folder.cleanup)
+        self.folder = pathlib.Path(folder.name) / "current"
+        self.folder.mkdir()
+        self.marks = pathlib.Path(folder.name) / "marks"
+        self.program = pathlib.Path(folder.name) / "program" / "Tallyrex.exe"
+        self.program.parent.mkdir()
+        self.program.write_bytes(packages.archived()["Tallyrex.exe"])
+
+    def plant(self, source, names):
+        for name in names:
+            shutil.copy(source, self.folder / name)
+
+    def marked(self):
+        """The names of the planted files that were run, without their folders."""
+        if not self.marks.exists():
+            return set()
+        return {line.rpartition("\\")[2] for line in self.marks.read_text("ascii").splitlines()}
+
+    def start(self, *command):
+        process = account.start(*command, folder=self.folder, environment={
+            "TALLYREX_PLANTED": account.windows_path(self.marks)})
+        self.addCleanup(self.stop, process)
+        return process
+
+    @staticmethod
+    def stop(process):
+        if process.poll() is None:
+            process.kill()
+        process.wait()
+
+    def test_a_careless_program_is_caught_by_them(self):
+        self.plant(LIBRARY, ["planted-library.dll"])
+        self.plant(PROGRAM, PROGRAMS)
+        self.assertEqual(self.start(CARELESS, "planted-library.dll", "notepad.exe").wait(30), 0)
+        self.assertEqual(self.marked(), {"planted-library.dll", "notepad.exe"})
+
+    def test_no_library_is_taken_from_the_current_folder(self):
+        names = names_in(self.program.read_bytes()) | LOADED_BY_WINDOWS
+        self.assertLessEqual(set(PeFile.read(self.program).imports()), names)
+        self.plant(LIBRARY, names)
+        process = self.start(self.program)
+        account.wait_for_window(MAIN_WINDOW)
+        account.write("12+")
+        account.press("alt+F4")
+        self.assertEqual(process.wait(30), 0)
+        self.assertEqual(self.marked(), set())
+
+
+if __name__ == "__main__":
+    unittest.main()
