@@ -95,7 +95,8 @@ class Engine {
   /// The mode switch: the running total begins anew.
   void ChooseMode(int mode);
 
-  /// "Error:", its number and its description, in a message box.
+  /// "Error:", its number and its description, in a message box; of an error that a fresh window
+  /// would not have, the advice to open one.
   void ShowError(const common::RunTimeError& error);
 
  private:

@@ -1,0 +1,84 @@
+#include "shell/frm_calc.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "inmemory/desktop.h"
+
+namespace shell {
+namespace {
+
+class DesktopOnADriveRoot : public inmemory::Desktop {
+ public:
+  std::string programFolder() override { return "D:\\"; }
+};
+
+class DesktopWithALockedClipboard : public inmemory::Desktop {
+ public:
+  bool setClipboardText(std::string_view) override { return false; }
+};
+
+class NothingAround : public Program {
+ public:
+  void openFinancialCalc() override {}
+  void showAbout(std::function<void()>) override {}
+  void unloadCalc() override {}
+};
+
+// The main window, shown on a desktop of its own.
+template <class Desktop>
+struct Shown {
+  Desktop desktop;
+  Globals globals;
+  NothingAround program;
+  frmCalc calc{desktop, globals, program};
+
+  Shown() { calc.show(); }
+  controls::TextBox& box(std::string_view name) { return calc.window().textBox(name); }
+  void choose(std::string_view name) { calc.window().menuItem(name).choose(); }
+};
+
+TEST(MainWindow, HelpFileOfAProgramOnADriveRootStandsBesideIt) {
+  Shown<DesktopOnADriveRoot> shown;
+  shown.desktop.files = {"D:\\help\\Tallyrex.hlp"};
+  shown.choose("mnuHelpContents");
+  ASSERT_EQ(shown.desktop.helpRequests.size(), 1u);
+  EXPECT_EQ(shown.desktop.helpRequests[0].file, "D:\\Tallyrex.hlp");
+}
+
+TEST(MainWindow, DecimalsBoxKeepsTheFocusWhenTheTabThatLedThereComesUp) {
+  Shown<inmemory::Desktop> shown;
+  constexpr controls::KeyCode kKeyShift = 16;
+  controls::TextBox& txtDec = shown.box("txtDec");
+  txtDec.setFocus();
+  txtDec.keyUp(controls::kKeyTab);
+  txtDec.keyUp(kKeyShift);
+  EXPECT_TRUE(txtDec.focused());
+  txtDec.keyUp('5');
+  EXPECT_TRUE(shown.box("txtEntry").focused());
+}
+
+TEST(MainWindow, CutThatTheClipboardDoesNotTakeLosesNothing) {
+  Shown<DesktopWithALockedClipboard> shown;
+  shown.box("txtEntry").setText("12");
+  shown.box("txtEntry").selectAll();
+  shown.choose("mnuEditCut");
+  EXPECT_EQ(shown.box("txtEntry").text(), "12");
+  shown.choose("mnuEditCopy");
+  EXPECT_EQ(shown.desktop.beeps, 2);
+}
+
+TEST(MainWindow, TapeThatTheClipboardDoesNotTakeIsNotPastedIntoNotepad) {
+  Shown<DesktopWithALockedClipboard> shown;
+  shown.choose("mnuWinPadTape");
+  shown.choose("mnuEditTapeToNotepad");
+  EXPECT_TRUE(shown.desktop.launches.empty());
+  ASSERT_EQ(shown.desktop.boxes.size(), 1u);
+  EXPECT_EQ(shown.desktop.boxes[0].box.text, "Error finding or displaying NotePad.exe");
+  shown.choose("mnuEditCopyTape");
+  EXPECT_EQ(shown.desktop.beeps, 1);
+}
+
+}  // namespace
+}  // namespace shell
