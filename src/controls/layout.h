@@ -15,6 +15,8 @@ struct FontLayout {
   std::string_view name = "MS Sans Serif";
   int tenthsOfPoint = 83;
   bool bold = false;
+  /// The average width of its characters, in twips; 0 leaves it to the font.
+  Twips characterWidth = 0;
 };
 
 /// One control of a window, as it is designed. What a kind has no use for stays at its default.

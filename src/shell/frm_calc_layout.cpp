@@ -48,7 +48,8 @@ constexpr FontLayout kWordFont = {"MS Sans Serif", 83, false};
 constexpr FontLayout kToggleFont = {"MS Sans Serif", 68, false};
 constexpr FontLayout kDigitFont = {"MS Sans Serif", 120, false};
 constexpr FontLayout kOperatorFont = {"MS Sans Serif", 135, false};
-constexpr FontLayout kEntryFont = {"Courier New", 90, true};
+// High and narrow: the entry box is as wide as the micro window, and holds 19 characters.
+constexpr FontLayout kEntryFont = {"Courier New", 120, true, 105};
 constexpr FontLayout kTapeFont = {"Terminal", 75, false};
 
 constexpr ControlKind kButton = ControlKind::Button;

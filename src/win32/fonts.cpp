@@ -31,8 +31,8 @@ constexpr std::array kFaces = {
 constexpr std::array<std::string_view, 4> kSymbolFaces = {"Segoe UI Symbol", "Segoe UI", "Arial",
                                                           "Courier New"};
 
-HFONT createFont(int height, bool bold, const wchar_t* face, BYTE pitchAndFamily) {
-  return CreateFontW(height, 0, 0, 0, bold ? FW_BOLD : FW_NORMAL, FALSE, FALSE, FALSE,
+HFONT createFont(int height, int width, bool bold, const wchar_t* face, BYTE pitchAndFamily) {
+  return CreateFontW(height, width, 0, 0, bold ? FW_BOLD : FW_NORMAL, FALSE, FALSE, FALSE,
                      DEFAULT_CHARSET, OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY,
                      pitchAndFamily, face);
 }
@@ -51,15 +51,17 @@ bool canShow(HFONT font, const std::wstring& text) {
 }  // namespace
 
 HFONT Fonts::font(const FontLayout& layout, std::string_view face) {
-  OwnedFont& font = fonts_[{std::string(face), layout.tenthsOfPoint, layout.bold}];
+  OwnedFont& font =
+      fonts_[{std::string(face), layout.tenthsOfPoint, layout.bold, layout.characterWidth}];
   if (font) return font.get();
   const int height = scale_.fontHeight(layout.tenthsOfPoint);
+  const int width = scale_.toPixels(layout.characterWidth);
   const auto known = std::find_if(kFaces.begin(), kFaces.end(),
                                   [face](const Face& entry) { return entry.name == face; });
   if (known != kFaces.end()) {
-    font.reset(createFont(height, layout.bold, known->used, known->pitchAndFamily));
+    font.reset(createFont(height, width, layout.bold, known->used, known->pitchAndFamily));
   } else {
-    font.reset(createFont(height, layout.bold, wide(face).c_str(), DEFAULT_PITCH));
+    font.reset(createFont(height, width, layout.bold, wide(face).c_str(), DEFAULT_PITCH));
   }
   return font.get();
 }

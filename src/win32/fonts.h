@@ -25,7 +25,7 @@ class Fonts {
   HFONT font(const controls::FontLayout& layout, std::string_view face);
 
   Scale scale_;
-  std::map<std::tuple<std::string, int, bool>, OwnedFont> fonts_;
+  std::map<std::tuple<std::string, int, bool, int>, OwnedFont> fonts_;
 };
 
 }  // namespace win32
