@@ -1,0 +1,151 @@
+#include "driver/native_boxes.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "driver/command.h"
+#include "win32/text.h"
+
+namespace driver {
+
+namespace {
+
+constexpr wchar_t kDialogClass[] = L"#32770";
+constexpr int kTextOfBox = 0xFFFF;
+// The boxes for the three parts of a colour, as the system's picker numbers them.
+constexpr int kRedOfPicker = 706;
+constexpr int kGreenOfPicker = 707;
+constexpr int kBlueOfPicker = 708;
+
+constexpr DWORD kPatience = 10000;
+
+// Also one that is still hidden: the system shows a dialog when nothing else is left to be done.
+HWND findDialog() {
+  HWND dialog = nullptr;
+  while ((dialog = FindWindowExW(nullptr, dialog, kDialogClass, nullptr)) != nullptr) {
+    DWORD process = 0;
+    GetWindowThreadProcessId(dialog, &process);
+    if (process == GetCurrentProcessId()) return dialog;
+  }
+  return nullptr;
+}
+
+template <class Condition>
+void waitUntil(Condition condition) {
+  const ULONGLONG until = GetTickCount64() + kPatience;
+  while (!condition()) {
+    if (GetTickCount64() > until) throw CommandError("a dialog does not answer");
+    Sleep(1);
+  }
+}
+
+std::string textOf(HWND window) {
+  std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(window)) + 1, L'\0');
+  const int length = GetWindowTextW(window, text.data(), static_cast<int>(text.size()));
+  return win32::narrow({text.data(), static_cast<std::size_t>(length)});
+}
+
+struct Parts {
+  std::vector<HWND> buttons;
+  HICON icon = nullptr;
+};
+
+BOOL CALLBACK takePart(HWND child, LPARAM found) {
+  auto& parts = *reinterpret_cast<Parts*>(found);
+  wchar_t name[16] = L"";
+  GetClassNameW(child, name, static_cast<int>(std::size(name)));
+  const std::wstring_view kind = name;
+  const LONG_PTR style = GetWindowLongPtrW(child, GWL_STYLE);
+  if ((style & WS_VISIBLE) == 0) return TRUE;
+  if (kind == L"Button") parts.buttons.push_back(child);
+  if (kind == L"Static" && (style & SS_TYPEMASK) == SS_ICON)
+    parts.icon = reinterpret_cast<HICON>(SendMessageW(child, STM_GETICON, 0, 0));
+  return TRUE;
+}
+
+Parts partsOf(HWND box) {
+  Parts parts;
+  EnumChildWindows(box, takePart, reinterpret_cast<LPARAM>(&parts));
+  return parts;
+}
+
+std::string nameOfIcon(HICON icon) {
+  if (!icon) return "none";
+  return icon == LoadIconW(nullptr, IDI_QUESTION) ? "question" : "other";
+}
+
+// The one button of a box without a choice has the number of OK or of Cancel.
+std::string namesOfButtons(const std::vector<HWND>& buttons) {
+  const auto has = [&buttons](int number) {
+    return std::ranges::any_of(buttons,
+                               [number](HWND button) { return GetDlgCtrlID(button) == number; });
+  };
+  if (buttons.size() == 1) return "OK";
+  return buttons.size() == 2 && has(IDYES) && has(IDNO) ? "YesNo" : "other";
+}
+
+}  // namespace
+
+bool NativeBoxes::attend() {
+  HWND dialog = findDialog();
+  if (!dialog) return false;
+  waitUntil([dialog] { return !IsWindow(dialog) || IsWindowVisible(dialog); });
+  if (!IsWindow(dialog)) return true;
+  if (GetDlgItem(dialog, kRedOfPicker)) {
+    pickColor(dialog);
+  } else {
+    answerBox(dialog);
+  }
+  waitUntil([dialog] { return !IsWindow(dialog); });
+  return true;
+}
+
+void NativeBoxes::answerBox(HWND dialog) {
+  const Parts parts = partsOf(dialog);
+  SeenBox box = {.text = textOf(GetDlgItem(dialog, kTextOfBox)),
+                 .title = textOf(dialog),
+                 .buttons = namesOfButtons(parts.buttons),
+                 .icon = nameOfIcon(parts.icon)};
+  HWND pressed = parts.buttons.empty() ? nullptr : parts.buttons.front();
+  if (box.buttons == "YesNo") {
+    int answer = IDYES;
+    if (!answers_.empty()) {
+      answer = answers_.front();
+      answers_.pop_front();
+    }
+    pressed = GetDlgItem(dialog, answer);
+  }
+  {
+    const std::scoped_lock lock(mutex_);
+    seen_.push_back(std::move(box));
+  }
+  PostMessageW(pressed, BM_CLICK, 0, 0);
+}
+
+void NativeBoxes::pickColor(HWND dialog) {
+  std::optional<std::uint32_t> color;
+  if (!colors_.empty()) {
+    color = colors_.front();
+    colors_.pop_front();
+  }
+  if (!color) {
+    PostMessageW(GetDlgItem(dialog, IDCANCEL), BM_CLICK, 0, 0);
+    return;
+  }
+  SetDlgItemInt(dialog, kRedOfPicker, GetRValue(*color), FALSE);
+  SetDlgItemInt(dialog, kGreenOfPicker, GetGValue(*color), FALSE);
+  SetDlgItemInt(dialog, kBlueOfPicker, GetBValue(*color), FALSE);
+  PostMessageW(GetDlgItem(dialog, IDOK), BM_CLICK, 0, 0);
+}
+
+void NativeBoxes::noteAnswer(int answer) {
+  const std::scoped_lock lock(mutex_);
+  if (!seen_.empty()) seen_.back().answer = answer;
+}
+
+std::vector<SeenBox> NativeBoxes::takeSeen() {
+  const std::scoped_lock lock(mutex_);
+  return std::exchange(seen_, {});
+}
+
+}  // namespace driver

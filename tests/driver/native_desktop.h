@@ -1,0 +1,57 @@
+#pragma once
+
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "driver/native_boxes.h"
+#include "win32/desktop.h"
+
+namespace driver {
+
+/// A program that was started; `keys` were sent to its window ("^V" is Ctrl+V).
+struct Launch {
+  std::string program;
+  std::string keys;
+};
+
+/// What the program asked of the desktop besides message boxes.
+struct Happenings {
+  int beeps = 0;
+  std::vector<Launch> launches;
+  std::vector<controls::HelpRequest> helpRequests;
+};
+
+/// The real desktop, which also notes what the program asks of it. The help viewer is not opened:
+/// it would stay behind, in front of the program.
+class NativeDesktop : public win32::Desktop {
+ public:
+  explicit NativeDesktop(NativeBoxes& boxes);
+
+  int showMessage(const controls::UserMessage& box) override;
+  void beep() override;
+  bool startProgram(const std::string& program) override;
+  bool startProgramAndPaste(const std::string& program) override;
+  void showHelp(const controls::HelpRequest& request) override;
+  common::SettingsStore& settings() override { return settings_; }
+  std::string programName() override { return name_; }
+  /// The place of an installed program, wherever the driver is.
+  std::string programFolder() override { return "C:\\Tallyrex"; }
+
+  /// The executable's name, under which the settings are kept.
+  void setProgramName(const std::string& name);
+  /// Closes the windows of the programs that were started.
+  void closeLaunched();
+
+  /// What has happened since the last call.
+  Happenings takeHappenings() { return std::exchange(happenings_, {}); }
+
+ private:
+  NativeBoxes& boxes_;
+  Happenings happenings_;
+  std::string name_;
+  win32::RegistrySettings settings_;
+  std::vector<HWND> launched_;
+};
+
+}  // namespace driver

@@ -1,0 +1,102 @@
+#include "driver/native_keyboard.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace driver {
+
+namespace {
+
+bool isExtended(WORD key) {
+  return controls::isNavigationKey(key) || key == VK_DELETE || key == VK_NUMLOCK;
+}
+
+INPUT keyInput(WORD key, bool up) {
+  INPUT input = {};
+  input.type = INPUT_KEYBOARD;
+  input.ki.wVk = key;
+  input.ki.wScan = static_cast<WORD>(MapVirtualKeyW(key, MAPVK_VK_TO_VSC));
+  input.ki.dwFlags = (up ? KEYEVENTF_KEYUP : 0U) | (isExtended(key) ? KEYEVENTF_EXTENDEDKEY : 0U);
+  return input;
+}
+
+INPUT characterInput(WORD character, bool up) {
+  INPUT input = {};
+  input.type = INPUT_KEYBOARD;
+  input.ki.wScan = character;
+  input.ki.dwFlags = KEYEVENTF_UNICODE | (up ? KEYEVENTF_KEYUP : 0U);
+  return input;
+}
+
+void holdKey(WORD key, bool& held, bool wanted, NativeKeyboard::Inputs& inputs) {
+  if (held == wanted) return;
+  held = wanted;
+  inputs.push_back(keyInput(key, !wanted));
+}
+
+}  // namespace
+
+NativeKeyboard::NativeKeyboard()
+    : numLockSwitched_(setLock(VK_NUMLOCK, true)), capsLockSwitched_(setLock(VK_CAPITAL, false)) {}
+
+NativeKeyboard::~NativeKeyboard() {
+  for (const auto& [key, switched] :
+       {std::pair{VK_NUMLOCK, numLockSwitched_}, std::pair{VK_CAPITAL, capsLockSwitched_}}) {
+    if (!switched) continue;
+    INPUT tap[] = {keyInput(static_cast<WORD>(key), false), keyInput(static_cast<WORD>(key), true)};
+    SendInput(2, tap, sizeof(INPUT));
+  }
+}
+
+// Tells whether it had to be switched.
+bool NativeKeyboard::setLock(WORD key, bool on) {
+  if (((GetKeyState(key) & 1) != 0) == on) return false;
+  INPUT tap[] = {keyInput(key, false), keyInput(key, true)};
+  SendInput(2, tap, sizeof(INPUT));
+  return true;
+}
+
+// Printable characters are typed with the key that the layout of the keyboard has for them.
+NativeKeyboard::Key NativeKeyboard::keyOf(const controls::KeyStroke& stroke,
+                                          controls::KeyAscii character) {
+  const auto& [code, shift, control, alt] = stroke;
+  if (control || alt || character == 0 || character == controls::kKeyEnter ||
+      character == controls::kKeyBackspace || character == controls::kKeyEscape)
+    return {static_cast<WORD>(code), 0, {shift, control, alt}};
+  const SHORT found = VkKeyScanW(static_cast<WCHAR>(character));
+  const int modifiers = HIBYTE(found);
+  if (character < ' ' || found == -1 || modifiers > 1) return {0, static_cast<WORD>(character), {}};
+  return {LOBYTE(found), 0, {.shift = modifiers == 1}};
+}
+
+INPUT NativeKeyboard::input(const Key& key, bool up) {
+  return key.character != 0 ? characterInput(key.character, up) : keyInput(key.code, up);
+}
+
+void NativeKeyboard::hold(const Modifiers& wanted, Inputs& inputs) {
+  holdKey(VK_SHIFT, held_.shift, wanted.shift, inputs);
+  holdKey(VK_CONTROL, held_.control, wanted.control, inputs);
+  holdKey(VK_MENU, held_.alt, wanted.alt, inputs);
+}
+
+NativeKeyboard::Inputs NativeKeyboard::down(const controls::KeyStroke& stroke,
+                                            controls::KeyAscii character) {
+  Inputs inputs;
+  const Key key = keyOf(stroke, character);
+  pressed_.push_back({stroke.key, key});
+  hold(key.modifiers, inputs);
+  inputs.push_back(input(key, false));
+  return inputs;
+}
+
+NativeKeyboard::Inputs NativeKeyboard::up(const controls::KeyStroke& stroke) {
+  Inputs inputs;
+  const auto press = std::ranges::find(pressed_, stroke.key, &Press::named);
+  if (press == pressed_.end()) return inputs;
+  inputs.push_back(input(press->key, true));
+  pressed_.erase(press);
+  if (pressed_.empty()) hold({}, inputs);
+  return inputs;
+}
+
+}  // namespace driver

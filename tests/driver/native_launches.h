@@ -1,0 +1,20 @@
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+#include <vector>
+
+namespace driver {
+
+/// The windows of other programs that stand open. What is new among them after a program was
+/// started is that program's.
+std::vector<HWND> windowsOfOthers();
+std::vector<HWND> windowsSince(const std::vector<HWND>& before);
+
+/// Waits until a text has come to the text box of the window. False when none comes.
+bool waitForText(HWND window);
+/// Closes a window whose text nobody wants to keep.
+void closeUnsaved(HWND window);
+
+}  // namespace driver

@@ -1,0 +1,156 @@
+#include "driver/native_stage.h"
+
+#include <exception>
+#include <utility>
+
+#include "driver/command.h"
+#include "driver/native_clipboard.h"
+#include "driver/native_handles.h"
+#include "driver/native_settings.h"
+#include "win32/message_loop.h"
+
+namespace driver {
+
+namespace {
+
+// How long a dialog may stand open before it is noticed.
+constexpr DWORD kGlance = 2;
+// Longer than any handler takes, and than a program needs to start.
+constexpr DWORD kPatience = 30000;
+// No mark takes that long while the program is in front.
+constexpr DWORD kMarkIsLate = 200;
+
+bool isOurs(HWND window) {
+  DWORD process = 0;
+  GetWindowThreadProcessId(window, &process);
+  return process == GetCurrentProcessId();
+}
+
+bool isInFront() {
+  HWND front = GetForegroundWindow();
+  return front && isOurs(front);
+}
+
+void sendInputs(std::vector<INPUT> inputs) {
+  const auto count = static_cast<UINT>(inputs.size());
+  if (SendInput(count, inputs.data(), sizeof(INPUT)) != count)
+    throw CommandError("the system takes no input");
+}
+
+}  // namespace
+
+NativeStage::NativeStage() {
+  writeClipboard(ui_.window(), {});
+  clearAllStored();
+}
+
+NativeStage::~NativeStage() {
+  desktop_.closeLaunched();
+  clearAllStored();
+}
+
+void NativeStage::run() {
+  win32::runMessageLoop(desktop_);
+}
+
+void NativeStage::end() {
+  ui_.post(win32::endMessageLoop);
+}
+
+controls::Window* NativeStage::findWindow(std::string_view name) {
+  return app_ ? app_->findWindow(name) : nullptr;
+}
+
+bool NativeStage::running() {
+  bool runs = false;
+  inspect([&] { runs = app_ && !app_->ended(); });
+  return runs;
+}
+
+// Until the program has done what it was asked for, with all boxes answered that it showed
+// meanwhile.
+void NativeStage::settle() {
+  const ULONGLONG start = GetTickCount64();
+  ULONGLONG marked = start;
+  do {
+    while (!ui_.waitUntilReached(kGlance)) {
+      boxes_.attend();
+      const ULONGLONG now = GetTickCount64();
+      if (now - start > kPatience) throw CommandError("the program does not answer");
+      if (now - marked < kMarkIsLate) continue;
+      marked = now;
+      remark();
+    }
+  } while (boxes_.attend() && (ui_.post([] {}), true));
+}
+
+// A mark is lost when no window of the program was there to take it.
+void NativeStage::remark() {
+  if (isInFront()) return sendInputs({ui_.nextMark()});
+  ui_.forgetMarks();
+  ui_.post([] {});
+}
+
+// On the program's thread, behind everything that the system has told it so far.
+void NativeStage::act(const std::function<void()>& body) {
+  clearAway();
+  std::exception_ptr failure;
+  ui_.post([&] {
+    try {
+      body();
+    } catch (...) {
+      failure = std::current_exception();
+    }
+  });
+  // What the program has put off until the end of that event comes before this.
+  ui_.post([] {});
+  settle();
+  if (failure) std::rethrow_exception(failure);
+}
+
+// A message that the system would send for what the person does.
+void NativeStage::deliver(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+  clearAway();
+  PostMessageW(window, message, wParam, lParam);
+  ui_.post([] {});
+  settle();
+}
+
+// What a program that was started leaves in front goes before the person goes on.
+void NativeStage::clearAway() {
+  inspect([this] { desktop_.closeLaunched(); });
+}
+
+void NativeStage::putInFront(const controls::Window& window) {
+  HWND handle = handleOf(window);
+  if (GetForegroundWindow() == handle) return;
+  act([handle] { SetForegroundWindow(handle); });
+}
+
+// Keys go to the program alone: to no other, whatever has come to the front.
+void NativeStage::putProgramInFront() {
+  clearAway();
+  if (isInFront()) return;
+  const controls::Window* active = nullptr;
+  inspect([&] { active = desktop_.activeWindow(); });
+  if (active) putInFront(*active);
+  if (!isInFront()) throw CommandError("the program is not in front");
+}
+
+// Sends what a key or the mouse does, and waits until the program has acted on it.
+void NativeStage::send(std::vector<INPUT> inputs) {
+  if (isInFront()) inputs.push_back(ui_.nextMark());
+  sendInputs(std::move(inputs));
+  settle();
+}
+
+void NativeStage::start(const std::string& name) {
+  act([&] {
+    app_.reset();
+    desktop_.setProgramName(name);
+    app_ = std::make_unique<app::Application>(desktop_);
+    app_->start();
+  });
+}
+
+}  // namespace driver

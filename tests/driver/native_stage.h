@@ -1,0 +1,76 @@
+#pragma once
+
+#include <memory>
+
+#include "app/application.h"
+#include "driver/native_boxes.h"
+#include "driver/native_desktop.h"
+#include "driver/native_keyboard.h"
+#include "driver/native_mouse.h"
+#include "driver/native_ui_thread.h"
+#include "driver/stage.h"
+
+namespace driver {
+
+/// The program in its real windows. It is made on the program's thread, which then runs the
+/// program's messages; everything else is called from another thread, that of the person in front
+/// of it.
+class NativeStage : public Stage {
+ public:
+  NativeStage();
+  ~NativeStage() override;
+
+  /// Runs the program's messages until `end` is called from the other thread.
+  void run();
+  void end();
+
+  void inspect(const std::function<void()>& body) override { ui_.inspect(body); }
+  controls::Window* findWindow(std::string_view name) override;
+  bool running() override;
+  void start(const std::string& name) override;
+  void close(controls::Window& window) override;
+  void bringToFront(controls::Window& window) override;
+  void keyDown(const controls::KeyStroke& stroke, controls::KeyAscii character) override;
+  void keyUp(const controls::KeyStroke& stroke) override;
+  void click(controls::Control& control) override;
+  void doubleClick(controls::Control& control) override;
+  void focus(controls::Control& control) override;
+  void select(controls::TextBox& box, int start, int length) override;
+  void mousePaste(controls::TextBox& box, const std::string& text) override;
+  void choose(controls::MenuItem& item) override;
+  void resize(controls::Window& window, controls::Twips width, controls::Twips height) override;
+  void move(controls::Window& window, controls::Twips left, controls::Twips top) override;
+  void setState(controls::Window& window, controls::WindowState state) override;
+  std::optional<std::string> clipboardText() override;
+  void setClipboard(const std::optional<std::string>& text) override;
+  std::optional<std::string> readSetting(const std::string& section,
+                                         const std::string& key) override;
+  void writeSetting(const std::string& section, const std::string& key,
+                    const std::string& text) override;
+  void deleteSetting(const std::string& section, const std::string& key) override;
+  void clearSettings() override;
+  Json dumpSettings() override;
+  void queueAnswer(int answer) override { boxes_.queueAnswer(answer); }
+  void queueColor(const std::optional<std::uint32_t>& color) override { boxes_.queueColor(color); }
+  Json takeEvents() override;
+  bool arrange(const std::string&, const std::vector<std::string>&) override { return false; }
+
+ private:
+  void act(const std::function<void()>& body);
+  void deliver(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+  void send(std::vector<INPUT> inputs);
+  void settle();
+  void remark();
+  void clearAway();
+  void putInFront(const controls::Window& window);
+  void putProgramInFront();
+  void clickWithMouse(controls::Control& control, int times);
+
+  UiThread ui_;
+  NativeBoxes boxes_;
+  NativeDesktop desktop_{boxes_};
+  NativeKeyboard keyboard_;
+  std::unique_ptr<app::Application> app_;
+};
+
+}  // namespace driver

@@ -1,0 +1,123 @@
+#include "driver/native_ui_thread.h"
+
+#include <exception>
+#include <memory>
+
+namespace driver {
+
+namespace {
+
+constexpr wchar_t kClassName[] = L"TallyrexDriver";
+constexpr UINT kInspect = WM_APP;
+constexpr UINT kPost = WM_APP + 1;
+
+constexpr WORD kMarkKey = VK_F24;
+// In the upper half of what a mark carries, so that no other program's input passes for one.
+constexpr ULONG_PTR kMarkSign = 0x7A5E0000;
+constexpr unsigned kMarkNumbers = 0xFFFF;
+
+}  // namespace
+
+UiThread* UiThread::current_ = nullptr;
+
+struct UiThread::Call {
+  const std::function<void()>& body;
+  std::exception_ptr failure;
+};
+
+UiThread::UiThread() {
+  current_ = this;
+  WNDCLASSW windowClass = {};
+  windowClass.lpfnWndProc = handleMessage;
+  windowClass.hInstance = GetModuleHandleW(nullptr);
+  windowClass.lpszClassName = kClassName;
+  RegisterClassW(&windowClass);
+  window_ = CreateWindowW(kClassName, L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr,
+                          windowClass.hInstance, nullptr);
+  progress_ = CreateEventW(nullptr, FALSE, FALSE, nullptr);
+  hook_ = SetWindowsHookExW(WH_GETMESSAGE, watchMessage, nullptr, GetCurrentThreadId());
+}
+
+UiThread::~UiThread() {
+  UnhookWindowsHookEx(hook_);
+  CloseHandle(progress_);
+  DestroyWindow(window_);
+  current_ = nullptr;
+}
+
+void UiThread::inspect(const std::function<void()>& body) {
+  Call call = {body, nullptr};
+  SendMessageW(window_, kInspect, 0, reinterpret_cast<LPARAM>(&call));
+  if (call.failure) std::rethrow_exception(call.failure);
+}
+
+void UiThread::post(std::function<void()> body) {
+  ++posts_;
+  auto* left = new std::function<void()>(std::move(body));
+  PostMessageW(window_, kPost, 0, reinterpret_cast<LPARAM>(left));
+}
+
+INPUT UiThread::nextMark() {
+  ++marks_;
+  INPUT mark = {};
+  mark.type = INPUT_KEYBOARD;
+  mark.ki.wVk = kMarkKey;
+  mark.ki.dwFlags = KEYEVENTF_KEYUP;
+  mark.ki.dwExtraInfo = kMarkSign | (marks_ & kMarkNumbers);
+  return mark;
+}
+
+bool UiThread::waitUntilReached(DWORD milliseconds) {
+  const ULONGLONG until = GetTickCount64() + milliseconds;
+  while (!reached()) {
+    const ULONGLONG now = GetTickCount64();
+    if (now >= until) return false;
+    WaitForSingleObject(progress_, static_cast<DWORD>(until - now));
+  }
+  return true;
+}
+
+LRESULT CALLBACK UiThread::handleMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+  if (message == kInspect) {
+    auto& call = *reinterpret_cast<Call*>(lParam);
+    try {
+      call.body();
+    } catch (...) {
+      call.failure = std::current_exception();
+    }
+    return 0;
+  }
+  if (message == kPost) {
+    const std::unique_ptr<std::function<void()>> body(
+        reinterpret_cast<std::function<void()>*>(lParam));
+    (*body)();
+    ++current_->postsRun_;
+    SetEvent(current_->progress_);
+    return 0;
+  }
+  return DefWindowProcW(window, message, wParam, lParam);
+}
+
+// Every message that the program takes from its queue comes by here, also while a dialog is open.
+LRESULT CALLBACK UiThread::watchMessage(int code, WPARAM wParam, LPARAM lParam) {
+  auto& message = *reinterpret_cast<MSG*>(lParam);
+  const bool released = message.message == WM_KEYUP || message.message == WM_SYSKEYUP;
+  if (code == HC_ACTION && wParam == PM_REMOVE && released && message.wParam == kMarkKey) {
+    const auto extra = static_cast<ULONG_PTR>(GetMessageExtraInfo());
+    if ((extra & ~ULONG_PTR{kMarkNumbers}) == kMarkSign) {
+      message.message = WM_NULL;
+      current_->noteMark(extra);
+    }
+  }
+  return CallNextHookEx(nullptr, code, wParam, lParam);
+}
+
+// Marks come in the order in which they were sent, but one may get lost while no window of the
+// program is in front.
+void UiThread::noteMark(ULONG_PTR extra) {
+  const unsigned before = marksSeen_;
+  marksSeen_ = before + ((static_cast<unsigned>(extra) - before) & kMarkNumbers);
+  SetEvent(progress_);
+}
+
+}  // namespace driver

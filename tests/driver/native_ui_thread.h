@@ -1,0 +1,55 @@
+#pragma once
+
+#include <windows.h>
+
+#include <atomic>
+#include <functional>
+
+namespace driver {
+
+/// The program's thread, as the person in front of the program reaches it from a thread of their
+/// own. Made and destroyed on the program's thread; everything else is called from the person's.
+class UiThread {
+ public:
+  UiThread();
+  ~UiThread();
+  UiThread(const UiThread&) = delete;
+  UiThread& operator=(const UiThread&) = delete;
+
+  /// A window of the program's thread that nobody sees.
+  HWND window() const { return window_; }
+
+  /// Runs `body` there between two messages, and returns when it is done. Not for a body that opens
+  /// a dialog: nobody would be left to answer it. What it throws is thrown here.
+  void inspect(const std::function<void()>& body);
+  /// Leaves `body` to be run there, behind every message that has been posted so far.
+  void post(std::function<void()> body);
+  /// The release of a key that no keyboard has, which ends up behind everything that was typed and
+  /// clicked before it. The program never sees it.
+  INPUT nextMark();
+  /// Waits until everything left by post has run and the last mark has come in. False when it takes
+  /// longer.
+  bool waitUntilReached(DWORD milliseconds);
+  /// Marks that have not come in yet went to another program, and are waited for no longer.
+  void forgetMarks() { marks_ = marksSeen_; }
+
+ private:
+  struct Call;
+
+  static LRESULT CALLBACK handleMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+  static LRESULT CALLBACK watchMessage(int code, WPARAM wParam, LPARAM lParam);
+  void noteMark(ULONG_PTR extra);
+  bool reached() const { return marks_ == marksSeen_ && posts_ == postsRun_; }
+
+  static UiThread* current_;
+
+  HWND window_ = nullptr;
+  HHOOK hook_ = nullptr;
+  HANDLE progress_ = nullptr;
+  unsigned marks_ = 0;
+  unsigned posts_ = 0;
+  std::atomic<unsigned> marksSeen_ = 0;
+  std::atomic<unsigned> postsRun_ = 0;
+};
+
+}  // namespace driver
