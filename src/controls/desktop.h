@@ -21,7 +21,7 @@ inline constexpr int kAnswerYes = 6;
 inline constexpr int kAnswerNo = 7;
 
 /// A message box. Without a title of its own it carries the application's.
-struct MessageBox {
+struct UserMessage {
   std::string text;
   Buttons buttons = Buttons::Ok;
   Icon icon = Icon::None;
@@ -51,7 +51,7 @@ class Desktop {
   /// Makes a window, hidden, with the controls of the layout.
   virtual std::unique_ptr<Window> createWindow(const WindowLayout& layout) = 0;
   /// Shows a message box and waits for its answer: kAnswerOk, or kAnswerYes or kAnswerNo.
-  virtual int showMessage(const MessageBox& box) = 0;
+  virtual int showMessage(const UserMessage& box) = 0;
   virtual void beep() = 0;
 
   /// The clipboard's text; nothing when it holds none or cannot be had.

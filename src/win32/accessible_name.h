@@ -1,8 +1,8 @@
 #pragma once
 
-#include <string_view>
+#include <windows.h>
 
-#include "win32/system.h"
+#include <string_view>
 
 namespace win32 {
 

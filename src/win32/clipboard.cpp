@@ -1,8 +1,9 @@
 #include "win32/clipboard.h"
 
+#include <windows.h>
+
 #include <cstring>
 
-#include "win32/system.h"
 #include "win32/text.h"
 
 namespace win32 {

@@ -1,7 +1,8 @@
 #pragma once
 
+#include <windows.h>
+
 #include "controls/color.h"
-#include "win32/system.h"
 
 namespace win32 {
 

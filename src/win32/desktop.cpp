@@ -1,6 +1,6 @@
 #include "win32/desktop.h"
 
-#include "win32/system.h"
+#include <windows.h>
 
 #include <commdlg.h>
 
@@ -45,7 +45,7 @@ std::unique_ptr<controls::Window> Desktop::createWindow(const controls::WindowLa
   return std::make_unique<Window>(*this, layout);
 }
 
-int Desktop::showMessage(const controls::MessageBox& box) {
+int Desktop::showMessage(const controls::UserMessage& box) {
   const bool question = box.buttons == controls::Buttons::YesNo;
   UINT style = MB_TASKMODAL | static_cast<UINT>(question ? MB_YESNO : MB_OK);
   if (box.icon == controls::Icon::Question) style |= MB_ICONQUESTION;

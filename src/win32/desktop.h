@@ -18,7 +18,7 @@ class Desktop : public controls::Desktop {
   explicit Desktop(const std::string& settingsRoot = "Software\\Tallyrex");
 
   std::unique_ptr<controls::Window> createWindow(const controls::WindowLayout& layout) override;
-  int showMessage(const controls::MessageBox& box) override;
+  int showMessage(const controls::UserMessage& box) override;
   void beep() override;
   std::optional<std::string> clipboardText() override;
   bool setClipboardText(std::string_view text) override;

@@ -1,9 +1,10 @@
 #pragma once
 
+#include <windows.h>
+
 #include <exception>
 
 #include "controls/event_loop.h"
-#include "win32/system.h"
 
 namespace win32 {
 

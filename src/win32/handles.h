@@ -1,9 +1,9 @@
 #pragma once
 
+#include <windows.h>
+
 #include <memory>
 #include <type_traits>
-
-#include "win32/system.h"
 
 namespace win32 {
 

@@ -1,6 +1,6 @@
 #include "win32/help_viewer.h"
 
-#include "win32/system.h"
+#include <windows.h>
 
 #include <shellapi.h>
 

@@ -1,9 +1,10 @@
 #pragma once
 
+#include <windows.h>
+
 #include <string>
 
 #include "controls/desktop.h"
-#include "win32/system.h"
 
 namespace win32 {
 

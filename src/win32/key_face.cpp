@@ -1,6 +1,6 @@
 #include "win32/key_face.h"
 
-#include "win32/system.h"
+#include <windows.h>
 
 #include <uxtheme.h>
 #include <vssym32.h>
@@ -52,9 +52,9 @@ KeyFace::KeyFace(Window& frame, const controls::Control& key)
     : frame_(frame), key_(key), face_(wide(key.layout().face)) {
   if (key.layout().icon.empty()) return;
   const int size = MulDiv(kIconSize, frame.scale().dpi(), 96);
-  icon_.reset(
-      static_cast<HICON>(LoadImageW(GetModuleHandleW(nullptr), wide(key.layout().icon).c_str(),
-                                    IMAGE_ICON, size, size, LR_DEFAULTCOLOR)));
+  const std::wstring picture = L"KEY_" + wide(key.layout().icon);
+  icon_.reset(static_cast<HICON>(LoadImageW(GetModuleHandleW(nullptr), picture.c_str(), IMAGE_ICON,
+                                            size, size, LR_DEFAULTCOLOR)));
 }
 
 LRESULT KeyFace::draw(const NMCUSTOMDRAW& draw, bool down) {

@@ -1,7 +1,8 @@
+#include <windows.h>
+
 #include "app/application.h"
 #include "win32/desktop.h"
 #include "win32/message_loop.h"
-#include "win32/system.h"
 
 // Libraries and programs are never taken from the current folder.
 static void trustSystemFoldersOnly() {

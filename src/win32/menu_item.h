@@ -1,10 +1,11 @@
 #pragma once
 
+#include <windows.h>
+
 #include <cstddef>
 #include <string>
 
 #include "controls/menu.h"
-#include "win32/system.h"
 
 namespace win32 {
 

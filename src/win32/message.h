@@ -1,6 +1,6 @@
 #pragma once
 
-#include "win32/system.h"
+#include <windows.h>
 
 namespace win32 {
 

@@ -1,9 +1,10 @@
 #include "win32/message_loop.h"
 
+#include <windows.h>
+
 #include "win32/desktop.h"
 #include "win32/edge.h"
 #include "win32/keys.h"
-#include "win32/system.h"
 #include "win32/window.h"
 
 namespace win32 {

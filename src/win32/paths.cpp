@@ -1,6 +1,6 @@
 #include "win32/paths.h"
 
-#include "win32/system.h"
+#include <windows.h>
 
 namespace win32 {
 namespace {

@@ -1,9 +1,9 @@
 #pragma once
 
+#include <windows.h>
+
 #include <optional>
 #include <string>
-
-#include "win32/system.h"
 
 namespace win32 {
 

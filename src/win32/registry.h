@@ -1,10 +1,10 @@
 #pragma once
 
+#include <windows.h>
+
 #include <optional>
 #include <string>
 #include <string_view>
-
-#include "win32/system.h"
 
 namespace win32 {
 

@@ -1,7 +1,8 @@
 #pragma once
 
+#include <windows.h>
+
 #include "controls/geometry.h"
-#include "win32/system.h"
 
 namespace win32 {
 

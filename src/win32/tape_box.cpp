@@ -1,6 +1,6 @@
 #include "win32/tape_box.h"
 
-#include "win32/system.h"
+#include <windows.h>
 
 #include <windowsx.h>
 

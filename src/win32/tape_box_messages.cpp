@@ -1,4 +1,4 @@
-#include "win32/system.h"
+#include <windows.h>
 
 #include <oleacc.h>
 #include <uxtheme.h>

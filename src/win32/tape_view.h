@@ -1,7 +1,8 @@
 #pragma once
 
+#include <windows.h>
+
 #include "controls/layout.h"
-#include "win32/system.h"
 #include "win32/tape_lines.h"
 
 namespace win32 {

@@ -1,6 +1,6 @@
 #include "win32/tool_tips.h"
 
-#include "win32/system.h"
+#include <windows.h>
 
 #include <commctrl.h>
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <string>
+#include <windows.h>
 
-#include "win32/system.h"
+#include <string>
 
 namespace win32 {
 
