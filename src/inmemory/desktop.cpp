@@ -10,7 +10,7 @@ std::unique_ptr<controls::Window> Desktop::createWindow(const controls::WindowLa
   return std::make_unique<Window>(*this, layout);
 }
 
-int Desktop::showMessage(const controls::MessageBox& box) {
+int Desktop::showMessage(const controls::UserMessage& box) {
   int answer = controls::kAnswerOk;
   if (box.buttons == controls::Buttons::YesNo) {
     answer = controls::kAnswerYes;

@@ -14,7 +14,7 @@ inline constexpr controls::Rect kScreen = {0, 0, 19200, 15360};
 
 /// A message box as it was shown, and its answer.
 struct ShownBox {
-  controls::MessageBox box;
+  controls::UserMessage box;
   int answer;
 };
 
@@ -29,7 +29,7 @@ struct Launch {
 class Desktop : public controls::Desktop {
  public:
   std::unique_ptr<controls::Window> createWindow(const controls::WindowLayout& layout) override;
-  int showMessage(const controls::MessageBox& box) override;
+  int showMessage(const controls::UserMessage& box) override;
   void beep() override { ++beeps; }
   std::optional<std::string> clipboardText() override { return clipboard; }
   bool setClipboardText(std::string_view text) override;
