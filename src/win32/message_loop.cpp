@@ -43,9 +43,15 @@ void translate(const MSG& message) {
   }
 }
 
+// A key goes to the control with the focus also when its window is disabled.
+bool isKeptBack(const MSG& message) {
+  return message.message >= WM_KEYFIRST && message.message <= WM_KEYLAST &&
+         !IsWindowEnabled(GetAncestor(message.hwnd, GA_ROOT));
+}
+
 void dispatch(Desktop& desktop, const MSG& message) {
   atTheEdge(desktop.events(), [&]() -> LRESULT {
-    if (isTaken(desktop, message)) return 0;
+    if (isKeptBack(message) || isTaken(desktop, message)) return 0;
     translate(message);
     return DispatchMessageW(&message);
   });

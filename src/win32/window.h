@@ -86,6 +86,7 @@ class Window : public controls::Window {
   Placement placed_;
   // As it stood before it was maximized.
   Normal normal_;
+  bool maximized_ = false;
   bool placing_ = false;
   bool placeWhenRestored_ = false;
 };

@@ -83,7 +83,8 @@ void Window::noteGeometry() {
     return;
   }
   const bool maximized = IsZoomed(handle_);
-  if (maximized && state() != WindowState::Maximized) normal_ = {bounds(), placed_};
+  if (maximized && !maximized_) normal_ = {bounds(), placed_};
+  maximized_ = maximized;
   noteState(maximized ? WindowState::Maximized : WindowState::Normal);
   if (placeWhenRestored_) {
     placeWhenRestored_ = false;
