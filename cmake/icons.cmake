@@ -1,4 +1,6 @@
-# Icons are drawings, rendered at each size of their own, so that none is scaled on the screen.
+# Icons are drawings, rendered at each size of their own, so that none is scaled on the screen. The
+# tools for that are rare on Windows: where they are missing, the renderings that scripts/keep-icons
+# has put beside the drawings serve.
 find_program(TALLYREX_RSVG_CONVERT rsvg-convert)
 find_program(TALLYREX_ICOTOOL icotool)
 
@@ -6,11 +8,6 @@ find_program(TALLYREX_ICOTOOL icotool)
 # renders DRAWING.svg into ${CMAKE_BINARY_DIR}/icons/DRAWING.ico.
 function(tallyrex_render_icon drawing)
   cmake_parse_arguments(PARSE_ARGV 1 arg "" "SMALL" "SIZES")
-  if(NOT TALLYREX_RSVG_CONVERT OR NOT TALLYREX_ICOTOOL)
-    message(FATAL_ERROR
-      "The icons are rendered by rsvg-convert and icotool, which were not found. Install them (in "
-      "Debian: apt install librsvg2-bin icoutils).")
-  endif()
   get_filename_component(drawing ${drawing} ABSOLUTE)
   if(arg_SMALL)
     get_filename_component(arg_SMALL ${arg_SMALL} ABSOLUTE)
@@ -18,6 +15,11 @@ function(tallyrex_render_icon drawing)
   get_filename_component(name ${drawing} NAME_WE)
   set(folder ${CMAKE_BINARY_DIR}/icons)
   file(MAKE_DIRECTORY ${folder})
+  if(NOT TALLYREX_RSVG_CONVERT OR NOT TALLYREX_ICOTOOL)
+    get_filename_component(kept ${drawing} DIRECTORY)
+    configure_file(${kept}/kept/${name}.ico ${folder}/${name}.ico COPYONLY)
+    return()
+  endif()
 
   set(renderings)
   set(pictures)
@@ -30,7 +32,7 @@ function(tallyrex_render_icon drawing)
     list(APPEND renderings COMMAND ${TALLYREX_RSVG_CONVERT} --width ${size} --height ${size}
                                    --output ${picture} ${source})
     # The large ones stay compressed: as bitmaps they would outweigh the program.
-    if(size LESS 64)
+    if(size LESS 48)
       list(APPEND pictures ${picture})
     else()
       list(APPEND pictures --raw=${picture})

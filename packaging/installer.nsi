@@ -18,7 +18,9 @@ AllowSkipFiles off
 !define NAME "Tallyrex"
 !define PUBLISHER "The Tallyrex developers"
 !define UNINSTALL_KEY "Software\Microsoft\Windows\CurrentVersion\Uninstall\${NAME}"
-!define SETTINGS_KEY "Software\${NAME}"
+; A copy of the program under another name keeps settings of its own beside these.
+!define ALL_SETTINGS_KEY "Software\${NAME}"
+!define SETTINGS_KEY "${ALL_SETTINGS_KEY}\${NAME}"
 !define SHORTCUT "$SMPROGRAMS\${NAME}.lnk"
 !include running_program.nsh
 
@@ -152,5 +154,6 @@ Section Uninstall
   DeleteRegKey HKCU "${UNINSTALL_KEY}"
   ${If} $removeSettings = 1
     DeleteRegKey HKCU "${SETTINGS_KEY}"
+    DeleteRegKey /ifempty HKCU "${ALL_SETTINGS_KEY}"
   ${EndIf}
 SectionEnd

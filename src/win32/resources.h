@@ -1,10 +1,9 @@
 #pragma once
 
-// Shared with the resource compiler.
-#define TALLYREX_PROGRAM_ICON 1
-
 namespace win32 {
 
-inline constexpr int kProgramIcon = TALLYREX_PROGRAM_ICON;
+/// The program's icon in its resources. Windows shows a program by the first of its icons, and
+/// sorts them by name: this one stands before the pictures of the keys.
+inline constexpr wchar_t kProgramIcon[] = L"APPLICATION";
 
 }  // namespace win32

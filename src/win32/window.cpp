@@ -25,7 +25,7 @@ ATOM registerClass(WNDPROC procedure) {
   definition.cbSize = sizeof definition;
   definition.lpfnWndProc = procedure;
   definition.hInstance = instance;
-  definition.hIcon = LoadIconW(instance, MAKEINTRESOURCEW(kProgramIcon));
+  definition.hIcon = LoadIconW(instance, kProgramIcon);
   definition.hCursor = LoadCursorW(nullptr, IDC_ARROW);
   definition.hbrBackground = GetSysColorBrush(COLOR_BTNFACE);
   definition.lpszClassName = kClassName;

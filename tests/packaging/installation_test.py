@@ -85,9 +85,10 @@ class Installation(unittest.TestCase):
         self.install()
         self.assertEqual(account.run("start", account.windows_path(self.shortcut)), 0)
         window = account.wait_for_window(MAIN_WINDOW)
-        account.write("12+3+5-=")
+        account.write("12+3+5")
+        account.press("Return")
         tape = account.wait_until("the total", self.tape_with_total)
-        self.assertIn("10.00 *", tape)
+        self.assertIn("20.00 *", tape)
         account.press("alt+F4")
         account.wait_until("the end", lambda: window not in account.windows(MAIN_WINDOW))
         account.wait_until("the settings", lambda: account.registry(SETTINGS_KEY))
@@ -147,6 +148,15 @@ class Installation(unittest.TestCase):
         self.start_program()
         self.remove("/SETTINGS")
         self.assert_removed()
+        self.assertIsNone(account.registry(r"HKCU\Software\Tallyrex"))
+
+    def test_leaves_the_settings_of_a_copy_under_another_name(self):
+        self.install()
+        other = r"HKCU\Software\Tallyrex\Office"
+        account.run("reg", "add", other, "/v", "frmCalcLeft", "/d", "500", "/f")
+        self.addCleanup(account.run, "reg", "delete", other, "/f")
+        self.remove("/SETTINGS")
+        self.assertEqual(account.registry(other), {"frmCalcLeft": "500"})
 
     def test_asks_whether_the_settings_are_to_go_too(self):
         for answer, kept in ([], True), (["alt+r"], False):

@@ -1,0 +1,23 @@
+"""The renderings of the icons that are kept beside the drawings are renderings of these drawings."""
+import hashlib
+import unittest
+
+import tree
+
+ICONS = tree.ROOT / "src" / "win32" / "icons"
+
+
+class KeptIcons(unittest.TestCase):
+    def test_no_drawing_has_changed_since(self):
+        kept = dict(reversed(line.split("  ")) for line in tree.lines(ICONS / "kept/drawings.sha256"))
+        now = {path.name: hashlib.sha256(path.read_bytes()).hexdigest()
+               for path in sorted(ICONS.glob("*.svg"))}
+        self.assertEqual(kept, now, "scripts/keep-icons renders them anew")
+
+    def test_each_drawing_has_one(self):
+        drawings = {path.stem for path in ICONS.glob("*.svg") if not path.stem.endswith("-small")}
+        self.assertEqual({path.stem for path in (ICONS / "kept").glob("*.ico")}, drawings)
+
+
+if __name__ == "__main__":
+    unittest.main()
