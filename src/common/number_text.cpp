@@ -4,6 +4,7 @@
 #include <cassert>
 #include <charconv>
 #include <cmath>
+#include <cstdio>
 #include <cstdlib>
 #include <system_error>
 
@@ -217,11 +218,13 @@ DecimalDigits toDigits(double value) {
   DecimalDigits result;
   if (value == 0) return result;
   result.negative = value < 0;
+  // The C library rounds as correctly as to_chars, whose tables would weigh a quarter of the
+  // program. What stands for the point does not matter here.
   char buffer[32];
-  const auto [end, error] = std::to_chars(buffer, buffer + sizeof buffer, std::abs(value),
-                                          std::chars_format::scientific, kSignificantDigits - 1);
-  assert(error == std::errc{});
-  std::string_view text(buffer, static_cast<std::size_t>(end - buffer));
+  const int length =
+      std::snprintf(buffer, sizeof buffer, "%.*e", kSignificantDigits - 1, std::abs(value));
+  assert(length > 0 && length < static_cast<int>(sizeof buffer));
+  std::string_view text(buffer, static_cast<std::size_t>(length));
   const std::size_t exponentAt = text.find('e');
   result.digits = text.front();
   result.digits += text.substr(2, exponentAt - 2);
