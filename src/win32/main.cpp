@@ -8,6 +8,7 @@
 static void trustSystemFoldersOnly() {
   SetDllDirectoryW(L"");
   SetDefaultDllDirectories(LOAD_LIBRARY_SEARCH_SYSTEM32);
+  SetEnvironmentVariableW(L"NoDefaultCurrentDirectoryInExePath", L"1");
 }
 
 int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int) {

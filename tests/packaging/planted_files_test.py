@@ -39,8 +39,10 @@ class PlantedFiles(unittest.TestCase):
         self.folder.mkdir()
         self.marks = pathlib.Path(folder.name) / "marks"
         self.program = pathlib.Path(folder.name) / "program" / "Tallyrex.exe"
-        self.program.parent.mkdir()
-        self.program.write_bytes(packages.archived()["Tallyrex.exe"])
+        for name, contents in packages.archived().items():
+            file = self.program.parent / name
+            file.parent.mkdir(parents=True, exist_ok=True)
+            file.write_bytes(contents)
 
     def plant(self, source, names):
         for name in names:
@@ -80,6 +82,29 @@ class PlantedFiles(unittest.TestCase):
         account.press("alt+F4")
         self.assertEqual(process.wait(30), 0)
         self.assertEqual(self.marked(), set())
+
+    def test_no_program_is_taken_from_the_current_folder(self):
+        self.plant(PROGRAM, PROGRAMS)
+        for program, title, *steps in (
+                ("notepad.exe", "Notepad$", (MAIN_WINDOW, "alt+f", "s"), ("^Save", "Return"),
+                 ("^Tallyrex$", "Return")),
+                ("winhlp32.exe", "Help$", (MAIN_WINDOW, "alt+h", "h"))):
+            with self.subTest(program=program):
+                self.assertEqual(account.windows(title), [], "already open")
+                self.addCleanup(account.run, "taskkill", "/f", "/im", program)
+                self.use(steps, lambda: account.windows(title) or self.marked())
+                self.assertEqual(self.marked(), set())
+
+    def use(self, steps, done):
+        """Starts the program, gives each window of `steps` its keys, and waits until it is done."""
+        process = self.start(self.program)
+        try:
+            for window, *keys in steps:
+                account.wait_for_window(window)
+                account.press(*keys)
+            account.wait_until("what is done by " + repr(steps), done)
+        finally:
+            self.stop(process)
 
 
 if __name__ == "__main__":
