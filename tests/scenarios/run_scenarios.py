@@ -76,6 +76,13 @@ def unexpected_part(expected, got):
     return expected, got
 
 
+def is_good(step, got):
+    """Whether an answer is what the step expects; a step that expects nothing expects no error."""
+    if step.has_expected:
+        return matches(step.expected, got)
+    return not (isinstance(got, dict) and "error" in got)
+
+
 def same_answer(one, other):
     """Errors are the same whatever their words: the words are for people."""
     if isinstance(one, dict) and isinstance(other, dict) and "error" in one and "error" in other:
@@ -123,11 +130,12 @@ def check(name, steps, answers, trouble):
     """The complaints about one driver's answers."""
     complaints = [say(name, None, trouble)] if trouble else []
     for step, got in zip(steps, answers):
+        if is_good(step, got):
+            continue
         if step.has_expected:
-            if not matches(step.expected, got):
-                expected, shown = unexpected_part(step.expected, got)
-                complaints.append(say(name, step, "", ("expected", expected), ("got", shown)))
-        elif isinstance(got, dict) and "error" in got:
+            expected, shown = unexpected_part(step.expected, got)
+            complaints.append(say(name, step, "", ("expected", expected), ("got", shown)))
+        else:
             complaints.append(say(name, step, "", ("got", got)))
     if len(answers) < len(steps):
         complaints.append(say(name, steps[len(answers)], "no answer"))
@@ -135,9 +143,13 @@ def check(name, steps, answers, trouble):
 
 
 def compare(name, steps, one, other):
-    """The complaints about answers that two drivers do not share."""
-    return [say(name, step, "the drivers differ", ("first", mine), ("second", theirs))
-            for step, mine, theirs in zip(steps, one, other) if not same_answer(mine, theirs)]
+    """The complaints about answers that two drivers do not share, where each by itself is good."""
+    complaints = []
+    for step, mine, theirs in zip(steps, one, other):
+        if is_good(step, mine) and is_good(step, theirs) and not same_answer(mine, theirs):
+            first, second = unexpected_part(mine, theirs)
+            complaints.append(say(name, step, "the drivers differ", ("first", first), ("second", second)))
+    return complaints
 
 
 def run_file(path, drivers, timeout):
