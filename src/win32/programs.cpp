@@ -126,6 +126,9 @@ std::optional<DWORD> startProgram(const std::string& program) {
 }
 
 bool startProgramAndPaste(const std::string& program) {
+  // On Wine a focus that was moved just now may still have to be passed on to the screen. Asking for
+  // input does that; done later, it would take the focus back from the program that is started.
+  GetQueueStatus(QS_ALLINPUT);
   const std::vector<EditorWindow> before = editorWindows();
   if (!startProgram(program)) return false;
   const HWND window = waitForNewWindow(before);
