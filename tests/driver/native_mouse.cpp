@@ -35,7 +35,7 @@ POINT middleOf(const RECT& rect) {
 
 }  // namespace
 
-std::vector<INPUT> mouseClicks(POINT place, MouseButton button, int times) {
+std::vector<INPUT> mouseInputs(POINT place, MouseButton button, bool up, ULONG_PTR extra) {
   INPUT move = {};
   move.type = INPUT_MOUSE;
   move.mi.dwFlags = MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE | MOUSEEVENTF_VIRTUALDESK;
@@ -43,12 +43,9 @@ std::vector<INPUT> mouseClicks(POINT place, MouseButton button, int times) {
       toMouse(place.x, GetSystemMetrics(SM_XVIRTUALSCREEN), GetSystemMetrics(SM_CXVIRTUALSCREEN));
   move.mi.dy =
       toMouse(place.y, GetSystemMetrics(SM_YVIRTUALSCREEN), GetSystemMetrics(SM_CYVIRTUALSCREEN));
-  std::vector<INPUT> inputs = {move};
-  for (int i = 0; i < times; ++i) {
-    inputs.push_back(buttonInput(button, false));
-    inputs.push_back(buttonInput(button, true));
-  }
-  return inputs;
+  INPUT press = buttonInput(button, up);
+  move.mi.dwExtraInfo = press.mi.dwExtraInfo = extra;
+  return {move, press};
 }
 
 bool placeToClick(HWND control, POINT& place) {

@@ -65,6 +65,8 @@ class NativeStage : public Stage {
   void putInFront(const controls::Window& window);
   void putProgramInFront();
   void clickWithMouse(controls::Control& control, int times);
+  void clickAt(POINT place, MouseButton button);
+  void moveButton(POINT place, MouseButton button, bool up);
 
   UiThread ui_;
   NativeBoxes boxes_;

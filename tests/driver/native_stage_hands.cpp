@@ -6,6 +6,12 @@
 
 namespace driver {
 
+namespace {
+
+constexpr int kTriesOfMouse = 20;
+
+}  // namespace
+
 void NativeStage::keyDown(const controls::KeyStroke& stroke, controls::KeyAscii character) {
   putProgramInFront();
   send(keyboard_.down(stroke, character));
@@ -24,13 +30,32 @@ void NativeStage::doubleClick(controls::Control& control) {
   clickWithMouse(control, 2);
 }
 
+void NativeStage::clickAt(POINT place, MouseButton button) {
+  moveButton(place, button, false);
+  moveButton(place, button, true);
+}
+
+// A mouse that moves by itself meanwhile, or the report of a move that the system has been slow to
+// make, must not carry the click to another control.
+void NativeStage::moveButton(POINT place, MouseButton button, bool up) {
+  for (int i = 0; i < kTriesOfMouse; ++i) {
+    ui_.aim(place);
+    send(mouseInputs(place, button, up, UiThread::kAimedInput));
+    if (!ui_.missed()) return;
+  }
+  throw CommandError("the mouse does not stay where it is put");
+}
+
 // A control that the mouse cannot reach, since it lies outside the window or the screen, gets the
 // messages that the mouse would have sent.
 void NativeStage::clickWithMouse(controls::Control& control, int times) {
   putInFront(control.window());
   HWND handle = handleOf(control);
   POINT place = {};
-  if (placeToClick(handle, place)) return send(mouseClicks(place, MouseButton::Left, times));
+  if (placeToClick(handle, place)) {
+    for (int i = 0; i < times; ++i) clickAt(place, MouseButton::Left);
+    return;
+  }
   deliver(handle, WM_LBUTTONDOWN, MK_LBUTTON, 0);
   deliver(handle, WM_LBUTTONUP, 0, 0);
   if (times == 1) return;
@@ -57,13 +82,13 @@ void NativeStage::mousePaste(controls::TextBox& box, const std::string& text) {
   HWND handle = handleOf(box);
   POINT place = {};
   if (!placeToClick(handle, place)) throw CommandError("the mouse does not reach the box");
-  send(mouseClicks(place, MouseButton::Right, 1));
+  clickAt(place, MouseButton::Right);
   HWND menu = findShortcutMenu();
   if (!menu) throw CommandError("the box has no shortcut menu");
   bool found = false;
   inspect([&] { found = placeOfMenuItem(menu, L"&Paste", place); });
   if (!found) throw CommandError("nothing can be pasted");
-  send(mouseClicks(place, MouseButton::Left, 1));
+  clickAt(place, MouseButton::Left);
   setClipboard(before);
 }
 

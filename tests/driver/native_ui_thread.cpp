@@ -35,11 +35,13 @@ UiThread::UiThread() {
   window_ = CreateWindowW(kClassName, L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr,
                           windowClass.hInstance, nullptr);
   progress_ = CreateEventW(nullptr, FALSE, FALSE, nullptr);
-  hook_ = SetWindowsHookExW(WH_GETMESSAGE, watchMessage, nullptr, GetCurrentThreadId());
+  messageHook_ = SetWindowsHookExW(WH_GETMESSAGE, watchMessage, nullptr, GetCurrentThreadId());
+  mouseHook_ = SetWindowsHookExW(WH_MOUSE, watchMouse, nullptr, GetCurrentThreadId());
 }
 
 UiThread::~UiThread() {
-  UnhookWindowsHookEx(hook_);
+  UnhookWindowsHookEx(mouseHook_);
+  UnhookWindowsHookEx(messageHook_);
   CloseHandle(progress_);
   DestroyWindow(window_);
   current_ = nullptr;
@@ -77,6 +79,11 @@ bool UiThread::waitUntilReached(DWORD milliseconds) {
   return true;
 }
 
+void UiThread::aim(POINT place) {
+  aim_ = place;
+  missed_ = false;
+}
+
 LRESULT CALLBACK UiThread::handleMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
   if (message == kInspect) {
     auto& call = *reinterpret_cast<Call*>(lParam);
@@ -107,6 +114,18 @@ LRESULT CALLBACK UiThread::watchMessage(int code, WPARAM wParam, LPARAM lParam) 
     if ((extra & ~ULONG_PTR{kMarkNumbers}) == kMarkSign) {
       message.message = WM_NULL;
       current_->noteMark(extra);
+    }
+  }
+  return CallNextHookEx(nullptr, code, wParam, lParam);
+}
+
+LRESULT CALLBACK UiThread::watchMouse(int code, WPARAM wParam, LPARAM lParam) {
+  const auto& mouse = *reinterpret_cast<const MOUSEHOOKSTRUCT*>(lParam);
+  if (code == HC_ACTION && wParam != WM_MOUSEMOVE && mouse.dwExtraInfo == kAimedInput) {
+    const POINT aim = current_->aim_;
+    if (mouse.pt.x != aim.x || mouse.pt.y != aim.y) {
+      current_->missed_ = true;
+      return 1;
     }
   }
   return CallNextHookEx(nullptr, code, wParam, lParam);

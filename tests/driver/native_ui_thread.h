@@ -30,6 +30,12 @@ class UiThread {
   /// Waits until everything left by post has run and the last mark has come in. False when it takes
   /// longer.
   bool waitUntilReached(DWORD milliseconds);
+  /// Lets input of the mouse through that carries kAimedInput only where the mouse was aimed at:
+  /// until the next call `missed` tells whether some of it came elsewhere and was swallowed.
+  void aim(POINT place);
+  bool missed() const { return missed_; }
+  static constexpr ULONG_PTR kAimedInput = 0x7A5F0000;
+
   /// Marks that have not come in yet went to another program, and are waited for no longer.
   void forgetMarks() { marks_ = marksSeen_; }
 
@@ -38,18 +44,22 @@ class UiThread {
 
   static LRESULT CALLBACK handleMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
   static LRESULT CALLBACK watchMessage(int code, WPARAM wParam, LPARAM lParam);
+  static LRESULT CALLBACK watchMouse(int code, WPARAM wParam, LPARAM lParam);
   void noteMark(ULONG_PTR extra);
   bool reached() const { return marks_ == marksSeen_ && posts_ == postsRun_; }
 
   static UiThread* current_;
 
   HWND window_ = nullptr;
-  HHOOK hook_ = nullptr;
+  HHOOK messageHook_ = nullptr;
+  HHOOK mouseHook_ = nullptr;
   HANDLE progress_ = nullptr;
   unsigned marks_ = 0;
   unsigned posts_ = 0;
   std::atomic<unsigned> marksSeen_ = 0;
   std::atomic<unsigned> postsRun_ = 0;
+  std::atomic<POINT> aim_ = POINT{};
+  std::atomic<bool> missed_ = false;
 };
 
 }  // namespace driver
