@@ -76,6 +76,8 @@ HWND waitForNewWindow(const std::vector<EditorWindow>& before) {
 
 bool bringToFront(HWND window) {
   for (int poll = 0; poll < kFrontPolls; ++poll) {
+    // Not every system raises what it gives the keys to.
+    BringWindowToTop(window);
     SetForegroundWindow(window);
     if (GetForegroundWindow() == window) return true;
     Sleep(kPoll);
@@ -126,8 +128,8 @@ std::optional<DWORD> startProgram(const std::string& program) {
 }
 
 bool startProgramAndPaste(const std::string& program) {
-  // On Wine a focus that was moved just now may still have to be passed on to the screen. Asking for
-  // input does that; done later, it would take the focus back from the program that is started.
+  // On Wine a focus that was moved just now may still have to be passed on to the screen. Asking
+  // for input does that; done later, it would take the focus back from the program that is started.
   GetQueueStatus(QS_ALLINPUT);
   const std::vector<EditorWindow> before = editorWindows();
   if (!startProgram(program)) return false;
