@@ -79,8 +79,7 @@ bool Desktop::startProgramAndPaste(const std::string& program) {
 void Desktop::showHelp(const controls::HelpRequest& request) {
   const auto* active = static_cast<Window*>(activeWindow());
   if (openHelp(request, active ? active->handle() : nullptr)) return;
-  showMessage({.text = "The help cannot be shown on this computer. It can be read in " +
-                       helpPage(request.file) + "."});
+  showMessage({.text = whereHelpIs(request.file)});
 }
 
 std::optional<std::uint32_t> Desktop::chooseColor() {

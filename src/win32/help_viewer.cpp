@@ -62,8 +62,12 @@ bool openHelp(const controls::HelpRequest& request, HWND owner) {
   return openInViewer(request, owner) || openInBrowser(request);
 }
 
-std::string helpPage(const std::string& file) {
-  return narrow(folderOf(wide(file)) + L"\\" + baseNameOf(wide(file)) + L".html");
+std::string whereHelpIs(const std::string& file) {
+  const std::wstring path = wide(file);
+  const std::wstring page = findPage(path, baseNameOf(path) + L".html");
+  if (page.empty())
+    return "The help was not found. It belongs beside the program, as " + file + ".";
+  return "No program was found that shows the help. It can be read in " + narrow(page) + ".";
 }
 
 }  // namespace win32

@@ -12,7 +12,7 @@ namespace win32 {
 /// neither can be had.
 bool openHelp(const controls::HelpRequest& request, HWND owner);
 
-/// The page that holds the same help for a browser.
-std::string helpPage(const std::string& file);
+/// What the user is told when it cannot be opened.
+std::string whereHelpIs(const std::string& file);
 
 }  // namespace win32
