@@ -44,7 +44,8 @@ def rows(packed, width, channels):
 def make_bitmap(data):
     """The bytes of the bitmap; what is transparent loses its transparency."""
     parts = list(chunks(data))
-    width, height, depth, colours, _, _, interlacing = struct.unpack(">IIBBBBB", dict(parts)[b"IHDR"])
+    header = struct.unpack(">IIBBBBB", dict(parts)[b"IHDR"])
+    width, height, depth, colours, _, _, interlacing = header
     if depth != 8 or colours not in CHANNELS or interlacing:
         raise ValueError("not a PNG of 8 bits a colour without palette and interlacing")
     channels = CHANNELS[colours]
@@ -57,8 +58,9 @@ def make_bitmap(data):
             line[2 - channel::3] = row[channel::channels]
         lines.append(bytes(line) + padding)
     pixels = b"".join(reversed(lines))
-    return (struct.pack("<2sIII", b"BM", 54 + len(pixels), 0, 54) +
-            struct.pack("<IiiHHIIIIII", 40, width, height, 1, 24, 0, len(pixels), 0, 0, 0, 0) + pixels)
+    file_header = struct.pack("<2sIII", b"BM", 54 + len(pixels), 0, 54)
+    return file_header + struct.pack("<IiiHHIIIIII", 40, width, height, 1, 24, 0, len(pixels),
+                                     0, 0, 0, 0) + pixels
 
 
 def main(arguments):

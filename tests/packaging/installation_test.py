@@ -63,7 +63,8 @@ class Installation(unittest.TestCase):
         self.install()
         for name, contents in packages.archived().items():
             self.assertEqual((self.place / name).read_bytes(), contents, name)
-        files = {str(path.relative_to(self.place)) for path in self.place.rglob("*") if path.is_file()}
+        files = {str(path.relative_to(self.place))
+                 for path in self.place.rglob("*") if path.is_file()}
         self.assertEqual(files, set(packages.archived()) | {"uninstall.exe"})
 
     def test_stands_in_the_list_of_programs(self):
@@ -101,12 +102,13 @@ class Installation(unittest.TestCase):
     def test_replaces_an_older_version_and_closes_the_program_first(self):
         self.install(setup=OLDER_SETUP)
         self.assertEqual(account.registry(UNINSTALL_KEY)["DisplayVersion"], packages.OLDER_VERSION)
-        (self.place / "readme.txt").write_text("of an older version", encoding="ascii")
+        readme = self.place / "readme.txt"
+        readme.write_text("of an older version", encoding="ascii")
         program = self.start_program()
         self.install()
         program.wait(timeout=10)
         self.assertEqual(account.registry(UNINSTALL_KEY)["DisplayVersion"], packages.VERSION)
-        self.assertEqual((self.place / "readme.txt").read_bytes(), packages.archived()["readme.txt"])
+        self.assertEqual(readme.read_bytes(), packages.archived()["readme.txt"])
         self.assertTrue(account.registry(SETTINGS_KEY), "closing it has not saved the settings")
 
     def test_gives_up_where_the_program_does_not_close(self):

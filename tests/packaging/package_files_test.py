@@ -1,4 +1,4 @@
-"""What the files of the packages are: their contents, and what is read from the programs themselves."""
+"""What the packages hold, and what is read from the programs themselves."""
 import unittest
 import xml.etree.ElementTree
 import zipfile
@@ -104,6 +104,11 @@ class Program(EitherProgram, unittest.TestCase):
 
     def test_the_same_sources_link_to_the_same_bytes(self):
         self.assertEqual(self.program.timestamp, 0, "the time of linking is in the file")
+
+    def test_says_nothing_of_the_folder_that_it_was_built_in(self):
+        for folder in ("/src/", "\\src\\"):
+            self.assertNotIn(folder.encode("ascii"), self.data)
+            self.assertNotIn(folder.encode("utf-16-le"), self.data)
 
     def test_looks_for_libraries_in_the_system_folder_alone(self):
         self.assertIn("SetDefaultDllDirectories", self.program.imports()["kernel32.dll"])

@@ -62,7 +62,7 @@ class PeFile:
         return found
 
     def resource(self, kind, name=None):
-        """The bytes of the first resource of a kind, or of the one of that number; LookupError if none."""
+        """The bytes of the first resource of a kind, or of that number; LookupError if none."""
         root = self._directory_offset(RESOURCE_DIRECTORY)
         names = self._resource_entries(root, self._resource_entries(root, root)[kind])
         languages = self._resource_entries(root, names[next(iter(names)) if name is None else name])
@@ -72,7 +72,7 @@ class PeFile:
         return self.data[start:start + size]
 
     def icon_sizes(self):
-        """The widths of the pictures of the program's icon: of the first group, which Windows shows."""
+        """The widths of the pictures of the program's icon: the first one, which Windows shows."""
         group = self.resource(GROUP_ICON)
         count = struct.unpack_from("<H", group, 4)[0]
         return [group[6 + 14 * i] or 256 for i in range(count)]
@@ -81,8 +81,8 @@ class PeFile:
         """(file version, product version, {name: text}), the versions as four numbers."""
         block = self.resource(VERSION)
         fixed = block.index(FIXED_FILE_INFO)
-        file_high, file_low, product_high, product_low = struct.unpack_from("<IIII", block, fixed + 8)
-        return (_version(file_high, file_low), _version(product_high, product_low), _strings(block))
+        numbers = struct.unpack_from("<IIII", block, fixed + 8)
+        return _version(*numbers[:2]), _version(*numbers[2:]), _strings(block)
 
     def _number(self, form, offset):
         return struct.unpack_from(form, self.data, offset)[0]

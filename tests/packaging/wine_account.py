@@ -1,4 +1,4 @@
-"""The Windows account under Wine that the tests install into: its programs, windows, files, registry."""
+"""The Windows account under Wine that the tests install into."""
 import os
 import pathlib
 import re
@@ -11,8 +11,9 @@ VALUE = re.compile(r"^    (.+?)    (REG_\w+)(?:    (.*))?$")
 
 def run(*command, timeout=60):
     """Runs a Windows program to its end; its exit code."""
-    return subprocess.run(["wine", *map(str, command)], stdin=subprocess.DEVNULL, timeout=timeout,
-                          stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, check=False).returncode
+    done = subprocess.run(["wine", *map(str, command)], stdin=subprocess.DEVNULL, timeout=timeout,
+                          stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, check=False)
+    return done.returncode
 
 
 def output(*command, timeout=60):
@@ -94,7 +95,7 @@ def write(text):
 
 
 def traces():
-    """What is in the account: its files and registry, without what Windows itself writes as it goes."""
+    """The account's files and registry, without what Windows itself writes as it goes."""
     export = PREFIX / "drive_c" / "export.reg"
     run("reg", "export", "HKCU", windows_path(export), "/y")
     text = export.read_text(encoding="utf-16")
