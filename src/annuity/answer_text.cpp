@@ -18,10 +18,6 @@ namespace {
 constexpr std::string_view kWhole = "####0";
 constexpr std::string_view kBroken = "####0.##";
 
-// Errors of data that has gone from under its window: only a fresh window helps.
-constexpr int kUpdateWithoutEdit = 3020;
-constexpr int kNoCurrentRecord = 3021;
-
 // A remainder this close to a whole month is shown as that month.
 bool isNearlyWhole(float months) {
   const float fraction = months - std::floor(months);
@@ -58,10 +54,8 @@ std::string termInYears(double months) {
 
 std::string annuityErrorText(int number, bool answerShown) {
   std::string text = common::errorText(number);
-  if (number == kUpdateWithoutEdit || number == kNoCurrentRecord) {
-    text += "\rPlease close this window and reload this form.";
-  } else if ((number == common::kInvalidProcedureCall || number == common::kOverflow) &&
-             !answerShown) {
+  const bool unobtainable = number == common::kInvalidProcedureCall || number == common::kOverflow;
+  if (unobtainable && !answerShown) {
     text +=
         "\rThe answer is not obtainable using the current variables, "
         "try adjusting one or more of the numbers significantly.";

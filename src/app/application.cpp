@@ -26,17 +26,22 @@ void Application::openFinancialCalc() {
   annuity_->show();
 }
 
-// The box is modal: the main window takes no input while it is open.
+// The box is modal: the other windows take no input while it is open.
 void Application::showAbout(std::function<void()> closed) {
   about_ =
       std::make_unique<about::frmAbout>(desktop_, about::ProgramVersion{},
                                         [this, closed = std::move(closed)] { closeAbout(closed); });
-  calc_->window().setEnabled(false);
+  enableOtherWindows(false);
   about_->window().show();
 }
 
+void Application::enableOtherWindows(bool enabled) {
+  calc_->window().setEnabled(enabled);
+  if (annuity_) annuity_->window().setEnabled(enabled);
+}
+
 void Application::closeAbout(const std::function<void()>& closed) {
-  calc_->window().setEnabled(true);
+  enableOtherWindows(true);
   about_->window().hide();
   closed();
   desktop_.events().post([this] { about_.reset(); });

@@ -38,6 +38,7 @@ class Application : private shell::Program, private annuity::Program {
   void unloadAnnuity() override;
 
   void loadCalc();
+  void enableOtherWindows(bool enabled);
   void closeAbout(const std::function<void()>& closed);
   void endWithLastWindow();
 

@@ -18,7 +18,11 @@ std::string_view standardDescription(int number) {
 }
 
 std::string errorText(int number) {
-  return "Error:" + std::to_string(number) + " " + std::string(standardDescription(number));
+  std::string text = "Error:" + std::to_string(number);
+  text.append(" ").append(standardDescription(number));
+  if (number == kWindowUnusable || number == kWindowOutdated)
+    text += "\rPlease close this window and reload this form.";
+  return text;
 }
 
 }  // namespace common

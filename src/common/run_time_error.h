@@ -12,6 +12,8 @@ enum ErrorNumber : int {
   kOverflow = 6,
   kDivisionByZero = 11,
   kTypeMismatch = 13,
+  kWindowUnusable = 3020,
+  kWindowOutdated = 3021,
 };
 
 /// An error met while a handler computes: it ends the handler, whose trap reports it.
@@ -28,7 +30,8 @@ class RunTimeError : public std::exception {
 /// The standard description of a run-time error, such as "Type mismatch" for 13.
 std::string_view standardDescription(int number);
 
-/// The line that both windows report: "Error:13 Type mismatch".
+/// What both windows report: "Error:13 Type mismatch". After an error that makes a window unusable
+/// a second line advises a fresh one.
 std::string errorText(int number);
 
 /// Runs `body`; a run-time error ends it and goes to `report`. False when there was one.

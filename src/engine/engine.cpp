@@ -2,19 +2,8 @@
 
 namespace engine {
 
-namespace {
-
-// These say that what the window works on is gone.
-constexpr int kUpdateWithoutEdit = 3020;
-constexpr int kNoCurrentRecord = 3021;
-
-}  // namespace
-
 void Engine::ShowError(const common::RunTimeError& error) {
-  std::string text = common::errorText(error.number());
-  if (error.number() == kUpdateWithoutEdit || error.number() == kNoCurrentRecord)
-    text += "\rPlease close this window and reload this form.";
-  c_.desktop.showMessage({.text = text});
+  c_.desktop.showMessage({.text = common::errorText(error.number())});
 }
 
 void Engine::ChooseMode(int mode) {

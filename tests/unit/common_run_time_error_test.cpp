@@ -15,7 +15,11 @@ TEST(RunTimeErrorText, SaysWhatWentWrong) {
 }
 
 TEST(RunTimeErrorText, HasADescriptionForEveryOtherNumber) {
-  EXPECT_EQ(errorText(3020), "Error:3020 Application-defined or object-defined error");
+  EXPECT_EQ(errorText(4711), "Error:4711 Application-defined or object-defined error");
+  for (const int number : {3020, 3021})
+    EXPECT_EQ(errorText(number), "Error:" + std::to_string(number) +
+                                     " Application-defined or object-defined error\r"
+                                     "Please close this window and reload this form.");
 }
 
 TEST(Trap, RunsABodyWithoutAnErrorToItsEnd) {
