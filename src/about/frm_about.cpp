@@ -46,6 +46,10 @@ constexpr controls::WindowLayout kLayout = {
 
 }  // namespace
 
+ProgramVersion programVersion() {
+  return {TALLYREX_VERSION_MAJOR, TALLYREX_VERSION_MINOR, TALLYREX_VERSION_REVISION};
+}
+
 std::string versionText(const ProgramVersion& version) {
   std::string text =
       "Software Version:  " + std::to_string(version.major) + "." + std::to_string(version.minor);

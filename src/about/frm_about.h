@@ -10,10 +10,13 @@ namespace about {
 
 /// What the About box tells of the program.
 struct ProgramVersion {
-  int major = 1;
+  int major = 0;
   int minor = 0;
   int revision = 0;
 };
+
+/// The version that the build gave this program.
+ProgramVersion programVersion();
 
 /// "Software Version:  1.0"; a revision other than 0 follows.
 std::string versionText(const ProgramVersion& version);

@@ -29,7 +29,7 @@ void Application::openFinancialCalc() {
 // The box is modal: the other windows take no input while it is open.
 void Application::showAbout(std::function<void()> closed) {
   about_ =
-      std::make_unique<about::frmAbout>(desktop_, about::ProgramVersion{},
+      std::make_unique<about::frmAbout>(desktop_, about::programVersion(),
                                         [this, closed = std::move(closed)] { closeAbout(closed); });
   enableOtherWindows(false);
   about_->window().show();
