@@ -98,6 +98,8 @@ void TapeView::bringCaretIntoView() {
   firstLine_ = std::clamp(firstLine_, line - linesInView() + 1, line);
   firstLine_ = std::clamp(firstLine_, 0, std::max(0, lines_.count() - linesInView()));
   shift_ = 0;
+  // While nobody edits, the lines are read from their beginning.
+  if (!hasCaret_) return;
   const int right = clientArea().right - kMargin - kCaretWidth;
   const int x = pointOf(caret_).x;
   if (x < kMargin) {
