@@ -16,6 +16,12 @@ SUBDIRECTORY = 0x80000000
 FIXED_FILE_INFO = b"\xbd\x04\xef\xfe"
 
 
+def readings(data):
+    """The bytes of a file as text: a byte a character, and two from an even and from an odd place."""
+    return [data.decode("latin-1"), data.decode("utf-16-le", "replace"),
+            data[1:].decode("utf-16-le", "replace")]
+
+
 class PeFile:
     """The header fields, imports and resources of a program; ValueError where it is none."""
 

@@ -8,7 +8,7 @@ import unittest
 
 import packages
 import wine_account as account
-from pe_file import PeFile
+from pe_file import PeFile, readings
 
 LIBRARY = pathlib.Path(os.environ["TALLYREX_PLANTED_LIBRARY"])
 PROGRAM = pathlib.Path(os.environ["TALLYREX_PLANTED_PROGRAM"])
@@ -25,10 +25,8 @@ MAIN_WINDOW = "Tallyrex$"
 
 def names_in(data):
     """The names of libraries that a program holds, in either width of character."""
-    narrow = re.findall(FILE_NAME.encode("ascii"), data, re.IGNORECASE)
-    wide = re.findall(FILE_NAME, data.decode("utf-16-le", "replace") +
-                      data[1:].decode("utf-16-le", "replace"), re.IGNORECASE)
-    return {name.decode("ascii").lower() for name in narrow} | {name.lower() for name in wide}
+    return {name.lower() for text in readings(data)
+            for name in re.findall(FILE_NAME, text, re.IGNORECASE)}
 
 
 class PlantedFiles(unittest.TestCase):
