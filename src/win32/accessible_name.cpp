@@ -1,16 +1,36 @@
+#include <initguid.h>
+
 #include "win32/accessible_name.h"
+
+#include <oleacc.h>
+
+#include <utility>
 
 #include "win32/text.h"
 
 namespace win32 {
 
-// A screen reader takes the label in front of a box for its name, also a hidden one. It goes with
-// the window.
-void giveAccessibleName(HWND box, std::string_view name) {
-  if (name.empty()) return;
-  const HWND label = CreateWindowExW(0, L"STATIC", wide(name).c_str(), WS_CHILD, 0, 0, 0, 0,
+// Where names cannot be announced, a screen reader takes the label in front of the box, also a
+// hidden one. That goes with the window.
+AccessibleName::AccessibleName(HWND box, std::string_view name) : box_(box), name_(wide(name)) {
+  if (name_.empty()) return;
+  const HWND label = CreateWindowExW(0, L"STATIC", name_.c_str(), WS_CHILD, 0, 0, 0, 0,
                                      GetParent(box), nullptr, GetModuleHandleW(nullptr), nullptr);
   SetWindowPos(box, label, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+}
+
+void AccessibleName::announce() {
+  const std::wstring name = std::exchange(name_, {});
+  if (name.empty()) return;
+  CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
+  IAccPropServices* names = nullptr;
+  if (SUCCEEDED(CoCreateInstance(CLSID_AccPropServices, nullptr, CLSCTX_INPROC_SERVER,
+                                 IID_IAccPropServices, reinterpret_cast<void**>(&names)))) {
+    names->SetHwndPropStr(box_, static_cast<DWORD>(OBJID_CLIENT), CHILDID_SELF, PROPID_ACC_NAME,
+                          name.c_str());
+    names->Release();
+  }
+  CoUninitialize();
 }
 
 }  // namespace win32

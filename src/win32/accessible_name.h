@@ -2,12 +2,23 @@
 
 #include <windows.h>
 
+#include <string>
 #include <string_view>
 
 namespace win32 {
 
-/// Gives a box without a visible label in front of it a name for screen readers. An empty name
-/// leaves it to the label.
-void giveAccessibleName(HWND box, std::string_view name);
+/// The name by which screen readers know a box that has no visible label in front of it.
+class AccessibleName {
+ public:
+  /// An empty name leaves it to the label.
+  AccessibleName(HWND box, std::string_view name);
+
+  /// A screen reader asks for the box for the first time.
+  void announce();
+
+ private:
+  HWND box_;
+  std::wstring name_;
+};
 
 }  // namespace win32

@@ -17,6 +17,11 @@ LRESULT Button::customDraw(NMCUSTOMDRAW& draw) {
   return face_.draw(draw, false);
 }
 
+void Button::refresh() {
+  face_.refresh();
+  Native::refresh();
+}
+
 ToggleButton::ToggleButton(Window& frame, const controls::ControlLayout& layout)
     : Native(frame, layout, {L"BUTTON", BS_CHECKBOX | BS_PUSHLIKE}), face_(frame, *this) {
   putText();
@@ -28,6 +33,11 @@ void ToggleButton::takeNotification(UINT code) {
 
 LRESULT ToggleButton::customDraw(NMCUSTOMDRAW& draw) {
   return face_.draw(draw, value() == 1);
+}
+
+void ToggleButton::refresh() {
+  face_.refresh();
+  Native::refresh();
 }
 
 void ToggleButton::showValue() {

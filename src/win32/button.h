@@ -13,6 +13,7 @@ class Button : public Native<controls::Button> {
 
   void takeNotification(UINT code) override;
   LRESULT customDraw(NMCUSTOMDRAW& draw) override;
+  void refresh() override;
 
  protected:
   std::wstring windowText() const override { return keyName(*this); }
@@ -28,6 +29,7 @@ class ToggleButton : public Native<controls::ToggleButton> {
 
   void takeNotification(UINT code) override;
   LRESULT customDraw(NMCUSTOMDRAW& draw) override;
+  void refresh() override;
 
  protected:
   std::wstring windowText() const override { return keyName(*this); }

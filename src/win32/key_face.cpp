@@ -50,11 +50,19 @@ std::wstring keyName(const controls::Control& key) {
 
 KeyFace::KeyFace(Window& frame, const controls::Control& key)
     : frame_(frame), key_(key), face_(wide(key.layout().face)) {
-  if (key.layout().icon.empty()) return;
-  const int size = MulDiv(kIconSize, frame.scale().dpi(), 96);
-  const std::wstring picture = L"KEY_" + wide(key.layout().icon);
+  refresh();
+}
+
+void KeyFace::refresh() {
+  if (key_.layout().icon.empty()) return;
+  const int size = iconSize();
+  const std::wstring picture = L"KEY_" + wide(key_.layout().icon);
   icon_.reset(static_cast<HICON>(LoadImageW(GetModuleHandleW(nullptr), picture.c_str(), IMAGE_ICON,
                                             size, size, LR_DEFAULTCOLOR)));
+}
+
+int KeyFace::iconSize() const {
+  return MulDiv(kIconSize, frame_.scale().dpi(), 96);
 }
 
 LRESULT KeyFace::draw(const NMCUSTOMDRAW& draw, bool down) {
@@ -68,38 +76,39 @@ LRESULT KeyFace::draw(const NMCUSTOMDRAW& draw, bool down) {
 }
 
 void KeyFace::drawKey(const NMCUSTOMDRAW& draw, bool down) const {
-  drawBackground(draw, down);
+  const OwnedTheme theme(OpenThemeData(draw.hdr.hwndFrom, VSCLASS_BUTTON));
+  const int state = themeState(draw, down);
+  COLORREF textColor = textColorOn(key_.backColor());
+  if (has(draw, CDIS_DISABLED)) textColor = GetSysColor(COLOR_GRAYTEXT);
+  RECT area = draw.rc;
+  if (theme) {
+    DrawThemeParentBackground(draw.hdr.hwndFrom, draw.hdc, &area);
+    DrawThemeBackground(theme.get(), draw.hdc, BP_PUSHBUTTON, state, &area, nullptr);
+    if (!isTinted()) GetThemeColor(theme.get(), BP_PUSHBUTTON, state, TMT_TEXTCOLOR, &textColor);
+  } else {
+    DrawFrameControl(draw.hdc, &area, DFC_BUTTON, classicState(draw, down));
+  }
   tint(draw);
   if (icon_) {
     drawIcon(draw);
   } else {
-    drawText(draw);
+    drawText(draw, textColor);
   }
-  if (!has(draw, CDIS_FOCUS)) return;
+  if (has(draw, CDIS_FOCUS)) drawFocus(draw);
+}
+
+void KeyFace::drawFocus(const NMCUSTOMDRAW& draw) {
   constexpr int kInset = 3;
   RECT inside = draw.rc;
   InflateRect(&inside, -kInset, -kInset);
   DrawFocusRect(draw.hdc, &inside);
 }
 
-void KeyFace::drawBackground(const NMCUSTOMDRAW& draw, bool down) const {
-  const OwnedTheme theme(OpenThemeData(draw.hdr.hwndFrom, VSCLASS_BUTTON));
-  RECT area = draw.rc;
-  if (theme) {
-    DrawThemeParentBackground(draw.hdr.hwndFrom, draw.hdc, &area);
-    DrawThemeBackground(theme.get(), draw.hdc, BP_PUSHBUTTON, themeState(draw, down), &area,
-                        nullptr);
-  } else {
-    DrawFrameControl(draw.hdc, &area, DFC_BUTTON, classicState(draw, down));
-  }
-}
-
-void KeyFace::drawText(const NMCUSTOMDRAW& draw) const {
+void KeyFace::drawText(const NMCUSTOMDRAW& draw, COLORREF color) const {
   const HGDIOBJ before =
       SelectObject(draw.hdc, frame_.fonts().fontShowing(key_.layout().font, face_));
   SetBkMode(draw.hdc, TRANSPARENT);
-  SetTextColor(draw.hdc, has(draw, CDIS_DISABLED) ? GetSysColor(COLOR_GRAYTEXT)
-                                                  : textColorOn(key_.backColor()));
+  SetTextColor(draw.hdc, color);
   constexpr UINT kFormat = DT_CENTER | DT_NOPREFIX;
   RECT needed = {0, 0, draw.rc.right - draw.rc.left, 0};
   DrawTextW(draw.hdc, face_.c_str(), -1, &needed, kFormat | DT_CALCRECT);
@@ -110,7 +119,7 @@ void KeyFace::drawText(const NMCUSTOMDRAW& draw) const {
 }
 
 void KeyFace::drawIcon(const NMCUSTOMDRAW& draw) const {
-  const int size = MulDiv(kIconSize, frame_.scale().dpi(), 96);
+  const int size = iconSize();
   const int left = draw.rc.left + (draw.rc.right - draw.rc.left - size) / 2;
   const int top = draw.rc.top + (draw.rc.bottom - draw.rc.top - size) / 2;
   if (has(draw, CDIS_DISABLED)) {
@@ -121,10 +130,14 @@ void KeyFace::drawIcon(const NMCUSTOMDRAW& draw) const {
   }
 }
 
+bool KeyFace::isTinted() const {
+  return key_.backColor() != controls::Color::buttonFace();
+}
+
 // The colour shines through what is drawn already: the style of the button stays, hot and pressed
 // included.
 void KeyFace::tint(const NMCUSTOMDRAW& draw) const {
-  if (key_.backColor() == controls::Color::buttonFace()) return;
+  if (!isTinted()) return;
   constexpr DWORD kDestinationAndPattern = 0x00A000C9;
   RECT area = draw.rc;
   InflateRect(&area, -1, -1);

@@ -23,15 +23,19 @@ class KeyFace {
  public:
   KeyFace(Window& frame, const controls::Control& key);
 
+  /// The resolution has changed.
+  void refresh();
   /// Draws what the native button does not; `down` is a toggle's.
   LRESULT draw(const NMCUSTOMDRAW& draw, bool down);
 
  private:
   bool hasOwnFace() const { return !face_.empty() || icon_; }
   void drawKey(const NMCUSTOMDRAW& draw, bool down) const;
-  void drawBackground(const NMCUSTOMDRAW& draw, bool down) const;
-  void drawText(const NMCUSTOMDRAW& draw) const;
+  void drawText(const NMCUSTOMDRAW& draw, COLORREF color) const;
   void drawIcon(const NMCUSTOMDRAW& draw) const;
+  static void drawFocus(const NMCUSTOMDRAW& draw);
+  bool isTinted() const;
+  int iconSize() const;
   void tint(const NMCUSTOMDRAW& draw) const;
 
   Window& frame_;

@@ -6,7 +6,6 @@
 
 #include <algorithm>
 
-#include "win32/accessible_name.h"
 #include "win32/colors.h"
 #include "win32/keys.h"
 #include "win32/text.h"
@@ -37,11 +36,11 @@ const wchar_t* tapeClass() {
 TapeBox::TapeBox(Window& frame, const controls::ControlLayout& layout)
     : Native(frame, layout, {tapeClass(), WS_VSCROLL, WS_EX_CLIENTEDGE}),
       view_(handle()),
-      input_(*this, *this) {
+      input_(*this, *this),
+      name_(handle(), layout.accessibleName) {
   view_.setAlignment(layout.alignment);
   view_.setFont(font());
   putColors();
-  giveAccessibleName(handle(), layout.accessibleName);
 }
 
 void TapeBox::refresh() {

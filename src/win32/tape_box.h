@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controls/text_box.h"
+#include "win32/accessible_name.h"
 #include "win32/native_control.h"
 #include "win32/tape_view.h"
 #include "win32/text_input.h"
@@ -47,6 +48,7 @@ class TapeBox : public Native<controls::TextBox> {
 
   TapeView view_;
   TextInput input_;
+  AccessibleName name_;
   // What the wheel has turned short of a line.
   int wheelRest_ = 0;
   bool dragging_ = false;

@@ -20,6 +20,7 @@ std::optional<LRESULT> TapeBox::takeEditMessage(const Message& message) {
   const int place = static_cast<int>(message.wParam);
   switch (message.id) {
     case WM_GETOBJECT:
+      name_.announce();
       if (static_cast<LONG>(message.lParam) != OBJID_QUERYCLASSNAMEIDX) return {};
       return kEditClass;
     case WM_GETFONT:

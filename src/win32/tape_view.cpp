@@ -109,13 +109,17 @@ void TapeView::bringCaretIntoView() {
   }
 }
 
-void TapeView::updateScrollBar() const {
+// The system paints the whole scroll bar for each call, also when it says nothing new.
+void TapeView::updateScrollBar() {
+  const ScrollBar wanted = {lines_.count() - 1, linesInView(), firstLine_};
+  if (scrollBar_ == wanted) return;
+  scrollBar_ = wanted;
   SCROLLINFO info = {};
   info.cbSize = sizeof info;
   info.fMask = SIF_RANGE | SIF_PAGE | SIF_POS | SIF_DISABLENOSCROLL;
-  info.nMax = lines_.count() - 1;
-  info.nPage = static_cast<UINT>(linesInView());
-  info.nPos = firstLine_;
+  info.nMax = wanted.last;
+  info.nPage = static_cast<UINT>(wanted.page);
+  info.nPos = wanted.position;
   SetScrollInfo(window_, SB_VERT, &info, TRUE);
 }
 

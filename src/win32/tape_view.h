@@ -48,9 +48,18 @@ class TapeView {
   bool hasCaret() const { return hasCaret_; }
 
  private:
+  // What the scroll bar shows.
+  struct ScrollBar {
+    int last = -1;
+    int page = 0;
+    int position = 0;
+
+    bool operator==(const ScrollBar&) const = default;
+  };
+
   void refresh();
   void bringCaretIntoView();
-  void updateScrollBar() const;
+  void updateScrollBar();
   void placeCaret() const;
   int widthOf(std::wstring_view text) const;
   int leftOf(int line) const;
@@ -71,6 +80,7 @@ class TapeView {
   COLORREF background_ = 0;
   COLORREF textColor_ = 0;
   bool hasCaret_ = false;
+  ScrollBar scrollBar_;
 };
 
 }  // namespace win32

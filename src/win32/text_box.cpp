@@ -1,6 +1,5 @@
 #include "win32/text_box.h"
 
-#include "win32/accessible_name.h"
 #include "win32/text.h"
 
 namespace win32 {
@@ -14,9 +13,10 @@ DWORD styleOf(const controls::ControlLayout& layout) {
 }  // namespace
 
 TextBox::TextBox(Window& frame, const controls::ControlLayout& layout)
-    : Native(frame, layout, {L"EDIT", styleOf(layout), WS_EX_CLIENTEDGE}), input_(*this, *this) {
+    : Native(frame, layout, {L"EDIT", styleOf(layout), WS_EX_CLIENTEDGE}),
+      input_(*this, *this),
+      name_(handle(), layout.accessibleName) {
   send(EM_SETLIMITTEXT, 0);
-  giveAccessibleName(handle(), layout.accessibleName);
 }
 
 std::optional<LRESULT> TextBox::take(const Message& message) {
@@ -35,6 +35,9 @@ std::optional<LRESULT> TextBox::take(const Message& message) {
       doubleClick();
       return result;
     }
+    case WM_GETOBJECT:
+      name_.announce();
+      return {};
     case WM_SETTEXT:
       selectAll();
       replaceSelection(narrow(reinterpret_cast<const wchar_t*>(message.lParam)));

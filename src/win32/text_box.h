@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controls/text_box.h"
+#include "win32/accessible_name.h"
 #include "win32/native_control.h"
 #include "win32/text_input.h"
 
@@ -30,6 +31,7 @@ class TextBox : public Native<controls::TextBox> {
   void store(UINT message, WPARAM wParam, const std::wstring& text);
 
   TextInput input_;
+  AccessibleName name_;
   // The text that is being changed is the program's doing.
   bool storing_ = false;
 };

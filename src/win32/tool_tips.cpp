@@ -4,13 +4,14 @@
 
 #include <commctrl.h>
 
+#include "win32/scale.h"
 #include "win32/text.h"
 
 namespace win32 {
 namespace {
 
-// Longer tips are wrapped, in pixels.
-constexpr int kWidest = 300;
+// Longer tips are wrapped.
+constexpr controls::Twips kWidest = 4500;
 
 }  // namespace
 
@@ -23,12 +24,12 @@ ToolTips::~ToolTips() {
 void ToolTips::create() {
   handle_ = CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_ALWAYSTIP, 0, 0,
                             0, 0, nullptr, nullptr, GetModuleHandleW(nullptr), nullptr);
-  SendMessageW(handle_, TTM_SETMAXTIPWIDTH, 0, kWidest);
 }
 
 void ToolTips::add(HWND control, const std::string& text) {
   if (text.empty()) return;
   if (!handle_) create();
+  SendMessageW(handle_, TTM_SETMAXTIPWIDTH, 0, Scale::of(control).toPixels(kWidest));
   std::wstring tip = wide(text);
   TTTOOLINFOW info = {};
   info.cbSize = sizeof info;

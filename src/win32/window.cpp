@@ -1,5 +1,7 @@
 #include "win32/window.h"
 
+#include <algorithm>
+
 #include "win32/button.h"
 #include "win32/desktop.h"
 #include "win32/edge.h"
@@ -32,9 +34,16 @@ ATOM registerClass(WNDPROC procedure) {
   return RegisterClassExW(&definition);
 }
 
+// A window with a button for Escape is a dialog: it is answered, not put aside.
+bool isDialog(const controls::WindowLayout& layout) {
+  return std::any_of(layout.controls.begin(), layout.controls.end(),
+                     [](const controls::ControlLayout& control) { return control.cancel; });
+}
+
 DWORD styleOf(const controls::WindowLayout& layout) {
   if (layout.resizable) return WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN;
-  return WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX | WS_CLIPCHILDREN;
+  constexpr DWORD kDialog = WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU | WS_CLIPCHILDREN;
+  return isDialog(layout) ? kDialog : kDialog | WS_MINIMIZEBOX;
 }
 
 }  // namespace

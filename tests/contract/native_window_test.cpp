@@ -1,0 +1,250 @@
+#include <windows.h>
+
+#include "contract/contract_test.h"
+#include "win32/clipboard.h"
+#include "win32/native_control.h"
+#include "win32/registry_settings.h"
+
+// What only a window on a screen can get wrong.
+namespace contract {
+
+using controls::Rect;
+using controls::Twips;
+
+namespace {
+
+HWND handleOf(controls::Window& window) {
+  return static_cast<win32::Window&>(window).handle();
+}
+
+HWND handleOf(controls::Control& control) {
+  return win32::NativeControl::of(control).handle();
+}
+
+SIZE clientSize(HWND window) {
+  RECT client;
+  GetClientRect(window, &client);
+  return {client.right, client.bottom};
+}
+
+class NativeWindow : public ContractTest {
+ protected:
+  LRESULT send(controls::Control& control, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
+    return SendMessageW(handleOf(control), message, wParam, lParam);
+  }
+  int toPixels(Twips twips) {
+    return static_cast<win32::Window&>(*window_).scale().toPixels(twips);
+  }
+};
+
+TEST_F(NativeWindow, ClientAreaIsRightAlsoWhereTheMenuTakesSeveralLines) {
+  for (const Twips width : {6200, 2280, 900, 120}) {
+    for (const Twips height : {3800, 1095, 690}) {
+      window_->setBounds({300, 300, width, height});
+      const SIZE client = clientSize(handleOf(*window_));
+      EXPECT_EQ(client.cx, toPixels(width - controls::kFrameWidth)) << width << " x " << height;
+      EXPECT_EQ(client.cy, toPixels(height - controls::kFrameHeightWithMenu))
+          << width << " x " << height;
+      EXPECT_EQ(window_->bounds(), (Rect{300, 300, width, height}));
+    }
+  }
+}
+
+TEST_F(NativeWindow, UserWhoMovesItKeepsTheDigitsOfItsSize) {
+  window_->setBounds({301, 302, 6203, 3804});
+  const HWND handle = handleOf(*window_);
+  RECT frame;
+  GetWindowRect(handle, &frame);
+  SetWindowPos(handle, nullptr, 100, frame.top, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+  EXPECT_EQ(window_->bounds(), (Rect{1500, 302, 6203, 3804}));
+}
+
+TEST_F(NativeWindow, MinimizedWindowKeepsItsPlace) {
+  const Rect before = window_->bounds();
+  window_->setState(controls::WindowState::Minimized);
+  EXPECT_TRUE(IsIconic(handleOf(*window_)));
+  EXPECT_EQ(window_->bounds(), before);
+  window_->setBounds({600, 600, 7000, 4000});
+  window_->setState(controls::WindowState::Normal);
+  EXPECT_EQ(window_->bounds(), (Rect{600, 600, 7000, 4000}));
+  EXPECT_EQ(clientSize(handleOf(*window_)).cx, toPixels(7000 - controls::kFrameWidth));
+}
+
+TEST_F(NativeWindow, AnotherResolutionScalesEverything) {
+  const SIZE buttonBefore = clientSize(handleOf(button_));
+  const Rect bounds = window_->bounds();
+  RECT suggested = {40, 40, 800, 600};
+  const int dpi = static_cast<int>(GetDpiForWindow(handleOf(*window_)));
+  SendMessageW(handleOf(*window_), WM_DPICHANGED, MAKEWPARAM(2 * dpi, 2 * dpi),
+               reinterpret_cast<LPARAM>(&suggested));
+  const SIZE client = clientSize(handleOf(*window_));
+  EXPECT_EQ(client.cx, MulDiv(bounds.width - controls::kFrameWidth, 2 * dpi, 1440));
+  EXPECT_EQ(client.cy, MulDiv(bounds.height - controls::kFrameHeightWithMenu, 2 * dpi, 1440));
+  EXPECT_NEAR(clientSize(handleOf(button_)).cx, 2 * buttonBefore.cx, 1);
+  EXPECT_EQ(window_->bounds().width, bounds.width);
+  EXPECT_EQ(window_->bounds().height, bounds.height);
+}
+
+TEST_F(NativeWindow, ModifiersAreNoKeyStrokes) {
+  first_.onKeyUp = [this](int key) { note(std::to_string(key)); };
+  for (const int key : {VK_SHIFT, VK_CONTROL, VK_CAPITAL, VK_NUMLOCK, VK_NUMLOCK, VK_CAPITAL})
+    press(key);
+  press('7', '7');
+  EXPECT_EQ(takeLog(), Log{std::to_string('7')});
+}
+
+TEST_F(NativeWindow, DecimalKeyOfTheKeypadTypesAPoint) {
+  PostMessageW(handleOf(first_), WM_KEYDOWN, VK_DECIMAL, 1);
+  PostMessageW(handleOf(first_), WM_KEYUP, VK_DECIMAL, 1);
+  kind_->settle();
+  EXPECT_EQ(first_.text(), ".");
+}
+
+TEST_F(NativeWindow, CharacterInTwoUnitsIsTypedAsOne) {
+  first_.onChange = [this](controls::ChangedBy) { note("change"); };
+  send(first_, WM_CHAR, 0xD83D);
+  send(first_, WM_CHAR, 0xDE00);
+  EXPECT_EQ(first_.text(), "\xF0\x9F\x98\x80");
+  EXPECT_EQ(first_.selStart(), 2);
+  EXPECT_EQ(takeLog(), Log{"change"});
+}
+
+TEST_F(NativeWindow, TextThatAScreenReaderPutsInIsAnEdit) {
+  for (controls::TextBox* box : {&first_, &tape_}) {
+    box->setText("old");
+    box->onChange = [this](controls::ChangedBy by) {
+      note(by == controls::ChangedBy::User ? "user" : "program");
+    };
+    send(*box, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(L"new"));
+    EXPECT_EQ(box->text(), "new");
+    send(*box, EM_SETSEL, 0, 1);
+    send(*box, EM_REPLACESEL, FALSE, reinterpret_cast<LPARAM>(L"f"));
+    EXPECT_EQ(box->text(), "few");
+    send(*box, WM_UNDO);
+    EXPECT_EQ(box->text(), "new");
+    EXPECT_EQ(takeLog(), (Log{"user", "user", "user"}));
+  }
+}
+
+TEST_F(NativeWindow, KeysOfTheClipboardWorkInEveryBox) {
+  for (controls::TextBox* box : {&first_, &tape_}) {
+    box->setText("12345");
+    box->setFocus();
+    box->select(1, 3);
+    send(*box, WM_COPY);
+    EXPECT_EQ(kind_->desktop().clipboardText(), "234");
+    send(*box, WM_CUT);
+    EXPECT_EQ(box->text(), "15");
+    send(*box, WM_PASTE);
+    EXPECT_EQ(box->text(), "12345");
+  }
+}
+
+class NativeTape : public NativeWindow {
+ protected:
+  void fill(int lines) {
+    for (int line = 0; line < lines; ++line) tape_.append(std::to_string(line) + "\r\n");
+  }
+  int firstLine() { return static_cast<int>(send(tape_, EM_GETFIRSTVISIBLELINE)); }
+  bool isInView(int place) {
+    const LRESULT point = send(tape_, EM_POSFROMCHAR, static_cast<WPARAM>(place));
+    const int y = static_cast<short>(HIWORD(point));
+    return y >= 0 && y < clientSize(handleOf(tape_)).cy;
+  }
+};
+
+TEST_F(NativeTape, LastLineIsInViewAfterAppending) {
+  fill(200);
+  EXPECT_TRUE(isInView(tape_.length()));
+  EXPECT_FALSE(isInView(0));
+}
+
+TEST_F(NativeTape, ClickPlacesTheCaretWhereTheUserSawTheText) {
+  fill(200);
+  tape_.onGotFocus = [this] { tape_.moveCaretToEnd(); };
+  send(tape_, WM_VSCROLL, SB_TOP);
+  ASSERT_EQ(firstLine(), 0);
+  const LRESULT place = send(tape_, EM_POSFROMCHAR, static_cast<WPARAM>(3));
+  send(tape_, WM_LBUTTONDOWN, MK_LBUTTON, place);
+  send(tape_, WM_LBUTTONUP, 0, place);
+  EXPECT_TRUE(tape_.focused());
+  EXPECT_EQ(tape_.selStart(), 3);
+  EXPECT_EQ(firstLine(), 0);
+}
+
+TEST_F(NativeTape, RightAlignedLinesEndAtOneEdge) {
+  tape_.setText("1\r\n100");
+  const LRESULT first = send(tape_, EM_POSFROMCHAR, 1);
+  const LRESULT second = send(tape_, EM_POSFROMCHAR, 6);
+  EXPECT_EQ(LOWORD(first), LOWORD(second));
+  tape_.setAlignment(controls::Alignment::Left);
+  EXPECT_EQ(LOWORD(send(tape_, EM_POSFROMCHAR, 0)), LOWORD(send(tape_, EM_POSFROMCHAR, 3)));
+}
+
+TEST_F(NativeTape, AnswersWhatAScreenReaderAsks) {
+  tape_.setText("Top\r\n12.00 + \r\n");
+  EXPECT_EQ(send(tape_, WM_GETTEXTLENGTH), 15);
+  EXPECT_EQ(send(tape_, EM_GETLINECOUNT), 3);
+  EXPECT_EQ(send(tape_, EM_LINEINDEX, 1), 5);
+  EXPECT_EQ(send(tape_, EM_LINELENGTH, 5), 8);
+  EXPECT_EQ(send(tape_, EM_LINEFROMCHAR, 7), 1);
+  wchar_t text[32] = {};
+  EXPECT_EQ(send(tape_, WM_GETTEXT, 5, reinterpret_cast<LPARAM>(text)), 4);
+  EXPECT_STREQ(text, L"Top\r");
+}
+
+TEST(NativeServices, SettingsHoldLongTexts) {
+  win32::RegistrySettings settings("Software\\Tallyrex Contract Tests\\Long");
+  const std::string text(70'000, 'x');
+  settings.write("Settings", "long", text);
+  EXPECT_EQ(settings.read("Settings", "long"), text);
+  EXPECT_EQ(settings.read("Settings", "absent"), std::nullopt);
+  RegDeleteTreeW(HKEY_CURRENT_USER, L"Software\\Tallyrex Contract Tests");
+}
+
+TEST(NativeServices, ClipboardThatIsHeldIsReportedSoon) {
+  ASSERT_TRUE(win32::writeClipboard("kept \xE2\x88\x9A"));
+  const HANDLE held = CreateEventW(nullptr, TRUE, FALSE, nullptr);
+  const HANDLE done = CreateEventW(nullptr, TRUE, FALSE, nullptr);
+  HANDLE events[] = {held, done};
+  const HANDLE holder = CreateThread(
+      nullptr, 0,
+      [](void* both) -> DWORD {
+        const HWND window = CreateWindowExW(0, L"STATIC", nullptr, 0, 0, 0, 0, 0, HWND_MESSAGE,
+                                            nullptr, nullptr, nullptr);
+        OpenClipboard(window);
+        SetEvent(static_cast<HANDLE*>(both)[0]);
+        WaitForSingleObject(static_cast<HANDLE*>(both)[1], INFINITE);
+        CloseClipboard();
+        return 0;
+      },
+      events, 0, nullptr);
+  WaitForSingleObject(held, INFINITE);
+  const ULONGLONG start = GetTickCount64();
+  EXPECT_FALSE(win32::writeClipboard("other"));
+  EXPECT_LT(GetTickCount64() - start, 1000u);
+  SetEvent(done);
+  WaitForSingleObject(holder, INFINITE);
+  for (const HANDLE handle : {held, done, holder}) CloseHandle(handle);
+  EXPECT_EQ(win32::readClipboard(), "kept \xE2\x88\x9A");
+}
+
+TEST_F(NativeWindow, GivesBackWhatItTook) {
+  const auto makeAndDestroy = [this](int times) {
+    for (int i = 0; i < times; ++i) {
+      const auto other = kind_->desktop().createWindow(testLayout());
+      other->show();
+      kind_->settle();
+    }
+  };
+  makeAndDestroy(2);
+  const DWORD gdi = GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS);
+  const DWORD user = GetGuiResources(GetCurrentProcess(), GR_USEROBJECTS);
+  makeAndDestroy(10);
+  EXPECT_EQ(GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS), gdi);
+  EXPECT_EQ(GetGuiResources(GetCurrentProcess(), GR_USEROBJECTS), user);
+}
+
+}  // namespace
+
+}  // namespace contract
