@@ -23,17 +23,9 @@ int positionOf(const controls::Window& window, const controls::MenuItem& item) {
   return position;
 }
 
-bool isGrey(HMENU menu, int position) {
-  const UINT state = GetMenuState(menu, static_cast<UINT>(position), MF_BYPOSITION);
+bool isGrey(const MenuPlace& place) {
+  const UINT state = GetMenuState(place.menu, static_cast<UINT>(place.position), MF_BYPOSITION);
   return (state & (MF_GRAYED | MF_DISABLED)) != 0;
-}
-
-// Of the menu that an item opens; nothing when it cannot be opened.
-HMENU menuOf(const controls::Window& window, const controls::MenuItem* opener) {
-  if (!opener) return GetMenu(handleOf(window));
-  HMENU menu = menuOf(window, opener->parent());
-  const int position = positionOf(window, *opener);
-  return menu && !isGrey(menu, position) ? GetSubMenu(menu, position) : nullptr;
 }
 
 }  // namespace
@@ -46,10 +38,20 @@ HWND handleOf(controls::Control& control) {
   return win32::NativeControl::of(control).handle();
 }
 
-UINT commandOf(const controls::Window& window, const controls::MenuItem& item) {
-  HMENU menu = menuOf(window, item.parent());
+MenuPlace placeOf(const controls::Window& window, const controls::MenuItem& item) {
   const int position = positionOf(window, item);
-  return menu && !isGrey(menu, position) ? GetMenuItemID(menu, position) : 0;
+  if (!item.parent()) return {GetMenu(handleOf(window)), position};
+  const MenuPlace opener = placeOf(window, *item.parent());
+  return {GetSubMenu(opener.menu, opener.position), position};
+}
+
+std::vector<MenuPlace> wayTo(const controls::Window& window, const controls::MenuItem& item) {
+  std::vector<MenuPlace> way;
+  for (const controls::MenuItem* step = &item; step; step = step->parent()) {
+    way.insert(way.begin(), placeOf(window, *step));
+    if (isGrey(way.front())) return {};
+  }
+  return way;
 }
 
 }  // namespace driver

@@ -2,6 +2,8 @@
 
 #include <windows.h>
 
+#include <vector>
+
 #include "controls/window.h"
 
 namespace driver {
@@ -9,8 +11,15 @@ namespace driver {
 HWND handleOf(const controls::Window& window);
 HWND handleOf(controls::Control& control);
 
-/// The command that the menu of the window sends for an item. 0 when the item, or a menu that holds
-/// it, is grey on the screen.
-UINT commandOf(const controls::Window& window, const controls::MenuItem& item);
+/// An item of a menu on the screen.
+struct MenuPlace {
+  HMENU menu;
+  int position;
+};
+
+MenuPlace placeOf(const controls::Window& window, const controls::MenuItem& item);
+/// The items that lead to an item of the window's menu, from the bar down, and the item itself.
+/// Nothing when one of them is grey.
+std::vector<MenuPlace> wayTo(const controls::Window& window, const controls::MenuItem& item);
 
 }  // namespace driver

@@ -1,13 +1,14 @@
 #include "driver/native_mouse.h"
 
 #include <iterator>
+#include <string_view>
 
 namespace driver {
 
 namespace {
 
 // The window class of menus, and the message that asks one for its handle.
-constexpr wchar_t kMenuClass[] = L"#32768";
+constexpr std::wstring_view kMenuClass = L"#32768";
 constexpr UINT kGetMenuHandle = 0x01E1;
 
 // The mouse reaches from 0 to this over the whole screen.
@@ -27,6 +28,24 @@ INPUT buttonInput(MouseButton button, bool up) {
     input.mi.dwFlags = up ? MOUSEEVENTF_RIGHTUP : MOUSEEVENTF_RIGHTDOWN;
   }
   return input;
+}
+
+// The menu that an open menu's window shows; nothing for any other window.
+HMENU menuIn(HWND window) {
+  wchar_t name[16] = L"";
+  GetClassNameW(window, name, static_cast<int>(std::size(name)));
+  if (name != kMenuClass) return nullptr;
+  return reinterpret_cast<HMENU>(SendMessageW(window, kGetMenuHandle, 0, 0));
+}
+
+HWND findOpenMenu() {
+  HWND menu = nullptr;
+  while ((menu = FindWindowExW(nullptr, menu, kMenuClass.data(), nullptr)) != nullptr) {
+    DWORD process = 0;
+    GetWindowThreadProcessId(menu, &process);
+    if (process == GetCurrentProcessId() && IsWindowVisible(menu)) break;
+  }
+  return menu;
 }
 
 POINT middleOf(const RECT& rect) {
@@ -58,27 +77,29 @@ bool placeToClick(HWND control, POINT& place) {
   return WindowFromPoint(place) == control;
 }
 
-HWND findShortcutMenu() {
-  HWND menu = nullptr;
-  while ((menu = FindWindowExW(nullptr, menu, kMenuClass, nullptr)) != nullptr) {
-    DWORD process = 0;
-    GetWindowThreadProcessId(menu, &process);
-    if (process == GetCurrentProcessId() && IsWindowVisible(menu)) return menu;
-  }
-  return nullptr;
+bool placeInBar(HWND window, const MenuPlace& item, POINT& place) {
+  RECT rect = {};
+  if (!GetMenuItemRect(window, item.menu, static_cast<UINT>(item.position), &rect)) return false;
+  place = middleOf(rect);
+  return WindowFromPoint(place) == window;
 }
 
-bool placeOfMenuItem(HWND menuWindow, std::wstring_view caption, POINT& place) {
-  const auto menu = reinterpret_cast<HMENU>(SendMessageW(menuWindow, kGetMenuHandle, 0, 0));
-  for (UINT i = 0; i < static_cast<UINT>(GetMenuItemCount(menu)); ++i) {
-    wchar_t text[64] = L"";
-    GetMenuStringW(menu, i, text, static_cast<int>(std::size(text)), MF_BYPOSITION);
-    if (text != caption) continue;
-    if ((GetMenuState(menu, i, MF_BYPOSITION) & (MF_GRAYED | MF_DISABLED)) != 0) return false;
-    RECT rect = {};
-    if (!GetMenuItemRect(nullptr, menu, i, &rect)) return false;
-    place = middleOf(rect);
-    return true;
+bool placeInMenu(const MenuPlace& item, POINT& place) {
+  RECT rect = {};
+  if (!GetMenuItemRect(nullptr, item.menu, static_cast<UINT>(item.position), &rect)) return false;
+  place = middleOf(rect);
+  return menuIn(WindowFromPoint(place)) == item.menu;
+}
+
+bool placeOfPaste(POINT& place) {
+  HWND window = findOpenMenu();
+  if (!window) return false;
+  HMENU menu = menuIn(window);
+  for (int i = 0; i < GetMenuItemCount(menu); ++i) {
+    wchar_t text[16] = L"";
+    GetMenuStringW(menu, static_cast<UINT>(i), text, static_cast<int>(std::size(text)),
+                   MF_BYPOSITION);
+    if (std::wstring_view(text) == L"&Paste") return placeInMenu({menu, i}, place);
   }
   return false;
 }

@@ -2,8 +2,9 @@
 
 #include <windows.h>
 
-#include <string_view>
 #include <vector>
+
+#include "driver/native_handles.h"
 
 namespace driver {
 
@@ -18,10 +19,12 @@ std::vector<INPUT> mouseInputs(POINT place, MouseButton button, bool up, ULONG_P
 /// beyond the screen, or behind another window.
 bool placeToClick(HWND control, POINT& place);
 
-/// The open shortcut menu of this process; none without one.
-HWND findShortcutMenu();
-/// The middle of the item of an open menu with that caption. False when there is none that can be
-/// chosen.
-bool placeOfMenuItem(HWND menuWindow, std::wstring_view caption, POINT& place);
+/// The middle of an item of a window's menu bar; false when a click there would not reach it. The
+/// middle of an item of a menu that is open; false when it is not.
+bool placeInBar(HWND window, const MenuPlace& item, POINT& place);
+bool placeInMenu(const MenuPlace& item, POINT& place);
+/// The item of the open shortcut menu of a text box that pastes. False when there is none that can
+/// be chosen.
+bool placeOfPaste(POINT& place);
 
 }  // namespace driver

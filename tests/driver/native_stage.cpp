@@ -6,6 +6,7 @@
 #include "driver/command.h"
 #include "driver/native_clipboard.h"
 #include "driver/native_handles.h"
+#include "driver/native_screen.h"
 #include "driver/native_settings.h"
 #include "win32/message_loop.h"
 
@@ -78,7 +79,7 @@ void NativeStage::settle() {
       // The box itself may have let the mark pass: the handler behind it goes on from here.
       ui_.post([] {});
     } else if (reached) {
-      return;
+      return checkScreen();
     }
     const ULONGLONG now = GetTickCount64();
     if (now - start > kPatience) throw CommandError("the program does not answer");
@@ -86,6 +87,18 @@ void NativeStage::settle() {
     marked = now;
     remark();
   }
+}
+
+// What is answered is what the program believes to show; here it proves to be what is seen.
+void NativeStage::checkScreen() {
+  std::string difference;
+  inspect([&] {
+    for (const auto name : {"frmCalc", "frmAnnuity", "frmAbout"}) {
+      const controls::Window* window = findWindow(name);
+      if (window && difference.empty()) difference = differenceOnScreen(*window);
+    }
+  });
+  if (!difference.empty()) throw CommandError("on the screen: " + difference);
 }
 
 // A mark is lost when no window of the program was there to take it.

@@ -61,10 +61,12 @@ class NativeStage : public Stage {
   void send(std::vector<INPUT> inputs);
   void settle();
   void remark();
+  void checkScreen();
   void clearAway();
   void putInFront(const controls::Window& window);
   void putProgramInFront();
   void clickWithMouse(controls::Control& control, int times);
+  bool chooseByMouse(const std::vector<MenuPlace>& way, POINT place);
   void clickAt(POINT place, MouseButton button);
   void moveButton(POINT place, MouseButton button, bool up);
 

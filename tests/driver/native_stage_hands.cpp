@@ -9,6 +9,7 @@ namespace driver {
 namespace {
 
 constexpr int kTriesOfMouse = 20;
+constexpr int kTriesOfMenu = 5;
 
 }  // namespace
 
@@ -83,26 +84,45 @@ void NativeStage::mousePaste(controls::TextBox& box, const std::string& text) {
   POINT place = {};
   if (!placeToClick(handle, place)) throw CommandError("the mouse does not reach the box");
   clickAt(place, MouseButton::Right);
-  HWND menu = findShortcutMenu();
-  if (!menu) throw CommandError("the box has no shortcut menu");
-  bool found = false;
-  inspect([&] { found = placeOfMenuItem(menu, L"&Paste", place); });
-  if (!found) throw CommandError("nothing can be pasted");
+  if (!placeOfPaste(place)) {
+    deliver(handle, WM_CANCELMODE, 0, 0);
+    throw CommandError("nothing can be pasted");
+  }
   clickAt(place, MouseButton::Left);
   setClipboard(before);
 }
 
-// The command of the item, which its menu sends however it was chosen.
+// A menu whose bar the mouse cannot reach sends the command that it would have sent.
 void NativeStage::choose(controls::MenuItem& item) {
   const controls::Window* owner = nullptr;
-  UINT command = 0;
+  std::vector<MenuPlace> way;
   inspect([&] {
     owner = findWindow("frmCalc");
-    command = commandOf(*owner, item);
+    way = wayTo(*owner, item);
   });
-  if (command == 0) throw CommandError("grey on the screen: " + item.name());
+  if (way.empty()) throw CommandError("grey on the screen: " + item.name());
   putInFront(*owner);
-  deliver(handleOf(*owner), WM_COMMAND, command, 0);
+  HWND window = handleOf(*owner);
+  POINT place = {};
+  if (!placeInBar(window, way.front(), place)) {
+    const UINT command = GetMenuItemID(way.back().menu, way.back().position);
+    return deliver(window, WM_COMMAND, command, 0);
+  }
+  for (int i = 0; i < kTriesOfMenu; ++i) {
+    if (chooseByMouse(way, place)) return;
+    deliver(window, WM_CANCELMODE, 0, 0);
+  }
+  throw CommandError("the menu does not stay open");
+}
+
+// A mouse that moves by itself meanwhile may open another menu.
+bool NativeStage::chooseByMouse(const std::vector<MenuPlace>& way, POINT place) {
+  clickAt(place, MouseButton::Left);
+  for (std::size_t i = 1; i < way.size(); ++i) {
+    if (!placeInMenu(way[i], place)) return false;
+    clickAt(place, MouseButton::Left);
+  }
+  return true;
 }
 
 void NativeStage::close(controls::Window& window) {
