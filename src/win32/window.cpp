@@ -15,7 +15,6 @@
 namespace win32 {
 
 using controls::ControlKind;
-using controls::WindowState;
 
 namespace {
 
