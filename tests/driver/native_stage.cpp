@@ -154,7 +154,6 @@ void NativeStage::putProgramInFront() {
   if (!isInFront()) throw CommandError("the program is not in front");
 }
 
-// Sends what a key or the mouse does, and waits until the program has acted on it.
 void NativeStage::send(std::vector<INPUT> inputs) {
   if (isInFront()) inputs.push_back(ui_.nextMark());
   sendInputs(std::move(inputs));

@@ -24,6 +24,9 @@ class NativeStage : public Stage {
   void run();
   void end();
 
+  /// Sends in one call what keys and the mouse do, and waits until the program has acted on it.
+  void send(std::vector<INPUT> inputs);
+
   void inspect(const std::function<void()>& body) override { ui_.inspect(body); }
   controls::Window* findWindow(std::string_view name) override;
   bool running() override;
@@ -58,7 +61,6 @@ class NativeStage : public Stage {
  private:
   void act(const std::function<void()>& body);
   void deliver(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
-  void send(std::vector<INPUT> inputs);
   void settle();
   void remark();
   void checkScreen();

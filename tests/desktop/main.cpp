@@ -1,0 +1,20 @@
+#include <gtest/gtest.h>
+
+#include <thread>
+
+#include "desktop/desktop_test.h"
+
+// The program has the first thread, as ever; the tests are the person in front of it.
+int main(int count, char** arguments) {
+  testing::InitGoogleTest(&count, arguments);
+  driver::NativeStage stage;
+  desktop::DesktopTest::setStage(stage);
+  int result = 1;
+  std::thread person([&] {
+    result = RUN_ALL_TESTS();
+    stage.end();
+  });
+  stage.run();
+  person.join();
+  return result;
+}

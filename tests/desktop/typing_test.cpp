@@ -1,0 +1,135 @@
+#include <windows.h>
+
+#include <chrono>
+#include <string_view>
+#include <vector>
+
+#include "desktop/desktop_test.h"
+
+namespace desktop {
+namespace {
+
+using Inputs = std::vector<INPUT>;
+
+INPUT keyInput(WORD key, DWORD flags) {
+  INPUT input = {};
+  input.type = INPUT_KEYBOARD;
+  input.ki.wVk = key;
+  input.ki.wScan = static_cast<WORD>(MapVirtualKeyW(key, MAPVK_VK_TO_VSC));
+  input.ki.dwFlags = flags;
+  return input;
+}
+
+void tap(Inputs& inputs, WORD key, DWORD flags = 0) {
+  inputs.push_back(keyInput(key, flags));
+  inputs.push_back(keyInput(key, flags | KEYEVENTF_KEYUP));
+}
+
+// The keys of the keypad as their caps show them; 'E' is its Enter key.
+WORD keypadKey(char cap) {
+  switch (cap) {
+    case '+':
+      return VK_ADD;
+    case '-':
+      return VK_SUBTRACT;
+    case '*':
+      return VK_MULTIPLY;
+    case '/':
+      return VK_DIVIDE;
+    case '.':
+      return VK_DECIMAL;
+    case 'E':
+      return VK_RETURN;
+    default:
+      return static_cast<WORD>(VK_NUMPAD0 + (cap - '0'));
+  }
+}
+
+Inputs keypad(std::string_view caps) {
+  Inputs inputs;
+  for (const char cap : caps)
+    tap(inputs, keypadKey(cap), cap == 'E' || cap == '/' ? KEYEVENTF_EXTENDEDKEY : 0);
+  return inputs;
+}
+
+class TypingTest : public DesktopTest {
+ protected:
+  void press(const Inputs& inputs) { stage().send(inputs); }
+  void tapNumLock() {
+    Inputs inputs;
+    tap(inputs, VK_NUMLOCK, KEYEVENTF_EXTENDEDKEY);
+    press(inputs);
+  }
+};
+
+TEST_F(TypingTest, TwoThousandStrokesSentAtOnceArriveInOrder) {
+  constexpr int kNumbers = 500;
+  Inputs inputs;
+  std::string expected = "Top";
+  for (int number = 100; number < 100 + kNumbers; ++number) {
+    const std::string digits = std::to_string(number);
+    for (const char digit : digits) tap(inputs, static_cast<WORD>(digit));
+    tap(inputs, VK_ADD);
+    expected += "\r\n" + digits + ".00 + ";
+  }
+  press(inputs);
+  EXPECT_EQ(tape(), expected);
+}
+
+// A typist whose next key goes down before the one before it has come up.
+TEST_F(TypingTest, StrokesThatRollOverEachOtherArriveAsKeyed) {
+  Inputs inputs;
+  std::string expected = "Top";
+  WORD before = 0;
+  for (int number = 100; number < 200; ++number) {
+    const std::string digits = std::to_string(number);
+    for (const char cap : digits + "+") {
+      const WORD key = cap == '+' ? WORD{VK_ADD} : static_cast<WORD>(cap);
+      // A key that is struck twice has to come up in between.
+      if (key == before) inputs.push_back(keyInput(before, KEYEVENTF_KEYUP));
+      inputs.push_back(keyInput(key, 0));
+      if (before != 0 && key != before) inputs.push_back(keyInput(before, KEYEVENTF_KEYUP));
+      before = key;
+    }
+    expected += "\r\n" + digits + ".00 + ";
+  }
+  inputs.push_back(keyInput(before, KEYEVENTF_KEYUP));
+  press(inputs);
+  EXPECT_EQ(tape(), expected);
+}
+
+TEST_F(TypingTest, KeypadTypesWhatItsCapsShowWithNumLock) {
+  press(keypad("1234567890.25"));
+  EXPECT_EQ(entry(), "1,234,567,890.25");
+}
+
+TEST_F(TypingTest, KeypadCalculatesWithNumLock) {
+  press(keypad("12.5+3-E"));
+  EXPECT_EQ(tape(), "Top\r\n12.50 + \r\n3.00 - \r\n9.50 * \r\n");
+}
+
+TEST_F(TypingTest, OperatorsOfTheKeypadNeedNoNumLock) {
+  tapNumLock();
+  tell("type \"12\"");
+  press(keypad("+"));
+  tell("type \"3\"");
+  press(keypad("-"));
+  press(keypad("E"));
+  tapNumLock();
+  EXPECT_EQ(tape(), "Top\r\n12.00 + \r\n3.00 - \r\n9.00 * \r\n");
+}
+
+// Without NumLock a keyboard sends the keys that stand below the digits on their caps.
+TEST_F(TypingTest, DigitsOfTheKeypadMoveTheCaretWithoutNumLock) {
+  tapNumLock();
+  tell("type \"12\"");
+  Inputs inputs;
+  tap(inputs, VK_HOME);
+  press(inputs);
+  tell("type \"9\"");
+  tapNumLock();
+  EXPECT_EQ(entry(), "912");
+}
+
+}  // namespace
+}  // namespace desktop
