@@ -1,63 +1,15 @@
-#include <windows.h>
-
-#include <chrono>
-#include <string_view>
-#include <vector>
-
 #include "desktop/desktop_test.h"
+#include "desktop/input.h"
 
 namespace desktop {
 namespace {
-
-using Inputs = std::vector<INPUT>;
-
-INPUT keyInput(WORD key, DWORD flags) {
-  INPUT input = {};
-  input.type = INPUT_KEYBOARD;
-  input.ki.wVk = key;
-  input.ki.wScan = static_cast<WORD>(MapVirtualKeyW(key, MAPVK_VK_TO_VSC));
-  input.ki.dwFlags = flags;
-  return input;
-}
-
-void tap(Inputs& inputs, WORD key, DWORD flags = 0) {
-  inputs.push_back(keyInput(key, flags));
-  inputs.push_back(keyInput(key, flags | KEYEVENTF_KEYUP));
-}
-
-// The keys of the keypad as their caps show them; 'E' is its Enter key.
-WORD keypadKey(char cap) {
-  switch (cap) {
-    case '+':
-      return VK_ADD;
-    case '-':
-      return VK_SUBTRACT;
-    case '*':
-      return VK_MULTIPLY;
-    case '/':
-      return VK_DIVIDE;
-    case '.':
-      return VK_DECIMAL;
-    case 'E':
-      return VK_RETURN;
-    default:
-      return static_cast<WORD>(VK_NUMPAD0 + (cap - '0'));
-  }
-}
-
-Inputs keypad(std::string_view caps) {
-  Inputs inputs;
-  for (const char cap : caps)
-    tap(inputs, keypadKey(cap), cap == 'E' || cap == '/' ? KEYEVENTF_EXTENDEDKEY : 0);
-  return inputs;
-}
 
 class TypingTest : public DesktopTest {
  protected:
   void press(const Inputs& inputs) { stage().send(inputs); }
   void tapNumLock() {
     Inputs inputs;
-    tap(inputs, VK_NUMLOCK, KEYEVENTF_EXTENDEDKEY);
+    tap(inputs, VK_NUMLOCK);
     press(inputs);
   }
 };
@@ -86,14 +38,14 @@ TEST_F(TypingTest, StrokesThatRollOverEachOtherArriveAsKeyed) {
     for (const char cap : digits + "+") {
       const WORD key = cap == '+' ? WORD{VK_ADD} : static_cast<WORD>(cap);
       // A key that is struck twice has to come up in between.
-      if (key == before) inputs.push_back(keyInput(before, KEYEVENTF_KEYUP));
-      inputs.push_back(keyInput(key, 0));
-      if (before != 0 && key != before) inputs.push_back(keyInput(before, KEYEVENTF_KEYUP));
+      if (key == before) keyUp(inputs, before);
+      keyDown(inputs, key);
+      if (before != 0 && key != before) keyUp(inputs, before);
       before = key;
     }
     expected += "\r\n" + digits + ".00 + ";
   }
-  inputs.push_back(keyInput(before, KEYEVENTF_KEYUP));
+  keyUp(inputs, before);
   press(inputs);
   EXPECT_EQ(tape(), expected);
 }

@@ -1,7 +1,6 @@
 #include "driver/native_keyboard.h"
 
 #include <algorithm>
-#include <utility>
 
 namespace driver {
 
@@ -28,6 +27,11 @@ INPUT characterInput(WORD character, bool up) {
   return input;
 }
 
+void tap(WORD key, NativeKeyboard::Inputs& inputs) {
+  inputs.push_back(keyInput(key, false));
+  inputs.push_back(keyInput(key, true));
+}
+
 void holdKey(WORD key, bool& held, bool wanted, NativeKeyboard::Inputs& inputs) {
   if (held == wanted) return;
   held = wanted;
@@ -39,20 +43,22 @@ void holdKey(WORD key, bool& held, bool wanted, NativeKeyboard::Inputs& inputs) 
 NativeKeyboard::NativeKeyboard()
     : numLockSwitched_(setLock(VK_NUMLOCK, true)), capsLockSwitched_(setLock(VK_CAPITAL, false)) {}
 
+// Also when a command has failed half-way, no key stays down.
 NativeKeyboard::~NativeKeyboard() {
-  for (const auto& [key, switched] :
-       {std::pair{VK_NUMLOCK, numLockSwitched_}, std::pair{VK_CAPITAL, capsLockSwitched_}}) {
-    if (!switched) continue;
-    INPUT tap[] = {keyInput(static_cast<WORD>(key), false), keyInput(static_cast<WORD>(key), true)};
-    SendInput(2, tap, sizeof(INPUT));
-  }
+  Inputs inputs;
+  for (const Press& press : pressed_) inputs.push_back(input(press.key, true));
+  hold({}, inputs);
+  if (numLockSwitched_) tap(VK_NUMLOCK, inputs);
+  if (capsLockSwitched_) tap(VK_CAPITAL, inputs);
+  SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT));
 }
 
 // Tells whether it had to be switched.
 bool NativeKeyboard::setLock(WORD key, bool on) {
   if (((GetKeyState(key) & 1) != 0) == on) return false;
-  INPUT tap[] = {keyInput(key, false), keyInput(key, true)};
-  SendInput(2, tap, sizeof(INPUT));
+  Inputs inputs;
+  tap(key, inputs);
+  SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT));
   return true;
 }
 

@@ -26,6 +26,8 @@ class NativeStage : public Stage {
 
   /// Sends in one call what keys and the mouse do, and waits until the program has acted on it.
   void send(std::vector<INPUT> inputs);
+  /// Drags with the left button from one place of the screen to another.
+  void drag(POINT from, POINT to);
 
   void inspect(const std::function<void()>& body) override { ui_.inspect(body); }
   controls::Window* findWindow(std::string_view name) override;

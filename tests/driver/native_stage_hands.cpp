@@ -47,6 +47,11 @@ void NativeStage::moveButton(POINT place, MouseButton button, bool up) {
   throw CommandError("the mouse does not stay where it is put");
 }
 
+void NativeStage::drag(POINT from, POINT to) {
+  moveButton(from, MouseButton::Left, false);
+  moveButton(to, MouseButton::Left, true);
+}
+
 // A control that the mouse cannot reach, since it lies outside the window or the screen, gets the
 // messages that the mouse would have sent.
 void NativeStage::clickWithMouse(controls::Control& control, int times) {

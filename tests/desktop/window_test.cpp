@@ -1,0 +1,105 @@
+#include <iterator>
+
+#include "desktop/desktop_test.h"
+#include "desktop/input.h"
+#include "driver/native_handles.h"
+
+namespace desktop {
+namespace {
+
+constexpr int kTwipsPerInch = 1440;
+
+class WindowTest : public DesktopTest {
+ protected:
+  HWND mainWindow() {
+    HWND handle = nullptr;
+    stage().inspect([&] { handle = driver::handleOf(*stage().findWindow("frmCalc")); });
+    return handle;
+  }
+
+  HWND handleOf(const std::string& control) {
+    HWND handle = nullptr;
+    stage().inspect(
+        [&] { handle = driver::handleOf(stage().findWindow("frmCalc")->control(control)); });
+    return handle;
+  }
+
+  void press(WORD held, WORD key) {
+    Inputs inputs;
+    keyDown(inputs, held);
+    tap(inputs, key);
+    keyUp(inputs, held);
+    stage().send(inputs);
+  }
+
+  int twips(int pixels) { return MulDiv(pixels, kTwipsPerInch, static_cast<int>(dpi())); }
+  UINT dpi() { return GetDpiForWindow(mainWindow()); }
+
+  /// Of the next command, when something was changed behind the program's back.
+  std::string errorOfNextCommand() {
+    driver::Driver driver(stage());
+    const auto answer = driver::Json::parse(driver.answer("press Home"));
+    return answer.value("error", "");
+  }
+};
+
+TEST_F(WindowTest, MenusOpenWithTheirAccessKeys) {
+  press(VK_MENU, 'W');
+  Inputs inputs;
+  tap(inputs, 'P');
+  stage().send(inputs);
+  EXPECT_EQ(tell("get mnuWinPadTape Checked")["value"], true);
+}
+
+TEST_F(WindowTest, AltAndF4CloseTheProgram) {
+  press(VK_MENU, VK_F4);
+  EXPECT_FALSE(stage().running());
+}
+
+TEST_F(WindowTest, DraggingItsCornerSizesItAndTheTape) {
+  constexpr int kPixels = 40;
+  const int width = tell("get frmCalc Width")["value"];
+  const int tapeWidth = tell("get txtTape Width")["value"];
+  RECT frame = {};
+  GetWindowRect(mainWindow(), &frame);
+  stage().drag({frame.right - 2, frame.bottom - 2},
+               {frame.right - 2 + kPixels, frame.bottom - 2 + kPixels});
+  EXPECT_EQ(tell("get frmCalc Width")["value"], width + twips(kPixels));
+  EXPECT_EQ(tell("get txtTape Width")["value"], tapeWidth + twips(kPixels));
+}
+
+TEST_F(WindowTest, DraggingItsTitleMovesIt) {
+  constexpr int kPixels = 60;
+  const int width = tell("get frmCalc Width")["value"];
+  RECT frame = {};
+  GetWindowRect(mainWindow(), &frame);
+  const POINT title = {(frame.left + frame.right) / 2, frame.top + 12};
+  stage().drag(title, {title.x + kPixels, title.y + kPixels});
+  EXPECT_EQ(tell("get frmCalc Left")["value"], twips(frame.left + kPixels));
+  EXPECT_EQ(tell("get frmCalc Width")["value"], width);
+}
+
+// The driver compares what it answers with the screen; each of these must be noticed.
+TEST_F(WindowTest, WhatTheScreenShowsOtherwiseIsNoticed) {
+  wchar_t title[64] = L"";
+  GetWindowTextW(mainWindow(), title, static_cast<int>(std::size(title)));
+  SetWindowTextW(mainWindow(), L"another title");
+  EXPECT_EQ(errorOfNextCommand(), "on the screen: frmCalc shows wrongly its caption");
+  SetWindowTextW(mainWindow(), title);
+  ShowWindow(handleOf("cmdPlus"), SW_HIDE);
+  EXPECT_EQ(errorOfNextCommand(), "on the screen: cmdPlus shows wrongly whether it is visible");
+  ShowWindow(handleOf("cmdPlus"), SW_SHOWNA);
+  EnableWindow(handleOf("cmdPlus"), FALSE);
+  EXPECT_EQ(errorOfNextCommand(), "on the screen: cmdPlus shows wrongly whether it is enabled");
+  EnableWindow(handleOf("cmdPlus"), TRUE);
+  SendMessageW(handleOf("chkTapeOff"), BM_SETCHECK, BST_CHECKED, 0);
+  EXPECT_EQ(errorOfNextCommand(), "on the screen: chkTapeOff shows wrongly its value");
+  SendMessageW(handleOf("chkTapeOff"), BM_SETCHECK, BST_UNCHECKED, 0);
+  EnableMenuItem(GetMenu(mainWindow()), 0, MF_BYPOSITION | MF_GRAYED);
+  EXPECT_EQ(errorOfNextCommand(), "on the screen: mnuFile shows wrongly whether it is enabled");
+  EnableMenuItem(GetMenu(mainWindow()), 0, MF_BYPOSITION | MF_ENABLED);
+  EXPECT_EQ(errorOfNextCommand(), "");
+}
+
+}  // namespace
+}  // namespace desktop
