@@ -6,6 +6,7 @@
 
 #include <utility>
 
+#include "win32/late_function.h"
 #include "win32/text.h"
 
 namespace win32 {
@@ -22,15 +23,19 @@ AccessibleName::AccessibleName(HWND box, std::string_view name) : box_(box), nam
 void AccessibleName::announce() {
   const std::wstring name = std::exchange(name_, {});
   if (name.empty()) return;
-  CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
+  const auto initialize = lateFunction<decltype(&CoInitializeEx)>(L"ole32.dll", "CoInitializeEx");
+  const auto create = lateFunction<decltype(&CoCreateInstance)>(L"ole32.dll", "CoCreateInstance");
+  const auto uninitialize = lateFunction<decltype(&CoUninitialize)>(L"ole32.dll", "CoUninitialize");
+  if (!initialize || !create || !uninitialize) return;
+  initialize(nullptr, COINIT_APARTMENTTHREADED);
   IAccPropServices* names = nullptr;
-  if (SUCCEEDED(CoCreateInstance(CLSID_AccPropServices, nullptr, CLSCTX_INPROC_SERVER,
-                                 IID_IAccPropServices, reinterpret_cast<void**>(&names)))) {
+  if (SUCCEEDED(create(CLSID_AccPropServices, nullptr, CLSCTX_INPROC_SERVER, IID_IAccPropServices,
+                       reinterpret_cast<void**>(&names)))) {
     names->SetHwndPropStr(box_, static_cast<DWORD>(OBJID_CLIENT), CHILDID_SELF, PROPID_ACC_NAME,
                           name.c_str());
     names->Release();
   }
-  CoUninitialize();
+  uninitialize();
 }
 
 }  // namespace win32

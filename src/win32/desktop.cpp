@@ -8,6 +8,7 @@
 
 #include "win32/clipboard.h"
 #include "win32/help_viewer.h"
+#include "win32/late_function.h"
 #include "win32/paths.h"
 #include "win32/programs.h"
 #include "win32/registry.h"
@@ -90,7 +91,8 @@ std::optional<std::uint32_t> Desktop::chooseColor() {
   choice.hwndOwner = modal.owner();
   choice.lpCustColors = reinterpret_cast<COLORREF*>(mixedColors_.data());
   choice.Flags = CC_ANYCOLOR | CC_FULLOPEN;
-  if (!ChooseColorW(&choice)) return {};
+  const auto chooseColor = lateFunction<decltype(&ChooseColorW)>(L"comdlg32.dll", "ChooseColorW");
+  if (!chooseColor || !chooseColor(&choice)) return {};
   return choice.rgbResult;
 }
 

@@ -4,6 +4,7 @@
 
 #include <shellapi.h>
 
+#include "win32/late_function.h"
 #include "win32/paths.h"
 #include "win32/text.h"
 
@@ -49,8 +50,10 @@ bool openInBrowser(const controls::HelpRequest& request) {
     page = findPage(file, name + L"-" + std::to_wstring(request.data) + L".html");
   if (page.empty()) page = findPage(file, name + L".html");
   if (page.empty()) return false;
+  const auto shellExecute = lateFunction<decltype(&ShellExecuteW)>(L"shell32.dll", "ShellExecuteW");
+  if (!shellExecute) return false;
   const auto result = reinterpret_cast<INT_PTR>(
-      ShellExecuteW(nullptr, L"open", page.c_str(), nullptr, nullptr, SW_SHOWNORMAL));
+      shellExecute(nullptr, L"open", page.c_str(), nullptr, nullptr, SW_SHOWNORMAL));
   // The numbers up to it are errors.
   constexpr INT_PTR kLastError = 32;
   return result > kLastError;
