@@ -24,12 +24,10 @@ class WindowTest : public DesktopTest {
     return handle;
   }
 
-  void press(WORD held, WORD key) {
-    Inputs inputs;
-    keyDown(inputs, held);
-    tap(inputs, key);
-    keyUp(inputs, held);
-    stage().send(inputs);
+  void pressAlt(controls::KeyCode key) {
+    const controls::KeyStroke stroke = {.key = key, .alt = true};
+    stage().keyDown(stroke, 0);
+    stage().keyUp(stroke);
   }
 
   int twips(int pixels) { return MulDiv(pixels, kTwipsPerInch, static_cast<int>(dpi())); }
@@ -44,7 +42,7 @@ class WindowTest : public DesktopTest {
 };
 
 TEST_F(WindowTest, MenusOpenWithTheirAccessKeys) {
-  press(VK_MENU, 'W');
+  pressAlt('W');
   Inputs inputs;
   tap(inputs, 'P');
   stage().send(inputs);
@@ -52,7 +50,7 @@ TEST_F(WindowTest, MenusOpenWithTheirAccessKeys) {
 }
 
 TEST_F(WindowTest, AltAndF4CloseTheProgram) {
-  press(VK_MENU, VK_F4);
+  pressAlt(VK_F4);
   EXPECT_FALSE(stage().running());
 }
 

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "driver/native_ui_thread.h"
+
 namespace driver {
 
 namespace {
@@ -79,6 +81,15 @@ INPUT NativeKeyboard::input(const Key& key, bool up) {
   return key.character != 0 ? characterInput(key.character, up) : keyInput(key.code, up);
 }
 
+INPUT NativeKeyboard::downInput(const Key& key) {
+  INPUT down = input(key, false);
+  const auto& [shift, control, alt] = key.modifiers;
+  if (key.character == 0)
+    down.ki.dwExtraInfo = UiThread::kHeldInput | (shift ? UiThread::kHeldShift : 0) |
+                          (control ? UiThread::kHeldControl : 0) | (alt ? UiThread::kHeldAlt : 0);
+  return down;
+}
+
 void NativeKeyboard::hold(const Modifiers& wanted, Inputs& inputs) {
   holdKey(VK_SHIFT, held_.shift, wanted.shift, inputs);
   holdKey(VK_CONTROL, held_.control, wanted.control, inputs);
@@ -91,7 +102,15 @@ NativeKeyboard::Inputs NativeKeyboard::down(const controls::KeyStroke& stroke,
   const Key key = keyOf(stroke, character);
   pressed_.push_back({stroke.key, key});
   hold(key.modifiers, inputs);
-  inputs.push_back(input(key, false));
+  inputs.push_back(downInput(key));
+  return inputs;
+}
+
+NativeKeyboard::Inputs NativeKeyboard::downAgain() {
+  Inputs inputs;
+  held_ = {};
+  hold(pressed_.back().key.modifiers, inputs);
+  inputs.push_back(downInput(pressed_.back().key));
   return inputs;
 }
 

@@ -23,6 +23,9 @@ class NativeKeyboard {
 
   /// The key goes down; `character` is 0 for a key without one.
   Inputs down(const controls::KeyStroke& stroke, controls::KeyAscii character);
+  /// The last key goes down once more, and what is held for it: something else let that go before
+  /// the key arrived.
+  Inputs downAgain();
   /// It comes up again, and with the last key what was held for it.
   Inputs up(const controls::KeyStroke& stroke);
 
@@ -45,6 +48,7 @@ class NativeKeyboard {
 
   static Key keyOf(const controls::KeyStroke& stroke, controls::KeyAscii character);
   static INPUT input(const Key& key, bool up);
+  static INPUT downInput(const Key& key);
   void hold(const Modifiers& wanted, Inputs& inputs);
   static bool setLock(WORD key, bool on);
 

@@ -91,6 +91,13 @@ bool placeInMenu(const MenuPlace& item, POINT& place) {
   return menuIn(WindowFromPoint(place)) == item.menu;
 }
 
+bool isMenuOpen(HWND window) {
+  GUITHREADINFO info = {};
+  info.cbSize = sizeof info;
+  GetGUIThreadInfo(GetWindowThreadProcessId(window, nullptr), &info);
+  return (info.flags & GUI_INMENUMODE) != 0;
+}
+
 bool placeOfPaste(POINT& place) {
   HWND window = findOpenMenu();
   if (!window) return false;

@@ -23,6 +23,8 @@ bool placeToClick(HWND control, POINT& place);
 /// middle of an item of a menu that is open; false when it is not.
 bool placeInBar(HWND window, const MenuPlace& item, POINT& place);
 bool placeInMenu(const MenuPlace& item, POINT& place);
+/// Whether the thread of that window has a menu open.
+bool isMenuOpen(HWND window);
 /// The item of the open shortcut menu of a text box that pastes. False when there is none that can
 /// be chosen.
 bool placeOfPaste(POINT& place);

@@ -72,7 +72,7 @@ class NativeStage : public Stage {
   void clickWithMouse(controls::Control& control, int times);
   bool chooseByMouse(const std::vector<MenuPlace>& way, POINT place);
   void clickAt(POINT place, MouseButton button);
-  void moveButton(POINT place, MouseButton button, bool up);
+  void moveButton(POINT place, HWND seen, MouseButton button, bool up);
 
   UiThread ui_;
   NativeBoxes boxes_;

@@ -8,6 +8,7 @@ namespace driver {
 
 namespace {
 
+constexpr int kTriesOfKey = 20;
 constexpr int kTriesOfMouse = 20;
 constexpr int kTriesOfMenu = 5;
 
@@ -15,7 +16,14 @@ constexpr int kTriesOfMenu = 5;
 
 void NativeStage::keyDown(const controls::KeyStroke& stroke, controls::KeyAscii character) {
   putProgramInFront();
-  send(keyboard_.down(stroke, character));
+  NativeKeyboard::Inputs inputs = keyboard_.down(stroke, character);
+  for (int i = 0; i < kTriesOfKey; ++i) {
+    ui_.expect({}, nullptr);
+    send(inputs);
+    if (!ui_.missed()) return;
+    inputs = keyboard_.downAgain();
+  }
+  throw CommandError("a key that is held does not stay down");
 }
 
 // Also when the key has closed the program: no key stays down.
@@ -32,15 +40,14 @@ void NativeStage::doubleClick(controls::Control& control) {
 }
 
 void NativeStage::clickAt(POINT place, MouseButton button) {
-  moveButton(place, button, false);
-  moveButton(place, button, true);
+  HWND seen = WindowFromPoint(place);
+  moveButton(place, seen, button, false);
+  moveButton(place, seen, button, true);
 }
 
-// A mouse that moves by itself meanwhile, or the report of a move that the system has been slow to
-// make, must not carry the click to another control.
-void NativeStage::moveButton(POINT place, MouseButton button, bool up) {
+void NativeStage::moveButton(POINT place, HWND seen, MouseButton button, bool up) {
   for (int i = 0; i < kTriesOfMouse; ++i) {
-    ui_.aim(place);
+    ui_.expect(place, seen);
     send(mouseInputs(place, button, up, UiThread::kAimedInput));
     if (!ui_.missed()) return;
   }
@@ -48,8 +55,8 @@ void NativeStage::moveButton(POINT place, MouseButton button, bool up) {
 }
 
 void NativeStage::drag(POINT from, POINT to) {
-  moveButton(from, MouseButton::Left, false);
-  moveButton(to, MouseButton::Left, true);
+  moveButton(from, WindowFromPoint(from), MouseButton::Left, false);
+  moveButton(to, nullptr, MouseButton::Left, true);
 }
 
 // A control that the mouse cannot reach, since it lies outside the window or the screen, gets the
@@ -127,7 +134,7 @@ bool NativeStage::chooseByMouse(const std::vector<MenuPlace>& way, POINT place) 
     if (!placeInMenu(way[i], place)) return false;
     clickAt(place, MouseButton::Left);
   }
-  return true;
+  return !isMenuOpen(ui_.window());
 }
 
 void NativeStage::close(controls::Window& window) {

@@ -14,7 +14,15 @@ constexpr UINT kPost = WM_APP + 1;
 constexpr WORD kMarkKey = VK_F24;
 // In the upper half of what a mark carries, so that no other program's input passes for one.
 constexpr ULONG_PTR kMarkSign = 0x7A5E0000;
-constexpr unsigned kMarkNumbers = 0xFFFF;
+constexpr ULONG_PTR kMarkNumbers = 0xFFFF;
+
+constexpr ULONG_PTR kHeldKeys = UiThread::kHeldShift | UiThread::kHeldControl | UiThread::kHeldAlt;
+
+ULONG_PTR heldKeys() {
+  return (GetKeyState(VK_SHIFT) < 0 ? UiThread::kHeldShift : 0) |
+         (GetKeyState(VK_CONTROL) < 0 ? UiThread::kHeldControl : 0) |
+         (GetKeyState(VK_MENU) < 0 ? UiThread::kHeldAlt : 0);
+}
 
 }  // namespace
 
@@ -79,8 +87,9 @@ bool UiThread::waitUntilReached(DWORD milliseconds) {
   return true;
 }
 
-void UiThread::aim(POINT place) {
-  aim_ = place;
+void UiThread::expect(POINT place, HWND seen) {
+  place_ = place;
+  seen_ = seen;
   missed_ = false;
 }
 
@@ -108,34 +117,45 @@ LRESULT CALLBACK UiThread::handleMessage(HWND window, UINT message, WPARAM wPara
 // Every message that the program takes from its queue comes by here, also while a dialog is open.
 LRESULT CALLBACK UiThread::watchMessage(int code, WPARAM wParam, LPARAM lParam) {
   auto& message = *reinterpret_cast<MSG*>(lParam);
-  const bool released = message.message == WM_KEYUP || message.message == WM_SYSKEYUP;
-  if (code == HC_ACTION && wParam == PM_REMOVE && released && message.wParam == kMarkKey) {
-    const auto extra = static_cast<ULONG_PTR>(GetMessageExtraInfo());
-    if ((extra & ~ULONG_PTR{kMarkNumbers}) == kMarkSign) {
-      message.message = WM_NULL;
-      current_->noteMark(extra);
-    }
-  }
+  if (code == HC_ACTION && wParam == PM_REMOVE && message.message >= WM_KEYFIRST &&
+      message.message <= WM_KEYLAST)
+    current_->watchKey(message);
   return CallNextHookEx(nullptr, code, wParam, lParam);
+}
+
+void UiThread::watchKey(MSG& message) {
+  const bool down = message.message == WM_KEYDOWN || message.message == WM_SYSKEYDOWN;
+  const auto extra = static_cast<ULONG_PTR>(GetMessageExtraInfo());
+  if (!down && message.wParam == kMarkKey && (extra & ~kMarkNumbers) == kMarkSign) {
+    message.message = WM_NULL;
+    noteMark(extra);
+  } else if (down && (extra & ~kHeldKeys) == kHeldInput && (extra & kHeldKeys) != heldKeys()) {
+    message.message = WM_NULL;
+    missed_ = true;
+  }
 }
 
 LRESULT CALLBACK UiThread::watchMouse(int code, WPARAM wParam, LPARAM lParam) {
   const auto& mouse = *reinterpret_cast<const MOUSEHOOKSTRUCT*>(lParam);
-  if (code == HC_ACTION && wParam != WM_MOUSEMOVE && mouse.dwExtraInfo == kAimedInput) {
-    const POINT aim = current_->aim_;
-    if (mouse.pt.x != aim.x || mouse.pt.y != aim.y) {
-      current_->missed_ = true;
-      return 1;
-    }
+  if (code == HC_ACTION && wParam != WM_MOUSEMOVE && mouse.dwExtraInfo == kAimedInput &&
+      !current_->isAimed(mouse)) {
+    current_->missed_ = true;
+    return 1;
   }
   return CallNextHookEx(nullptr, code, wParam, lParam);
+}
+
+bool UiThread::isAimed(const MOUSEHOOKSTRUCT& mouse) const {
+  const POINT place = place_;
+  if (mouse.pt.x != place.x || mouse.pt.y != place.y) return false;
+  return !seen_ || WindowFromPoint(place) == seen_;
 }
 
 // Marks come in the order in which they were sent, but one may get lost while no window of the
 // program is in front.
 void UiThread::noteMark(ULONG_PTR extra) {
   const unsigned before = marksSeen_;
-  marksSeen_ = before + ((static_cast<unsigned>(extra) - before) & kMarkNumbers);
+  marksSeen_ = before + static_cast<unsigned>((extra - before) & kMarkNumbers);
   SetEvent(progress_);
 }
 

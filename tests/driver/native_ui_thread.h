@@ -30,11 +30,18 @@ class UiThread {
   /// Waits until everything left by post has run and the last mark has come in. False when it takes
   /// longer.
   bool waitUntilReached(DWORD milliseconds);
-  /// Lets input of the mouse through that carries kAimedInput only where the mouse was aimed at:
-  /// until the next call `missed` tells whether some of it came elsewhere and was swallowed.
-  void aim(POINT place);
+  /// The system may report late that the mouse was moved or that a key came up, and so carry a
+  /// click elsewhere or take Shift from a stroke. Clicks that carry kAimedInput come through only
+  /// at `place`, while `seen` is what is seen there (nothing: whatever is seen), and strokes that
+  /// carry kHeldInput only while the keys are held that they name.
+  void expect(POINT place, HWND seen);
+  /// Whether some of it was swallowed since the last call of expect.
   bool missed() const { return missed_; }
   static constexpr ULONG_PTR kAimedInput = 0x7A5F0000;
+  static constexpr ULONG_PTR kHeldInput = 0x7A600000;
+  static constexpr ULONG_PTR kHeldShift = 1;
+  static constexpr ULONG_PTR kHeldControl = 2;
+  static constexpr ULONG_PTR kHeldAlt = 4;
 
   /// Marks that have not come in yet went to another program, and are waited for no longer.
   void forgetMarks() { marks_ = marksSeen_; }
@@ -45,6 +52,8 @@ class UiThread {
   static LRESULT CALLBACK handleMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
   static LRESULT CALLBACK watchMessage(int code, WPARAM wParam, LPARAM lParam);
   static LRESULT CALLBACK watchMouse(int code, WPARAM wParam, LPARAM lParam);
+  void watchKey(MSG& message);
+  bool isAimed(const MOUSEHOOKSTRUCT& mouse) const;
   void noteMark(ULONG_PTR extra);
   bool reached() const { return marks_ == marksSeen_ && posts_ == postsRun_; }
 
@@ -58,7 +67,8 @@ class UiThread {
   unsigned posts_ = 0;
   std::atomic<unsigned> marksSeen_ = 0;
   std::atomic<unsigned> postsRun_ = 0;
-  std::atomic<POINT> aim_ = POINT{};
+  std::atomic<POINT> place_ = POINT{};
+  std::atomic<HWND> seen_ = nullptr;
   std::atomic<bool> missed_ = false;
 };
 
