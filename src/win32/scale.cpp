@@ -10,19 +10,19 @@ Function* userFunction(const char* name) {
   return reinterpret_cast<Function*>(reinterpret_cast<void*>(found));
 }
 
-UINT systemDpi() {
-  const HDC screen = GetDC(nullptr);
-  const int dpi = GetDeviceCaps(screen, LOGPIXELSY);
-  ReleaseDC(nullptr, screen);
-  return static_cast<UINT>(dpi);
-}
-
 }  // namespace
 
 Scale Scale::of(HWND window) {
   static const auto getDpiForWindow = userFunction<UINT WINAPI(HWND)>("GetDpiForWindow");
   const UINT dpi = getDpiForWindow ? getDpiForWindow(window) : 0;
-  return Scale(dpi ? dpi : systemDpi());
+  return dpi ? Scale(dpi) : ofScreen();
+}
+
+Scale Scale::ofScreen() {
+  const HDC screen = GetDC(nullptr);
+  const int dpi = GetDeviceCaps(screen, LOGPIXELSY);
+  ReleaseDC(nullptr, screen);
+  return Scale(static_cast<UINT>(dpi));
 }
 
 RECT Scale::toPixels(const controls::Rect& rect) const {

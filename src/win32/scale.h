@@ -12,6 +12,8 @@ class Scale {
   explicit Scale(UINT dpi) : dpi_(static_cast<int>(dpi)) {}
   /// That of the monitor that the window is on.
   static Scale of(HWND window);
+  /// That of the screen as a whole, which stays the same while the user is logged on.
+  static Scale ofScreen();
 
   int dpi() const { return dpi_; }
   int toPixels(controls::Twips twips) const { return MulDiv(twips, dpi_, kTwipsPerInch); }

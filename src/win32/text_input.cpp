@@ -48,6 +48,12 @@ std::optional<LRESULT> TextInput::take(const Message& message) {
     case EM_UNDO:
     case EM_CANUNDO:
       return takeEdit(message);
+    case WM_IME_STARTCOMPOSITION:
+    case WM_IME_COMPOSITION:
+    case WM_IME_ENDCOMPOSITION:
+    case WM_IME_CHAR:
+      // The native control would put a composed text in by itself. So it comes as characters.
+      return DefWindowProcW(native_.handle(), message.id, message.wParam, message.lParam);
     case WM_SYSCHAR:
       // Alt+Backspace, which the native control takes for its own undo.
       if (message.wParam != VK_BACK) return {};

@@ -78,12 +78,6 @@ HWND Window::createHandle() const {
   return handle;
 }
 
-Window* Window::of(HWND handle) {
-  if (!handle || GetClassLongPtrW(handle, GCLP_WNDPROC) != reinterpret_cast<ULONG_PTR>(receive))
-    return nullptr;
-  return reinterpret_cast<Window*>(GetWindowLongPtrW(handle, GWLP_USERDATA));
-}
-
 std::unique_ptr<controls::Control> Window::makeControl(const controls::ControlLayout& layout) {
   switch (layout.kind) {
     case ControlKind::TextBox:

@@ -19,9 +19,6 @@ class Window : public controls::Window {
   Window(Desktop& desktop, const controls::WindowLayout& layout);
   ~Window() override;
 
-  /// The program's window with that handle; nothing for another window.
-  static Window* of(HWND handle);
-
   HWND handle() const { return handle_; }
   const Scale& scale() const { return scale_; }
   Fonts& fonts() { return fonts_; }
@@ -69,6 +66,8 @@ class Window : public controls::Window {
   LRESULT passOn(const Message& message);
 
   void focusNative();
+  SIZE clientSize() const;
+  SIZE frameSize() const;
   void place();
   Placement measure() const;
   void noteGeometry();
@@ -78,7 +77,10 @@ class Window : public controls::Window {
 
   Desktop& screen_;
   HWND handle_ = nullptr;
+  // Of the monitor that the window is on, for its size and all that is in it; and of the screen as
+  // a whole, for its place, which is the same on all monitors.
   Scale scale_;
+  Scale screenScale_ = Scale::ofScreen();
   Fonts fonts_;
   ToolTips toolTips_;
   OwnedMenu menu_;

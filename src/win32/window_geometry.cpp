@@ -1,30 +1,45 @@
 #include "win32/window.h"
 
+#include <utility>
+
 namespace win32 {
 
 using controls::WindowState;
 
-// The frame that the system draws depends on the theme, the resolution and the lines that the menu
-// takes in so narrow a window, so that the first attempt may miss the wanted client area.
-void Window::place() {
-  constexpr int kAttempts = 3;
-  const controls::Rect& wanted = bounds();
-  const LONG width = scale_.toPixels(wanted.width - controls::kFrameWidth);
-  const LONG height = scale_.toPixels(wanted.height - layout().frameHeight());
-  RECT frame = {0, 0, width, height};
+SIZE Window::clientSize() const {
+  return {scale_.toPixels(bounds().width - controls::kFrameWidth),
+          scale_.toPixels(bounds().height - layout().frameHeight())};
+}
+
+SIZE Window::frameSize() const {
+  RECT frame = {};
   scale_.growByFrame(frame, static_cast<DWORD>(GetWindowLongW(handle_, GWL_STYLE)),
                      static_cast<DWORD>(GetWindowLongW(handle_, GWL_EXSTYLE)),
                      GetMenu(handle_) != nullptr);
-  LONG frameWidth = frame.right - frame.left;
-  LONG frameHeight = frame.bottom - frame.top;
+  return {frame.right - frame.left, frame.bottom - frame.top};
+}
+
+// The frame that the system draws depends on the theme, the resolution of the monitor that the
+// window comes to stand on, and the lines that the menu takes in so narrow a window, so that the
+// first attempt may miss the wanted client area.
+void Window::place() {
+  constexpr int kAttempts = 4;
+  SIZE frame = frameSize();
   for (int attempt = 0; attempt < kAttempts; ++attempt) {
-    SetWindowPos(handle_, nullptr, scale_.toPixels(wanted.left), scale_.toPixels(wanted.top),
-                 frameWidth, frameHeight, SWP_NOZORDER | SWP_NOACTIVATE);
+    const int dpi = scale_.dpi();
+    const SIZE wanted = clientSize();
+    SetWindowPos(handle_, nullptr, screenScale_.toPixels(bounds().left),
+                 screenScale_.toPixels(bounds().top), wanted.cx + frame.cx, wanted.cy + frame.cy,
+                 SWP_NOZORDER | SWP_NOACTIVATE);
+    if (scale_.dpi() != dpi) {
+      frame = frameSize();
+      continue;
+    }
     RECT client;
     GetClientRect(handle_, &client);
-    if (client.right == width && client.bottom == height) break;
-    frameWidth += width - client.right;
-    frameHeight += height - client.bottom;
+    if (client.right == wanted.cx && client.bottom == wanted.cy) break;
+    frame.cx += wanted.cx - client.right;
+    frame.cy += wanted.cy - client.bottom;
   }
 }
 
@@ -98,8 +113,8 @@ void Window::noteGeometry() {
     seen = normal_.bounds;
   } else {
     // What has not changed in pixels has not changed in twips, which are finer.
-    if (now.left != placed_.left) seen.left = scale_.toTwips(now.left);
-    if (now.top != placed_.top) seen.top = scale_.toTwips(now.top);
+    if (now.left != placed_.left) seen.left = screenScale_.toTwips(now.left);
+    if (now.top != placed_.top) seen.top = screenScale_.toTwips(now.top);
     if (now.width != placed_.width) seen.width = scale_.toTwips(now.width) + controls::kFrameWidth;
     if (now.height != placed_.height)
       seen.height = scale_.toTwips(now.height) + layout().frameHeight();
@@ -111,12 +126,13 @@ void Window::noteGeometry() {
 // The window keeps its size in twips on the new monitor, and everything in it with it.
 void Window::takeResolution(const Message& message) {
   scale_ = Scale(LOWORD(message.wParam));
-  Fonts before = std::exchange(fonts_, Fonts(scale_));
+  const Fonts before = std::exchange(fonts_, Fonts(scale_));
   refreshControls();
+  if (placing_) return;
   const auto& suggested = *reinterpret_cast<const RECT*>(message.lParam);
   controls::Rect seen = bounds();
-  seen.left = scale_.toTwips(suggested.left);
-  seen.top = scale_.toTwips(suggested.top);
+  seen.left = screenScale_.toTwips(suggested.left);
+  seen.top = screenScale_.toTwips(suggested.top);
   noteBounds(seen);
   showBounds();
 }

@@ -1,5 +1,7 @@
 #include <windows.h>
 
+#include <initializer_list>
+
 #include "contract/contract_test.h"
 #include "win32/clipboard.h"
 #include "win32/native_control.h"
@@ -107,6 +109,40 @@ TEST_F(NativeWindow, CharacterInTwoUnitsIsTypedAsOne) {
   EXPECT_EQ(first_.text(), "\xF0\x9F\x98\x80");
   EXPECT_EQ(first_.selStart(), 2);
   EXPECT_EQ(takeLog(), Log{"change"});
+}
+
+TEST_F(NativeWindow, ComposedTextIsTyped) {
+  for (controls::TextBox* box : {&first_, &tape_}) {
+    box->setFocus();
+    box->onKeyPress = [this](controls::KeyAscii& character) { note(std::to_string(character)); };
+    send(*box, WM_IME_CHAR, 0x6F22, 1);
+    kind_->settle();
+    EXPECT_EQ(box->text(), "\xE6\xBC\xA2");
+    EXPECT_EQ(takeLog(), Log{std::to_string(0x6F22)});
+  }
+}
+
+TEST_F(NativeWindow, FastClicksAreAllClicks) {
+  toggle_.onClick = [this] { note("toggle"); };
+  button_.onClick = [this] { note("button"); };
+  for (controls::Control* control : std::initializer_list<controls::Control*>{&button_, &toggle_}) {
+    for (const UINT down : {WM_LBUTTONDOWN, WM_LBUTTONDBLCLK, WM_LBUTTONDOWN, WM_LBUTTONDBLCLK}) {
+      send(*control, down, MK_LBUTTON, MAKELPARAM(10, 10));
+      send(*control, WM_LBUTTONUP, 0, MAKELPARAM(10, 10));
+    }
+  }
+  EXPECT_EQ(takeLog(),
+            (Log{"button", "button", "button", "button", "toggle", "toggle", "toggle", "toggle"}));
+}
+
+TEST_F(NativeWindow, EndOfTheSessionClosesItAlsoBehindADialog) {
+  window_->onClose = [this] { note("close"); };
+  window_->setEnabled(false);
+  EXPECT_TRUE(SendMessageW(handleOf(*window_), WM_QUERYENDSESSION, 0, 0));
+  SendMessageW(handleOf(*window_), WM_CLOSE, 0, 0);
+  EXPECT_EQ(takeLog(), Log{});
+  SendMessageW(handleOf(*window_), WM_ENDSESSION, TRUE, 0);
+  EXPECT_EQ(takeLog(), Log{"close"});
 }
 
 TEST_F(NativeWindow, TextThatAScreenReaderPutsInIsAnEdit) {
