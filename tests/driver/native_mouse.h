@@ -10,8 +10,9 @@ namespace driver {
 
 enum class MouseButton { Left, Right };
 
-/// What the mouse sends when a button of it is pressed, or let go; carries `extra`.
-INPUT mouseButton(MouseButton button, bool up, ULONG_PTR extra);
+/// What the mouse sends that goes to a place of the screen and presses a button there, or lets it
+/// go. All of it carries `extra`.
+std::vector<INPUT> mouseInputs(POINT place, MouseButton button, bool up, ULONG_PTR extra);
 
 /// A place within a control where a click reaches it, near its middle, and never the same one twice
 /// in a row: the system would take two clicks for a double click. False when the control lies
