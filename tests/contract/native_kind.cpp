@@ -54,10 +54,10 @@ class NativeKind : public Kind {
     const HWND window = dynamic_cast<win32::NativeControl&>(control).handle();
     POINT place;
     ASSERT_TRUE(driver::placeToClick(window, place)) << control.name() << " cannot be reached";
-    auto inputs = driver::mouseInputs(place, driver::MouseButton::Left, false, 0);
-    const auto release = driver::mouseInputs(place, driver::MouseButton::Left, true, 0);
-    inputs.insert(inputs.end(), release.begin(), release.end());
-    sendAndWait(inputs);
+    SetCursorPos(place.x, place.y);
+    settle();
+    sendAndWait({driver::mouseButton(driver::MouseButton::Left, false, 0),
+                 driver::mouseButton(driver::MouseButton::Left, true, 0)});
   }
 
   void settle() override { sendAndWait({}); }

@@ -11,25 +11,6 @@ namespace {
 constexpr std::wstring_view kMenuClass = L"#32768";
 constexpr UINT kGetMenuHandle = 0x01E1;
 
-// The mouse reaches from 0 to this over the whole screen.
-constexpr LONGLONG kMouseRange = 65536;
-
-LONG toMouse(LONG place, int start, int length) {
-  return static_cast<LONG>(((place - start) * kMouseRange + kMouseRange / 2) / length);
-}
-
-INPUT buttonInput(MouseButton button, bool up) {
-  const bool left = (button == MouseButton::Left) != (GetSystemMetrics(SM_SWAPBUTTON) != 0);
-  INPUT input = {};
-  input.type = INPUT_MOUSE;
-  if (left) {
-    input.mi.dwFlags = up ? MOUSEEVENTF_LEFTUP : MOUSEEVENTF_LEFTDOWN;
-  } else {
-    input.mi.dwFlags = up ? MOUSEEVENTF_RIGHTUP : MOUSEEVENTF_RIGHTDOWN;
-  }
-  return input;
-}
-
 // The menu that an open menu's window shows; nothing for any other window.
 HMENU menuIn(HWND window) {
   wchar_t name[16] = L"";
@@ -54,17 +35,17 @@ POINT middleOf(const RECT& rect) {
 
 }  // namespace
 
-std::vector<INPUT> mouseInputs(POINT place, MouseButton button, bool up, ULONG_PTR extra) {
-  INPUT move = {};
-  move.type = INPUT_MOUSE;
-  move.mi.dwFlags = MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE | MOUSEEVENTF_VIRTUALDESK;
-  move.mi.dx =
-      toMouse(place.x, GetSystemMetrics(SM_XVIRTUALSCREEN), GetSystemMetrics(SM_CXVIRTUALSCREEN));
-  move.mi.dy =
-      toMouse(place.y, GetSystemMetrics(SM_YVIRTUALSCREEN), GetSystemMetrics(SM_CYVIRTUALSCREEN));
-  INPUT press = buttonInput(button, up);
-  move.mi.dwExtraInfo = press.mi.dwExtraInfo = extra;
-  return {move, press};
+INPUT mouseButton(MouseButton button, bool up, ULONG_PTR extra) {
+  const bool left = (button == MouseButton::Left) != (GetSystemMetrics(SM_SWAPBUTTON) != 0);
+  INPUT input = {};
+  input.type = INPUT_MOUSE;
+  if (left) {
+    input.mi.dwFlags = up ? MOUSEEVENTF_LEFTUP : MOUSEEVENTF_LEFTDOWN;
+  } else {
+    input.mi.dwFlags = up ? MOUSEEVENTF_RIGHTUP : MOUSEEVENTF_RIGHTDOWN;
+  }
+  input.mi.dwExtraInfo = extra;
+  return input;
 }
 
 bool placeToClick(HWND control, POINT& place) {
@@ -91,11 +72,11 @@ bool placeInMenu(const MenuPlace& item, POINT& place) {
   return menuIn(WindowFromPoint(place)) == item.menu;
 }
 
-bool isMenuOpen(HWND window) {
+HWND mouseCapture(HWND window) {
   GUITHREADINFO info = {};
   info.cbSize = sizeof info;
   GetGUIThreadInfo(GetWindowThreadProcessId(window, nullptr), &info);
-  return (info.flags & GUI_INMENUMODE) != 0;
+  return (info.flags & GUI_INMENUMODE) != 0 ? info.hwndMenuOwner : info.hwndCapture;
 }
 
 bool placeOfPaste(POINT& place) {

@@ -10,9 +10,8 @@ namespace driver {
 
 enum class MouseButton { Left, Right };
 
-/// What the mouse sends that goes to a place of the screen and presses a button there, or lets it
-/// go. All of it carries `extra`.
-std::vector<INPUT> mouseInputs(POINT place, MouseButton button, bool up, ULONG_PTR extra);
+/// What the mouse sends when a button of it is pressed, or let go; carries `extra`.
+INPUT mouseButton(MouseButton button, bool up, ULONG_PTR extra);
 
 /// A place within a control where a click reaches it, near its middle, and never the same one twice
 /// in a row: the system would take two clicks for a double click. False when the control lies
@@ -23,8 +22,9 @@ bool placeToClick(HWND control, POINT& place);
 /// middle of an item of a menu that is open; false when it is not.
 bool placeInBar(HWND window, const MenuPlace& item, POINT& place);
 bool placeInMenu(const MenuPlace& item, POINT& place);
-/// Whether the thread of that window has a menu open.
-bool isMenuOpen(HWND window);
+/// The window that gets all that the mouse does, on the thread of `window`: one that is pressed, or
+/// that has a menu open. Nothing without one.
+HWND mouseCapture(HWND window);
 /// The item of the open shortcut menu of a text box that pastes. False when there is none that can
 /// be chosen.
 bool placeOfPaste(POINT& place);

@@ -71,8 +71,13 @@ class NativeStage : public Stage {
   void putProgramInFront();
   void clickWithMouse(controls::Control& control, int times);
   bool chooseByMouse(const std::vector<MenuPlace>& way, POINT place);
-  void clickAt(POINT place, MouseButton button);
-  void moveButton(POINT place, HWND seen, MouseButton button, bool up);
+  bool pasteByMouse(HWND box);
+  bool clickAt(POINT place, MouseButton button);
+  bool pressAt(POINT place, HWND seen, MouseButton button);
+  bool releaseAt(POINT place, HWND seen, MouseButton button);
+  bool moveButton(POINT place, HWND seen, MouseButton button, bool up);
+  void moveMouse(POINT place);
+  void cancelMouse();
 
   UiThread ui_;
   NativeBoxes boxes_;

@@ -9,8 +9,9 @@ namespace driver {
 namespace {
 
 constexpr int kTriesOfKey = 20;
-constexpr int kTriesOfMouse = 20;
-constexpr int kTriesOfMenu = 5;
+constexpr int kTriesOfMouse = 5;
+constexpr int kTriesOfMenu = 10;
+constexpr DWORD kEchoIsLate = 100;
 
 }  // namespace
 
@@ -39,24 +40,54 @@ void NativeStage::doubleClick(controls::Control& control) {
   clickWithMouse(control, 2);
 }
 
-void NativeStage::clickAt(POINT place, MouseButton button) {
+// False when something else has come to that place before the click was done: then nothing has been
+// clicked.
+bool NativeStage::clickAt(POINT place, MouseButton button) {
   HWND seen = WindowFromPoint(place);
-  moveButton(place, seen, button, false);
-  moveButton(place, seen, button, true);
+  if (!pressAt(place, seen, button)) return false;
+  if (releaseAt(place, seen, button)) return true;
+  cancelMouse();
+  releaseAt(place, nullptr, button);
+  return false;
 }
 
-void NativeStage::moveButton(POINT place, HWND seen, MouseButton button, bool up) {
+// What has been pressed, and a menu that is open, are given up.
+void NativeStage::cancelMouse() {
+  if (HWND captured = mouseCapture(ui_.window())) deliver(captured, WM_CANCELMODE, 0, 0);
+}
+
+// The system reports a move a moment later, and until then a click goes where the mouse was.
+void NativeStage::moveMouse(POINT place) {
+  POINT before = {};
+  GetCursorPos(&before);
+  if (before.x == place.x && before.y == place.y) return;
+  ui_.expect(place, nullptr);
+  SetCursorPos(place.x, place.y);
+  ui_.waitForEcho(kEchoIsLate);
+}
+
+bool NativeStage::pressAt(POINT place, HWND seen, MouseButton button) {
+  return moveButton(place, seen, button, false);
+}
+
+bool NativeStage::releaseAt(POINT place, HWND seen, MouseButton button) {
+  return moveButton(place, seen, button, true);
+}
+
+bool NativeStage::moveButton(POINT place, HWND seen, MouseButton button, bool up) {
   for (int i = 0; i < kTriesOfMouse; ++i) {
+    moveMouse(place);
     ui_.expect(place, seen);
-    send(mouseInputs(place, button, up, UiThread::kAimedInput));
-    if (!ui_.missed()) return;
+    send({mouseButton(button, up, UiThread::kAimedInput)});
+    if (!ui_.missed()) return true;
   }
-  throw CommandError("the mouse does not stay where it is put");
+  return false;
 }
 
 void NativeStage::drag(POINT from, POINT to) {
-  moveButton(from, WindowFromPoint(from), MouseButton::Left, false);
-  moveButton(to, nullptr, MouseButton::Left, true);
+  if (!pressAt(from, WindowFromPoint(from), MouseButton::Left) ||
+      !releaseAt(to, nullptr, MouseButton::Left))
+    throw CommandError("the mouse does not stay where it is put");
 }
 
 // A control that the mouse cannot reach, since it lies outside the window or the screen, gets the
@@ -66,7 +97,8 @@ void NativeStage::clickWithMouse(controls::Control& control, int times) {
   HWND handle = handleOf(control);
   POINT place = {};
   if (placeToClick(handle, place)) {
-    for (int i = 0; i < times; ++i) clickAt(place, MouseButton::Left);
+    for (int i = 0; i < times; ++i)
+      if (!clickAt(place, MouseButton::Left)) throw CommandError("the mouse does not get there");
     return;
   }
   deliver(handle, WM_LBUTTONDOWN, MK_LBUTTON, 0);
@@ -93,15 +125,20 @@ void NativeStage::mousePaste(controls::TextBox& box, const std::string& text) {
   const auto before = clipboardText();
   setClipboard(text);
   HWND handle = handleOf(box);
-  POINT place = {};
-  if (!placeToClick(handle, place)) throw CommandError("the mouse does not reach the box");
-  clickAt(place, MouseButton::Right);
-  if (!placeOfPaste(place)) {
-    deliver(handle, WM_CANCELMODE, 0, 0);
-    throw CommandError("nothing can be pasted");
-  }
-  clickAt(place, MouseButton::Left);
+  const bool pasted = pasteByMouse(handle);
   setClipboard(before);
+  if (!pasted) throw CommandError("the mouse cannot paste there");
+}
+
+// Its shortcut menu may be opened again when it has closed before anything was chosen.
+bool NativeStage::pasteByMouse(HWND box) {
+  for (int i = 0; i < kTriesOfMenu; ++i) {
+    POINT place = {};
+    if (!placeToClick(box, place) || !clickAt(place, MouseButton::Right)) continue;
+    if (placeOfPaste(place) && clickAt(place, MouseButton::Left) && !mouseCapture(box)) return true;
+    cancelMouse();
+  }
+  return false;
 }
 
 // A menu whose bar the mouse cannot reach sends the command that it would have sent.
@@ -122,19 +159,17 @@ void NativeStage::choose(controls::MenuItem& item) {
   }
   for (int i = 0; i < kTriesOfMenu; ++i) {
     if (chooseByMouse(way, place)) return;
-    deliver(window, WM_CANCELMODE, 0, 0);
+    cancelMouse();
   }
   throw CommandError("the menu does not stay open");
 }
 
 // A mouse that moves by itself meanwhile may open another menu.
 bool NativeStage::chooseByMouse(const std::vector<MenuPlace>& way, POINT place) {
-  clickAt(place, MouseButton::Left);
-  for (std::size_t i = 1; i < way.size(); ++i) {
-    if (!placeInMenu(way[i], place)) return false;
-    clickAt(place, MouseButton::Left);
-  }
-  return !isMenuOpen(ui_.window());
+  if (!clickAt(place, MouseButton::Left)) return false;
+  for (std::size_t i = 1; i < way.size(); ++i)
+    if (!placeInMenu(way[i], place) || !clickAt(place, MouseButton::Left)) return false;
+  return !mouseCapture(ui_.window());
 }
 
 void NativeStage::close(controls::Window& window) {

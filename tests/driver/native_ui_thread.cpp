@@ -77,9 +77,10 @@ INPUT UiThread::nextMark() {
   return mark;
 }
 
-bool UiThread::waitUntilReached(DWORD milliseconds) {
+template <class Condition>
+bool UiThread::waitFor(Condition condition, DWORD milliseconds) {
   const ULONGLONG until = GetTickCount64() + milliseconds;
-  while (!reached()) {
+  while (!condition()) {
     const ULONGLONG now = GetTickCount64();
     if (now >= until) return false;
     WaitForSingleObject(progress_, static_cast<DWORD>(until - now));
@@ -87,10 +88,19 @@ bool UiThread::waitUntilReached(DWORD milliseconds) {
   return true;
 }
 
+bool UiThread::waitUntilReached(DWORD milliseconds) {
+  return waitFor([this] { return reached(); }, milliseconds);
+}
+
+bool UiThread::waitForEcho(DWORD milliseconds) {
+  return waitFor([this] { return echoed_.load(); }, milliseconds);
+}
+
 void UiThread::expect(POINT place, HWND seen) {
   place_ = place;
   seen_ = seen;
   missed_ = false;
+  echoed_ = false;
 }
 
 LRESULT CALLBACK UiThread::handleMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
@@ -137,18 +147,28 @@ void UiThread::watchKey(MSG& message) {
 
 LRESULT CALLBACK UiThread::watchMouse(int code, WPARAM wParam, LPARAM lParam) {
   const auto& mouse = *reinterpret_cast<const MOUSEHOOKSTRUCT*>(lParam);
-  if (code == HC_ACTION && wParam != WM_MOUSEMOVE && mouse.dwExtraInfo == kAimedInput &&
-      !current_->isAimed(mouse)) {
+  if (code == HC_ACTION && (wParam == WM_MOUSEMOVE || wParam == WM_NCMOUSEMOVE)) {
+    current_->noteEcho(mouse);
+  } else if (code == HC_ACTION && mouse.dwExtraInfo == kAimedInput && !current_->isAimed(mouse)) {
     current_->missed_ = true;
     return 1;
   }
   return CallNextHookEx(nullptr, code, wParam, lParam);
 }
 
-bool UiThread::isAimed(const MOUSEHOOKSTRUCT& mouse) const {
+void UiThread::noteEcho(const MOUSEHOOKSTRUCT& mouse) {
+  if (!isAtPlace(mouse)) return;
+  echoed_ = true;
+  SetEvent(progress_);
+}
+
+bool UiThread::isAtPlace(const MOUSEHOOKSTRUCT& mouse) const {
   const POINT place = place_;
-  if (mouse.pt.x != place.x || mouse.pt.y != place.y) return false;
-  return !seen_ || WindowFromPoint(place) == seen_;
+  return mouse.pt.x == place.x && mouse.pt.y == place.y;
+}
+
+bool UiThread::isAimed(const MOUSEHOOKSTRUCT& mouse) const {
+  return isAtPlace(mouse) && (!seen_ || WindowFromPoint(mouse.pt) == seen_);
 }
 
 // Marks come in the order in which they were sent, but one may get lost while no window of the

@@ -37,6 +37,9 @@ class UiThread {
   void expect(POINT place, HWND seen);
   /// Whether some of it was swallowed since the last call of expect.
   bool missed() const { return missed_; }
+  /// Waits until the system has reported that the mouse is at the expected place. False when it
+  /// takes longer.
+  bool waitForEcho(DWORD milliseconds);
   static constexpr ULONG_PTR kAimedInput = 0x7A5F0000;
   static constexpr ULONG_PTR kHeldInput = 0x7A600000;
   static constexpr ULONG_PTR kHeldShift = 1;
@@ -53,8 +56,12 @@ class UiThread {
   static LRESULT CALLBACK watchMessage(int code, WPARAM wParam, LPARAM lParam);
   static LRESULT CALLBACK watchMouse(int code, WPARAM wParam, LPARAM lParam);
   void watchKey(MSG& message);
+  void noteEcho(const MOUSEHOOKSTRUCT& mouse);
+  bool isAtPlace(const MOUSEHOOKSTRUCT& mouse) const;
   bool isAimed(const MOUSEHOOKSTRUCT& mouse) const;
   void noteMark(ULONG_PTR extra);
+  template <class Condition>
+  bool waitFor(Condition condition, DWORD milliseconds);
   bool reached() const { return marks_ == marksSeen_ && posts_ == postsRun_; }
 
   static UiThread* current_;
@@ -70,6 +77,7 @@ class UiThread {
   std::atomic<POINT> place_ = POINT{};
   std::atomic<HWND> seen_ = nullptr;
   std::atomic<bool> missed_ = false;
+  std::atomic<bool> echoed_ = false;
 };
 
 }  // namespace driver
