@@ -29,7 +29,10 @@ class Machine {
     window_->setLeft(left);
   }
 
+  /// In front, as the window of somebody who keys is.
   void takeTurn() {
+    window_->show();
+    screen_.paint();
     for (int i = 0; i < kTurn; ++i) {
       const auto before = Clock::now();
       window_->sendKey('7', '7');
