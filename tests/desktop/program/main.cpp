@@ -1,0 +1,18 @@
+#include <gtest/gtest.h>
+
+#include <cstdio>
+
+#include "desktop/program/program_test.h"
+
+// The tests of a program that is started for each of them:
+//   tallyrex-program-tests PROGRAM HELPFILE
+int wmain(int count, wchar_t** arguments) {
+  testing::InitGoogleTest(&count, arguments);
+  if (count != 3) {
+    std::fputs("tallyrex-program-tests PROGRAM HELPFILE\n", stderr);
+    return 2;
+  }
+  program::TestedProgram tested(arguments[1], arguments[2]);
+  program::ProgramTest::setProgram(tested);
+  return RUN_ALL_TESTS();
+}

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <windows.h>
+
+#include <stdexcept>
+#include <string>
+
+namespace program {
+
+/// What a test waits for has not come.
+class NotSeen : public std::runtime_error {
+ public:
+  explicit NotSeen(const std::string& awaited) : std::runtime_error("not seen: " + awaited) {}
+};
+
+/// Whether the condition comes to hold within half a minute, which is ample on a busy machine.
+template <class Condition>
+bool eventually(Condition condition) {
+  constexpr ULONGLONG kPatience = 30'000;
+  constexpr DWORD kPoll = 5;
+  const ULONGLONG until = GetTickCount64() + kPatience;
+  while (!condition()) {
+    if (GetTickCount64() > until) return false;
+    Sleep(kPoll);
+  }
+  return true;
+}
+
+/// Waits until the condition holds; throws NotSeen when it does not.
+template <class Condition>
+void await(const std::string& what, Condition condition) {
+  if (!eventually(condition)) throw NotSeen(what);
+}
+
+/// Waits until `find` gives a window, and gives it; throws NotSeen when none comes.
+template <class Find>
+HWND awaitWindow(const std::string& what, Find find) {
+  HWND found = nullptr;
+  await(what, [&] { return (found = find()) != nullptr; });
+  return found;
+}
+
+}  // namespace program
