@@ -16,6 +16,7 @@
 #include <vector>
 
 #include "common/run_time_error.h"
+#include "unit/everyday_problems.h"
 
 namespace annuity {
 namespace {
@@ -144,81 +145,30 @@ TEST(Rate, StartsFromTheGuess) {
   EXPECT_EQ(errorOf([] { return Rate(45, -790, 4105, 0, 0, -3.8092); }), 5);
 }
 
-constexpr double kHalfACent = 0.005;
-
-double inCents(double amount) {
-  return std::round(amount * 100) / 100;
-}
-
-/// An everyday problem: two of the amounts are chosen, the third is what the bank computes.
-struct Plan {
-  const char* name;
-  bool computesPayment;  ///< else the future value
-  double pmt, pv, fv;
-
-  double computed(double rate, double nper, int due) const {
-    return computesPayment ? Pmt(rate, nper, pv, fv, due) : FV(rate, nper, pmt, pv, due);
-  }
-  double solvedRate(double nper, double amount, int due) const {
-    return computesPayment ? Rate(nper, amount, pv, fv, due) : Rate(nper, pmt, pv, amount, due);
-  }
-};
-
-constexpr std::array kPlans = {
-    Plan{"small loan", true, 0, 1500, 0},
-    Plan{"car", true, 0, 18500, 0},
-    Plan{"house", true, 0, 100000, 0},
-    Plan{"estate", true, 0, 1234567.89, 0},
-    Plan{"car with balloon", true, 0, 18500, -3700},
-    Plan{"house with balloon", true, 0, 250000, -87500},
-    Plan{"drawdown", true, 0, -100000, 0},
-    Plan{"drawdown that leaves a rest", true, 0, -100000, 20000},
-    Plan{"savings", false, -100, 0, 0},
-    Plan{"savings from a sum", false, -250, -1000, 0},
-    Plan{"sum with savings", false, -50, -20000, 0},
-    Plan{"lump sum", false, 0, -5000, 0},
-};
-
-constexpr std::array kTerms = {1,  2,  3,  4,  5,   6,   9,   12,  15,  18,  24,  30,  36,  48,
-                               60, 72, 84, 96, 120, 144, 180, 216, 240, 276, 300, 360, 420, 480};
-
-/// False when the problem says nothing of the rate: its only payment falls on the day of its sum.
-bool checkRate(const Plan& plan, double percent, int nper, int due) {
-  const double rate = percent / 100 / 12;
-  constexpr double kStep = 1e-6;
-  const double slope =
-      (plan.computed(rate + kStep, nper, due) - plan.computed(rate - kStep, nper, due)) /
-      (2 * kStep);
-  if (std::abs(slope) < 1e-3) return false;
-  const double computed = plan.computed(rate, nper, due);
+void checkRate(const RateProblem& problem) {
+  const auto& [plan, percent, nper, pmt, pv, fv, due, rate, tolerance] = problem;
   double found = 0;
-  EXPECT_EQ(errorOf([&] { return found = plan.solvedRate(nper, inCents(computed), due); }), 0);
+  EXPECT_EQ(errorOf([&] { return found = Rate(nper, pmt, pv, fv, due); }), 0);
   // The payment or the value that the found rate asks for is the one given, and so rounds to it.
-  const double asked = plan.computed(found, nper, due);
-  EXPECT_NEAR(asked, inCents(computed),
-              1e-10 * (std::abs(plan.pv) + std::abs(plan.fv) + std::abs(asked)));
-  // The rate is the true one but for what half a cent makes; the slope bends a little on the way.
-  EXPECT_NEAR(found, rate, 1.05 * kHalfACent / std::abs(slope) + 1e-11);
-  return true;
+  const double asked = plan->computed(found, nper, due);
+  EXPECT_NEAR(asked, plan->computesPayment ? pmt : fv,
+              1e-10 * (std::abs(plan->pv) + std::abs(plan->fv) + std::abs(asked)));
+  EXPECT_NEAR(found, rate, tolerance + 1e-11);
 }
 
 TEST(Rate, SolvesEverydayProblems) {
-  int solved = 0;
-  for (const Plan& plan : kPlans) {
-    for (int nper : kTerms) {
-      for (int due : {0, 1}) {
-        for (double percent = 0; percent <= 30; percent += 0.5) {
-          SCOPED_TRACE(testing::Message() << plan.name << ", " << nper << " months, due " << due
-                                          << ", " << percent << " %");
-          const bool tellsTheRate = checkRate(plan, percent, nper, due);
-          EXPECT_TRUE(tellsTheRate || nper == 1);
-          solved += tellsTheRate;
-        }
-      }
-    }
-  }
-  RecordProperty("solved", solved);
-  EXPECT_GE(solved, 40000);
+  std::size_t problems = 0, ofSeveralMonths = 0;
+  forEachEverydayProblem([&](const RateProblem& problem) {
+    SCOPED_TRACE(testing::Message() << problem.plan->name << ", " << problem.nper << " months, due "
+                                    << problem.due << ", " << problem.percent << " %");
+    checkRate(problem);
+    ++problems;
+    ofSeveralMonths += problem.nper > 1;
+  });
+  RecordProperty("problems", static_cast<int>(problems));
+  EXPECT_GE(problems, 40000u);
+  // None of these is left out: twelve plans, 27 terms, paid early or late, 61 rates.
+  EXPECT_EQ(ofSeveralMonths, kPlans.size() * (kTerms.size() - 1) * 2 * 61);
 }
 
 /// Numbers of every size and sign, often such as arithmetic stumbles over.
