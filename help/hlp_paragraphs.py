@@ -3,7 +3,20 @@
 from dataclasses import dataclass, field
 
 from hlp_encoding import context_hash, packed_long, packed_signed, packed_unsigned, u16, u32
-from topic_source import BOLD, CODE, LINK, ContentsList, Heading, ListBlock, Note, Paragraph, Sample, Span, Table
+from topic_source import (
+    BOLD,
+    CODE,
+    LINK,
+    ContentsList,
+    Heading,
+    ListBlock,
+    Note,
+    Paragraph,
+    Picture,
+    Sample,
+    Span,
+    Table,
+)
 
 BODY_FONT, BOLD_FONT, CODE_FONT, TITLE_FONT, HEADING_FONT = range(5)
 _FACES = ("Arial", "Courier New")
@@ -123,6 +136,9 @@ class TopicRenderer:
             return [self._flow(block.spans, left=_INDENT)]
         if isinstance(block, Sample):
             return [self._sample(block.lines)]
+        if isinstance(block, Picture):
+            # The viewer's own page does without: it opens beside the window that the picture shows.
+            return []
         if isinstance(block, Table):
             return self._table(block.rows)
         if isinstance(block, ListBlock):

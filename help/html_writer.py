@@ -1,9 +1,25 @@
 """Writes the same topics as one HTML page that needs nothing beside it."""
 
+import struct
+from base64 import b64encode
 from html import escape
 from pathlib import Path
 
-from topic_source import BOLD, CODE, LINK, ContentsList, Heading, ListBlock, Note, Paragraph, Sample, Span, Table
+from topic_checks import PICTURES
+from topic_source import (
+    BOLD,
+    CODE,
+    LINK,
+    ContentsList,
+    Heading,
+    ListBlock,
+    Note,
+    Paragraph,
+    Picture,
+    Sample,
+    Span,
+    Table,
+)
 
 _STYLE_FILE = Path(__file__).with_name("style.css")
 _TAGS = {BOLD: "b", CODE: "code"}
@@ -83,6 +99,8 @@ class _PageWriter:
             return f'<p class="note">{self._inline(block.spans)}</p>\n'
         if isinstance(block, Sample):
             return f"<pre>{escape(chr(10).join(block.lines), quote=False)}</pre>\n"
+        if isinstance(block, Picture):
+            return self._picture(block)
         if isinstance(block, Table):
             return self._table(block.rows)
         if isinstance(block, ListBlock):
@@ -91,6 +109,16 @@ class _PageWriter:
             return f"<{tag}>\n{items}</{tag}>\n"
         assert isinstance(block, ContentsList)
         return f'<div class="contents">\n{self._contents(topic)}</div>\n'
+
+    @staticmethod
+    def _picture(picture):
+        data = (PICTURES / f"{picture.name}.png").read_bytes()
+        # A PNG begins with its signature and the head of its first part; then come the two sizes.
+        width, height = struct.unpack(">II", data[16:24])
+        return (
+            f'<p><img alt="{escape(picture.words)}" width="{width}" height="{height}" '
+            f'src="data:image/png;base64,{b64encode(data).decode("ascii")}"></p>\n'
+        )
 
     def _table(self, rows):
         head = "".join(f"<th>{self._inline(cell)}</th>" for cell in rows[0])

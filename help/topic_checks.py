@@ -1,7 +1,10 @@
 """What must hold for the topics as a whole before anything is built from them."""
 
-from topic_source import LINK, ContentsList, Heading, ListBlock, Note, Paragraph, Sample, Table
+from pathlib import Path
 
+from topic_source import LINK, ContentsList, Heading, ListBlock, Note, Paragraph, Picture, Sample, Table
+
+PICTURES = Path(__file__).resolve().parent.parent / "docs" / "pictures"
 CONTENTS_NUMBER = 1
 FINANCIAL_CALCULATOR_NUMBER = 23
 FINANCIAL_CALCULATOR_TITLE = "Financial calculator"
@@ -38,7 +41,7 @@ def find_problems(topics):
         for target in links_of(topic, topics):
             if target not in slugs:
                 problems.append(f"{topic.slug}: links to '{target}', which is no topic")
-        problems += _text_problems(topic) + _table_problems(topic)
+        problems += _text_problems(topic) + _table_problems(topic) + _picture_problems(topic)
     return problems + _keyword_problems(topics) + _reach_problems(topics)
 
 
@@ -82,6 +85,15 @@ def _table_problems(topic):
             if sum(widths[:-1]) > _MOST_BEFORE_LAST_COLUMN and sum(widths) > _MOST_IN_TABLE:
                 problems.append(f"{topic.slug}: a table leaves too little room for its last column")
     return problems
+
+
+def _picture_problems(topic):
+    names = [block.name for block in topic.blocks if isinstance(block, Picture)]
+    return [
+        f"{topic.slug}: shows '{name}', which is no picture"
+        for name in names
+        if not (PICTURES / f"{name}.png").is_file()
+    ]
 
 
 def _keyword_problems(topics):

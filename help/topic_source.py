@@ -1,8 +1,8 @@
 """Reads the help's topics: one text file a topic, with a small header and a Markdown-like body.
 
 The body knows headings (## ), paragraphs, lists (- and 1. ), tables (| a | b |), notes (> ), samples
-between ``` lines, and a line {contents} that stands for the list of all topics. Inside a line there are
-**bold** words, `figures as the tape prints them` and [links](file-name-of-a-topic).
+between ``` lines, pictures (![what it shows](name)), and a line {contents} that stands for the list of all
+topics. Inside a line there are **bold** words, `figures as the tape prints them` and [links](file-name-of-a-topic).
 """
 
 import re
@@ -63,6 +63,14 @@ class Sample:
 
 
 @dataclass(frozen=True)
+class Picture:
+    """A picture of docs/pictures, and the words for who does not see it."""
+
+    name: str
+    words: str
+
+
+@dataclass(frozen=True)
 class ContentsList:
     """The place where the list of all topics goes."""
 
@@ -82,6 +90,7 @@ class Topic:
 
 
 _INLINE = re.compile(r"`([^`]+)`|\*\*(.+?)\*\*|\[([^\]]+)\]\(([a-z0-9-]+)\)")
+_PICTURE = re.compile(r"!\[([^\]]+)\]\(([a-z0-9-]+)\)")
 _ORDERED = re.compile(r"\d+\. +(.*)")
 _HEADER_LINE = re.compile(r"([a-z]+): *(.*)")
 _HEADER_KEYS = {"number", "title", "chapter", "keywords", "message", "see"}
@@ -180,6 +189,8 @@ class _BodyParser:
         if line == "{contents}":
             self._at += 1
             return ContentsList()
+        if line.startswith("!"):
+            return self._picture(line)
         if line.startswith("|"):
             return self._table()
         if line.startswith("- "):
@@ -207,6 +218,13 @@ class _BodyParser:
         lines = self._lines[self._at + 1 : end]
         self._at = end + 1
         return Sample(tuple(lines))
+
+    def _picture(self, line):
+        match = _PICTURE.fullmatch(line)
+        if not match:
+            raise HelpError(f"{self._slug}: a picture is ![what it shows](name), not '{line}'")
+        self._at += 1
+        return Picture(match.group(2), match.group(1))
 
     def _table(self):
         rows = []

@@ -1,11 +1,12 @@
 import re
 import unittest
+from base64 import b64decode
 from html.parser import HTMLParser
 
 from support import TOPICS, one_spaced, plain
 from html_writer import write_html, write_redirect
-from topic_checks import links_of, spans_of
-from topic_source import Sample
+from topic_checks import PICTURES, links_of, spans_of
+from topic_source import Picture, Sample
 
 VOID = {"meta", "br", "hr", "img", "link"}
 
@@ -15,7 +16,7 @@ class Page(HTMLParser):
 
     def __init__(self, text):
         super().__init__()
-        self.anchors, self.links, self.outside, self.words = [], {}, [], {}
+        self.anchors, self.links, self.outside, self.words, self.pictures = [], {}, [], {}, {}
         self._open, self._section = [], None
         self.feed(text)
         self.close()
@@ -32,7 +33,11 @@ class Page(HTMLParser):
             self._section = attributes["id"]
         if tag == "a":
             self.links.setdefault(self._section, []).append(attributes["href"])
-        self.outside += [attributes[name] for name in ("src", "srcset") if name in attributes]
+        for name in ("src", "srcset"):
+            if attributes.get(name, "data:").startswith("data:image/png;base64,"):
+                self.pictures.setdefault(self._section, []).append(attributes)
+            elif name in attributes:
+                self.outside.append(attributes[name])
         self.outside += [tag] if tag in ("link", "script", "iframe") else []
 
     def handle_endtag(self, tag):
@@ -84,6 +89,16 @@ class HtmlTest(unittest.TestCase):
 
     def test_a_tape_keeps_its_blanks(self):
         self.assertIn("\n               1,231.50 *\n", self.page.words["topic14"])
+
+    def test_holds_the_pictures_of_the_topics_themselves(self):
+        for topic in TOPICS:
+            wanted = [block for block in topic.blocks if isinstance(block, Picture)]
+            held = self.page.pictures.get(f"topic{topic.number}", [])
+            self.assertEqual([picture["alt"] for picture in held], [block.words for block in wanted])
+            for picture, block in zip(held, wanted):
+                data = b64decode(picture["src"].partition(",")[2])
+                self.assertEqual(data, (PICTURES / f"{block.name}.png").read_bytes())
+        self.assertLessEqual({"topic2", "topic23"}, set(self.page.pictures))
 
     def test_stands_alone(self):
         self.assertEqual(self.page.outside, [])

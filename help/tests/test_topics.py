@@ -12,6 +12,7 @@ from topic_source import (
     ListBlock,
     Note,
     Paragraph,
+    Picture,
     Sample,
     Span,
     Table,
@@ -102,6 +103,10 @@ class ProblemsTest(unittest.TestCase):
         self.topics.append(topic("third", 3, "The key \u221a"))
         self.assertEqual(find_problems(self.topics), ["third: '\u221a' cannot be shown by the help viewer"])
 
+    def test_a_picture_that_is_not_there(self):
+        self.topics.append(topic("third", 3, "![The main window](main-window)\n\n![Nothing](nothing)"))
+        self.assertEqual(find_problems(self.topics), ["third: shows 'nothing', which is no picture"])
+
 
 class ParserTest(unittest.TestCase):
     def test_inline(self):
@@ -124,6 +129,11 @@ class ParserTest(unittest.TestCase):
         self.assertEqual((read.number, read.title, read.chapter), (7, "A title", "A chapter"))
         self.assertEqual((read.keywords, read.see), (["one", "two"], ["a", "b"]))
         self.assertEqual(read.messages, ["First line second line", "Other"])
+
+    def test_picture(self):
+        self.assertEqual(topic("x", 1, "![A window](main-window)").blocks, [Picture("main-window", "A window")])
+        with self.assertRaisesRegex(HelpError, "a picture is"):
+            topic("x", 1, "![A window](main-window.png)")
 
     def test_blocks(self):
         body = (
