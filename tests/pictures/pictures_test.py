@@ -1,0 +1,62 @@
+"""Every picture that a text shows is there, and can be taken anew by scripts/pictures."""
+import pathlib
+import re
+import struct
+import unittest
+
+ROOT = pathlib.Path(__file__).resolve().parents[2]
+PICTURES = ROOT / "docs" / "pictures"
+LOOKS = ROOT / "tests" / "pictures" / "looks"
+SHOWN = re.compile(r"!\[([^\]]*)\]\(([^)]+)\)")
+
+
+def shown(text_file):
+    """The pictures that a text shows, with the words that stand for them."""
+    return SHOWN.findall(text_file.read_text(encoding="utf-8"))
+
+
+class Pictures(unittest.TestCase):
+    def test_each_that_the_readme_and_the_documents_show_is_there(self):
+        texts = [*ROOT.glob("*.md"), *(ROOT / "docs").rglob("*.md")]
+        found = [(text, words, name) for text in texts for words, name in shown(text)]
+        self.assertIn(("README.md", "docs/pictures/main-window.png"),
+                      [(text.name, name) for text, _, name in found])
+        for text, words, name in found:
+            with self.subTest(text=text.name, picture=name):
+                self.assertTrue((text.parent / name).is_file())
+                self.assertTrue(words, "who cannot see it is told nothing")
+
+    def test_each_that_the_help_shows_is_there(self):
+        found = [(topic, words, name) for topic in sorted((ROOT / "help" / "topics").glob("*.md"))
+                 for words, name in shown(topic)]
+        names = {name for _, _, name in found}
+        self.assertLessEqual({"main-window", "annuity-loan"}, names)
+        for topic, words, name in found:
+            with self.subTest(topic=topic.name, picture=name):
+                self.assertTrue((PICTURES / (name + ".png")).is_file())
+                self.assertTrue(words, "who cannot see it is told nothing")
+
+    def test_each_has_its_recipe_and_each_recipe_its_picture(self):
+        self.assertEqual({path.stem for path in PICTURES.glob("*.png")},
+                         {path.stem for path in PICTURES.glob("*.txt")})
+
+    def test_each_is_of_the_size_of_a_window(self):
+        for path in PICTURES.glob("*.png"):
+            width, height = struct.unpack(">II", path.read_bytes()[16:24])
+            with self.subTest(picture=path.name):
+                self.assertTrue(100 < width < 700 and 60 < height < 500, (width, height))
+
+    def test_each_recipe_says_what_it_shows_and_starts_the_program(self):
+        for path in [*PICTURES.glob("*.txt"), *LOOKS.glob("*.txt")]:
+            lines = path.read_text(encoding="utf-8").splitlines()
+            with self.subTest(recipe=path.name):
+                self.assertRegex(lines[0], r"^# \w")
+                self.assertIn("start", lines)
+
+    def test_no_two_recipes_are_called_the_same(self):
+        names = [path.stem for folder in (PICTURES, LOOKS) for path in folder.glob("*.txt")]
+        self.assertEqual(len(names), len(set(names)))
+
+
+if __name__ == "__main__":
+    unittest.main()
