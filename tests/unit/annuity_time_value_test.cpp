@@ -145,15 +145,15 @@ TEST(Rate, StartsFromTheGuess) {
   EXPECT_EQ(errorOf([] { return Rate(45, -790, 4105, 0, 0, -3.8092); }), 5);
 }
 
-void checkRate(const RateProblem& problem) {
-  const auto& [plan, percent, nper, pmt, pv, fv, due, rate, tolerance] = problem;
+void checkRate(const RateProblem& p) {
   double found = 0;
-  EXPECT_EQ(errorOf([&] { return found = Rate(nper, pmt, pv, fv, due); }), 0);
+  EXPECT_EQ(errorOf([&] { return found = Rate(p.nper, p.pmt, p.pv, p.fv, p.due); }), 0);
   // The payment or the value that the found rate asks for is the one given, and so rounds to it.
-  const double asked = plan->computed(found, nper, due);
-  EXPECT_NEAR(asked, plan->computesPayment ? pmt : fv,
-              1e-10 * (std::abs(plan->pv) + std::abs(plan->fv) + std::abs(asked)));
-  EXPECT_NEAR(found, rate, tolerance + 1e-11);
+  const Plan& plan = *p.plan;
+  const double asked = plan.computed(found, p.nper, p.due);
+  EXPECT_NEAR(asked, plan.computesPayment ? p.pmt : p.fv,
+              1e-10 * (std::abs(plan.pv) + std::abs(plan.fv) + std::abs(asked)));
+  EXPECT_NEAR(found, p.rate, p.tolerance + 1e-11);
 }
 
 TEST(Rate, SolvesEverydayProblems) {
