@@ -5,6 +5,7 @@
 
 #include "desktop/input.h"
 #include "desktop/program/outside.h"
+#include "desktop/program/wait.h"
 
 namespace program {
 namespace {
@@ -83,13 +84,17 @@ void doubleClick(POINT place) {
   send(inputs);
 }
 
-void drag(POINT from, POINT to) {
+void dragWindow(HWND window, POINT from, POINT to) {
   SetCursorPos(from.x, from.y);
   Inputs hold;
   addMouse(hold, MOUSEEVENTF_LEFTDOWN);
   send(hold);
-  // A window follows the mouse only once that has left the place where it was pressed.
-  SetCursorPos((from.x + to.x) / 2, (from.y + to.y) / 2);
+  await("a window that is being dragged", [window] {
+    GUITHREADINFO thread = {};
+    thread.cbSize = sizeof thread;
+    GetGUIThreadInfo(GetWindowThreadProcessId(window, nullptr), &thread);
+    return (thread.flags & GUI_INMOVESIZE) != 0;
+  });
   SetCursorPos(to.x, to.y);
   Inputs release;
   addMouse(release, MOUSEEVENTF_LEFTUP);

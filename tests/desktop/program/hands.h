@@ -16,8 +16,9 @@ void pressWith(WORD modifier, WORD key);
 
 void click(POINT place);
 void doubleClick(POINT place);
-/// Takes hold at `from` and lets go at `to`.
-void drag(POINT from, POINT to);
+/// Takes hold of a window's frame at `from`, and lets go at `to`; throws NotSeen when it gets no
+/// hold.
+void dragWindow(HWND window, POINT from, POINT to);
 /// The middle of a window on the screen.
 POINT middleOf(HWND window);
 
