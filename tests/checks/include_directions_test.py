@@ -41,6 +41,8 @@ def complaint(file, line):
         return "the program uses no streams: <%s>" % angled if angled in STREAMS else None
     if folder == "win32" and "/" not in quoted and quoted.startswith("resource"):
         return None
+    if ".." in quoted.split("/"):
+        return 'includes are relative to src: "%s"' % quoted
     allowed = ALLOWED.get(folder, set()) | ALLOWED_FOR_FILE.get(file, set())
     if quoted in allowed or quoted.split("/")[0] in allowed and "/" in quoted:
         return None
@@ -49,7 +51,7 @@ def complaint(file, line):
 
 class IncludeDirections(unittest.TestCase):
     def test_every_include_runs_the_allowed_way(self):
-        sources = tree.files(".h", ".cpp", ".rc", below="src")
+        sources = tree.files(".h", ".cpp", ".in", below="src")
         self.assertTrue(sources)
         for path in sources:
             for number, line in enumerate(tree.lines(path), 1):
@@ -72,7 +74,9 @@ class IncludeDirections(unittest.TestCase):
                            ("src/app/a.cpp", '  #  include <windows.h>'),
                            ("src/inmemory/a.cpp", "#include <sys/stat.h>"),
                            ("src/engine/a.cpp", "#include <sstream>"),
-                           ("src/engine/a.cpp", '#include "engine.h"')]:
+                           ("src/engine/a.cpp", '#include "engine.h"'),
+                           ("src/common/a.cpp", '#include "common/../engine/engine.h"'),
+                           ("src/win32/a.rc.in", '#include "app/application.h"')]:
             self.assertIsNotNone(complaint(file, line), (file, line))
 
     def test_an_allowed_include_is_let_through(self):

@@ -3,6 +3,7 @@ import json
 import pathlib
 import re
 import sys
+import tempfile
 import unittest
 
 import tree
@@ -70,6 +71,11 @@ def command_complaint(command):
     return None
 
 
+def says_nothing(step):
+    """Whether a step expects nothing, or what every command answers that could be carried out."""
+    return not step.has_expected or step.expected in ({}, {"ok": True})
+
+
 def complaints(path):
     """What is wrong with a scenario file, line by line."""
     try:
@@ -80,7 +86,7 @@ def complaints(path):
     first = path.read_text(encoding="utf-8").partition("\n")[0]
     if not re.match(r"# \S+ \S+ \S+", first):
         found.append("line 1: a comment says what a user sees")
-    if not any(step.has_expected for step in steps):
+    if all(says_nothing(step) for step in steps):
         found.append("nothing is expected")
     for step in steps:
         refused = isinstance(step.expected, dict) and "error" in step.expected
@@ -91,6 +97,14 @@ def complaints(path):
                 and not run_scenarios.is_only_in_memory(path)):
             found.append("line %d: needs the line %r" % (step.number, run_scenarios.ONLY_IN_MEMORY))
     return found
+
+
+def complaints_about(text):
+    """What is wrong with a scenario of this text."""
+    with tempfile.TemporaryDirectory() as folder:
+        path = pathlib.Path(folder) / "one.txt"
+        path.write_text(text, encoding="utf-8")
+        return complaints(path)
 
 
 class ScenarioFiles(unittest.TestCase):
@@ -112,6 +126,12 @@ class ScenarioFiles(unittest.TestCase):
         for command in ["strat", "press F5", "type 12", r'type "\q"', "click", "get txtEntry text",
                         "resize frmCalc 100", "menu mnuWinMode(0) twice", "answer 1"]:
             self.assertIsNotNone(command_complaint(command), command)
+
+    def test_a_scenario_that_cannot_fail_is_found(self):
+        for answer in ["", "=> {}\n", '=> {"ok":true}\n']:
+            text = "# What a user sees\nstart\n" + answer
+            self.assertEqual(complaints_about(text), ["nothing is expected"], answer)
+        self.assertEqual(complaints_about('# What a user sees\nsnapshot\n=> {"entry":""}\n'), [])
 
 
 if __name__ == "__main__":

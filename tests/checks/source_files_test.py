@@ -10,6 +10,10 @@ MOST_LINES = 400
 # Each release formats a little differently; this is the one that the tree is formatted with.
 CLANG_FORMAT_RELEASE = "14"
 
+# In brackets, so that this file does not hold what it looks for. A rule that is wrong for us is switched off
+# for all, with its reason, in .clang-tidy.
+SWITCHED_OFF = re.compile(r"[c]lang-format off|[N]OLINT|diagnostic [i]gnored")
+
 
 def sources():
     return tree.files(".h", ".cpp", below="src") + tree.files(".h", ".cpp", below="tests")
@@ -40,6 +44,11 @@ class SourceFiles(unittest.TestCase):
         if not command:
             self.skipTest("no clang-format %s here" % CLANG_FORMAT_RELEASE)
         self.assertEqual(unformatted(command, [str(path) for path in sources()]), [])
+
+    def test_none_switches_a_rule_off_for_itself(self):
+        for path in sources():
+            with self.subTest(file=tree.name(path)):
+                self.assertIsNone(SWITCHED_OFF.search(path.read_text(encoding="utf-8")))
 
     def test_none_is_too_long(self):
         longest = {tree.name(path): len(tree.lines(path))

@@ -2,7 +2,7 @@
 import pathlib
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
-NOT_SOURCES = {".git", "build", "__pycache__"}
+NOT_SOURCES = {".git", "__pycache__"}
 
 
 def files(*suffixes, below=""):
@@ -10,7 +10,8 @@ def files(*suffixes, below=""):
     found = []
     for path in sorted((ROOT / below).rglob("*")):
         relative = path.relative_to(ROOT)
-        if NOT_SOURCES.isdisjoint(relative.parts) and path.is_file():
+        built = relative.parts[0] == "build"
+        if not built and NOT_SOURCES.isdisjoint(relative.parts) and path.is_file():
             if not suffixes or path.suffix in suffixes:
                 found.append(path)
     return found
