@@ -17,11 +17,13 @@ TextBox::TextBox(Window& frame, const controls::ControlLayout& layout)
       input_(*this, *this),
       name_(handle(), layout.accessibleName) {
   send(EM_SETLIMITTEXT, 0);
+  putLine();
 }
 
 std::optional<LRESULT> TextBox::take(const Message& message) {
   if (storing_) return {};
   if (const auto taken = input_.take(message)) return taken;
+  if (const auto taken = takeFrame(message)) return taken;
   switch (message.id) {
     case WM_KEYDOWN:
       return {};

@@ -12,10 +12,14 @@ class TextBox : public Native<controls::TextBox> {
  public:
   TextBox(Window& frame, const controls::ControlLayout& layout);
 
+  void refresh() override;
+
  protected:
   std::optional<LRESULT> take(const Message& message) override;
   // The window text of a box is what is typed into it.
   void showCaption() override {}
+  void showEnabled() override;
+  void showBackColor() override;
 
   std::string loadText() const override;
   int loadLength() const override { return GetWindowTextLengthW(handle()); }
@@ -29,9 +33,16 @@ class TextBox : public Native<controls::TextBox> {
  private:
   std::wstring wideText() const;
   void store(UINT message, WPARAM wParam, const std::wstring& text);
+  std::optional<LRESULT> takeFrame(const Message& message);
+  LRESULT placeLine(const Message& message);
+  void putLine() const;
+  void paintBesideLine();
+  void repaint() const;
 
   TextInput input_;
   AccessibleName name_;
+  // What is within its edge, from the corner of the box.
+  RECT inside_ = {};
   // The text that is being changed is the program's doing.
   bool storing_ = false;
 };

@@ -1,0 +1,93 @@
+#include <algorithm>
+
+#include "win32/text_box.h"
+
+// A native box of one line writes it at the upper edge, however high the box is. So the line alone
+// is the box's client area, and what is left above and below belongs to its frame.
+namespace win32 {
+namespace {
+
+TEXTMETRICW metricsOf(HFONT font) {
+  const HDC screen = GetDC(nullptr);
+  const HGDIOBJ before = SelectObject(screen, font);
+  TEXTMETRICW metrics = {};
+  GetTextMetricsW(screen, &metrics);
+  SelectObject(screen, before);
+  ReleaseDC(nullptr, screen);
+  return metrics;
+}
+
+}  // namespace
+
+std::optional<LRESULT> TextBox::takeFrame(const Message& message) {
+  switch (message.id) {
+    case WM_NCCALCSIZE:
+      return placeLine(message);
+    case WM_NCPAINT: {
+      const LRESULT result = passOn(message);
+      paintBesideLine();
+      return result;
+    }
+    case WM_NCHITTEST:
+      return HTCLIENT;
+    default:
+      return {};
+  }
+}
+
+// Figures stand on the line of writing and have nothing below it: it is they that are centred.
+LRESULT TextBox::placeLine(const Message& message) {
+  auto& area = *reinterpret_cast<RECT*>(message.lParam);
+  const POINT corner = {area.left, area.top};
+  const LRESULT result = passOn(message);
+  inside_ = area;
+  OffsetRect(&inside_, -corner.x, -corner.y);
+  const TEXTMETRICW metrics = metricsOf(reinterpret_cast<HFONT>(send(WM_GETFONT)));
+  const LONG height = area.bottom - area.top;
+  const LONG rest = std::max(0L, height - metrics.tmHeight);
+  const LONG middleOfFigures = (metrics.tmAscent + metrics.tmInternalLeading) / 2;
+  area.top += std::clamp(height / 2 - middleOfFigures, 0L, rest);
+  area.bottom = std::min(area.bottom, area.top + metrics.tmHeight);
+  return result;
+}
+
+// The line's place depends on the font, of which the system does not tell the frame.
+void TextBox::putLine() const {
+  SetWindowPos(handle(), nullptr, 0, 0, 0, 0,
+               SWP_FRAMECHANGED | SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void TextBox::paintBesideLine() {
+  RECT line;
+  RECT box;
+  GetClientRect(handle(), &line);
+  MapWindowPoints(handle(), nullptr, reinterpret_cast<POINT*>(&line), 2);
+  GetWindowRect(handle(), &box);
+  OffsetRect(&line, -box.left, -box.top);
+  const HDC context = GetWindowDC(handle());
+  ExcludeClipRect(context, line.left, line.top, line.right, line.bottom);
+  FillRect(context, &inside_, prepareColors(context));
+  ReleaseDC(handle(), context);
+}
+
+void TextBox::repaint() const {
+  RedrawWindow(handle(), nullptr, nullptr, RDW_INVALIDATE | RDW_FRAME);
+}
+
+void TextBox::refresh() {
+  Native::refresh();
+  putLine();
+  repaint();
+}
+
+void TextBox::showEnabled() {
+  Native::showEnabled();
+  repaint();
+}
+
+void TextBox::showBackColor() {
+  Native::showBackColor();
+  repaint();
+}
+
+}  // namespace win32
