@@ -18,10 +18,16 @@ COLORREF colorOf(Color color) {
 COLORREF textColorOn(Color background) {
   if (background.scheme() == Color::Scheme::Window) return GetSysColor(COLOR_WINDOWTEXT);
   if (background.scheme() == Color::Scheme::ButtonFace) return GetSysColor(COLOR_BTNTEXT);
-  const COLORREF color = background.value();
+  return isDark(background.value()) ? RGB(255, 255, 255) : RGB(0, 0, 0);
+}
+
+int brightnessOf(COLORREF color) {
   // The eye sees green as brightest, then red.
-  const int brightness = 299 * GetRValue(color) + 587 * GetGValue(color) + 114 * GetBValue(color);
-  return brightness < 128'000 ? RGB(255, 255, 255) : RGB(0, 0, 0);
+  return (299 * GetRValue(color) + 587 * GetGValue(color) + 114 * GetBValue(color)) / 1000;
+}
+
+bool isDark(COLORREF color) {
+  return brightnessOf(color) < 128;
 }
 
 }  // namespace win32

@@ -8,6 +8,7 @@
 #include <algorithm>
 
 #include "win32/colors.h"
+#include "win32/light_icon.h"
 #include "win32/text.h"
 #include "win32/window.h"
 
@@ -35,9 +36,18 @@ int themeState(const NMCUSTOMDRAW& draw, bool down) {
 UINT classicState(const NMCUSTOMDRAW& draw, bool down) {
   UINT state = DFCS_BUTTONPUSH;
   if (has(draw, CDIS_DISABLED)) state |= DFCS_INACTIVE;
-  if (down) state |= DFCS_CHECKED;
-  if (has(draw, CDIS_SELECTED)) state |= DFCS_PUSHED;
+  if (down || has(draw, CDIS_SELECTED)) state |= DFCS_PUSHED;
   return state;
+}
+
+// The system would fill a key that is down with a pattern on which, in high contrast, nobody can
+// read. What is selected can be read in every scheme.
+void drawClassicKey(const NMCUSTOMDRAW& draw, bool down) {
+  RECT area = draw.rc;
+  DrawFrameControl(draw.hdc, &area, DFC_BUTTON, classicState(draw, down));
+  if (!down) return;
+  InflateRect(&area, -GetSystemMetrics(SM_CXEDGE), -GetSystemMetrics(SM_CYEDGE));
+  FillRect(draw.hdc, &area, GetSysColorBrush(COLOR_HIGHLIGHT));
 }
 
 }  // namespace
@@ -59,6 +69,7 @@ void KeyFace::refresh() {
   const std::wstring picture = L"KEY_" + wide(key_.layout().icon);
   icon_.reset(static_cast<HICON>(LoadImageW(GetModuleHandleW(nullptr), picture.c_str(), IMAGE_ICON,
                                             size, size, LR_DEFAULTCOLOR)));
+  if (icon_ && isDark(GetSysColor(COLOR_BTNFACE))) icon_ = lightened(icon_.get());
 }
 
 int KeyFace::iconSize() const {
@@ -86,7 +97,8 @@ void KeyFace::drawKey(const NMCUSTOMDRAW& draw, bool down) const {
     DrawThemeBackground(theme.get(), draw.hdc, BP_PUSHBUTTON, state, &area, nullptr);
     if (!isTinted()) GetThemeColor(theme.get(), BP_PUSHBUTTON, state, TMT_TEXTCOLOR, &textColor);
   } else {
-    DrawFrameControl(draw.hdc, &area, DFC_BUTTON, classicState(draw, down));
+    drawClassicKey(draw, down);
+    if (down) textColor = GetSysColor(COLOR_HIGHLIGHTTEXT);
   }
   tint(draw);
   if (icon_) {
