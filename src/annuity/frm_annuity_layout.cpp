@@ -55,7 +55,8 @@ constexpr Rect picture(int index) {
 constexpr FontLayout kFont = {"MS Sans Serif", 83, false};
 constexpr FontLayout kFieldFont = {"MS Sans Serif", 98, false};
 constexpr FontLayout kResultFont = {"MS Sans Serif", 98, true};
-constexpr FontLayout kAnswerFont = {"MS Sans Serif", 180, false};
+// Trillions, with their separators and cents, go into one line.
+constexpr FontLayout kAnswerFont = {"MS Sans Serif", 150, false};
 
 constexpr ControlKind kLabel = ControlKind::Label;
 constexpr ControlKind kTextBox = ControlKind::TextBox;

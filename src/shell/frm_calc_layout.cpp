@@ -48,9 +48,11 @@ constexpr FontLayout kWordFont = {"MS Sans Serif", 83, false};
 constexpr FontLayout kToggleFont = {"MS Sans Serif", 68, false};
 constexpr FontLayout kDigitFont = {"MS Sans Serif", 120, false};
 constexpr FontLayout kOperatorFont = {"MS Sans Serif", 135, false};
-// High and narrow: the entry box is as wide as the micro window, and holds 19 characters.
-constexpr FontLayout kEntryFont = {"Courier New", 120, true, 105};
-constexpr FontLayout kTapeFont = {"Terminal", 75, false};
+// High and narrow: the entry box is as wide as the micro window, and holds 19 characters at every
+// resolution, where a character's width is rounded to pixels.
+constexpr FontLayout kEntryFont = {"Courier New", 120, true, 100};
+// The 26 characters of a padded line go into the window as it first opens.
+constexpr FontLayout kTapeFont = {"Terminal", 72, false};
 
 constexpr ControlKind kButton = ControlKind::Button;
 constexpr ControlKind kToggle = ControlKind::ToggleButton;

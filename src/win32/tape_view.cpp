@@ -9,7 +9,7 @@ using controls::Alignment;
 namespace {
 
 // Between the text and the edge, in pixels.
-constexpr int kMargin = 2;
+constexpr int kMargin = 1;
 constexpr int kCaretWidth = 1;
 
 /// The screen's device context with a font, to measure with.
@@ -109,14 +109,20 @@ void TapeView::bringCaretIntoView() {
   }
 }
 
-// The system paints the whole scroll bar for each call, also when it says nothing new.
+// The system paints the whole scroll bar for each call, also when it says nothing new. A padded
+// line needs the place of the bar, which comes when there is something to scroll; figures that
+// stand at the right would jump then, and always have it beside them.
 void TapeView::updateScrollBar() {
-  const ScrollBar wanted = {lines_.count() - 1, linesInView(), firstLine_};
+  const ScrollBar wanted = {alignment_ == Alignment::Right, lines_.count() - 1, linesInView(),
+                            firstLine_};
   if (scrollBar_ == wanted) return;
+  const bool comesBack = wanted.always && !scrollBar_.always;
   scrollBar_ = wanted;
+  if (comesBack) ShowScrollBar(window_, SB_VERT, TRUE);
   SCROLLINFO info = {};
   info.cbSize = sizeof info;
-  info.fMask = SIF_RANGE | SIF_PAGE | SIF_POS | SIF_DISABLENOSCROLL;
+  info.fMask = SIF_RANGE | SIF_PAGE | SIF_POS;
+  if (wanted.always) info.fMask |= SIF_DISABLENOSCROLL;
   info.nMax = wanted.last;
   info.nPage = static_cast<UINT>(wanted.page);
   info.nPos = wanted.position;

@@ -50,6 +50,7 @@ class TapeView {
  private:
   // What the scroll bar shows.
   struct ScrollBar {
+    bool always = true;
     int last = -1;
     int page = 0;
     int position = 0;
