@@ -1,0 +1,167 @@
+#include <vector>
+
+#include "driver/native_handles.h"
+#include "looks/looks_test_base.h"
+#include "win32/text.h"
+
+// That nothing is cut off and nothing stands askew, whatever the resolution.
+namespace looks {
+namespace {
+
+using controls::ControlKind;
+
+/// A text that is seen on a label or a key.
+struct Shown {
+  HWND control;
+  std::wstring text;
+  ControlKind kind;
+};
+
+class LooksAt : public LooksTest, public testing::WithParamInterface<int> {
+ protected:
+  std::vector<Shown> shownIn(const std::string& name) {
+    std::vector<Shown> shown;
+    stage().inspect([&] {
+      for (const auto& control : stage().findWindow(name)->controls()) {
+        const controls::ControlLayout& layout = control->layout();
+        const std::string_view text =
+            layout.face.empty() ? std::string_view(control->caption()) : layout.face;
+        if (control->visible() && !text.empty() && layout.icon.empty())
+          shown.push_back({driver::handleOf(*control), win32::wide(text), layout.kind});
+      }
+    });
+    return shown;
+  }
+
+  /// What the frame of a button, or the circle of an option, leaves for the text.
+  int roomIn(const Shown& shown) {
+    const LONG width = clientSize(shown.control).cx;
+    if (shown.kind == ControlKind::Label) return width;
+    const LONG besides = shown.kind == ControlKind::OptionButton ? 20 : 4;
+    return width - MulDiv(besides, GetParam(), 96);
+  }
+
+  void expectTextsFit(const std::string& name) {
+    setResolution(window(name), GetParam());
+    const std::vector<Shown> texts = shownIn(name);
+    EXPECT_GT(texts.size(), 3U);
+    for (const Shown& shown : texts) {
+      const int room = roomIn(shown);
+      const bool label = shown.kind == ControlKind::Label;
+      const SIZE needed = sizeOf(shown.control, shown.text, label ? room : 0);
+      EXPECT_LE(needed.cx, room) << win32::narrow(shown.text);
+      EXPECT_LE(needed.cy, clientSize(shown.control).cy) << win32::narrow(shown.text);
+    }
+  }
+
+  /// The figures of the box's line are as far from its upper edge as from its lower, to a pixel.
+  void expectCentered(HWND box) {
+    const TEXTMETRICW metrics = metricsOf(box);
+    POINT line = {0, 0};
+    ClientToScreen(box, &line);
+    const RECT whole = placeOf(box);
+    const LONG figuresTop = line.y + metrics.tmInternalLeading - whole.top;
+    const LONG figuresBottom = whole.bottom - (line.y + metrics.tmAscent);
+    EXPECT_EQ(clientSize(box).cy, metrics.tmHeight);
+    EXPECT_NEAR(figuresTop, figuresBottom, 1);
+  }
+
+  /// Where a character of the tape begins.
+  static int tapeX(HWND tape, int character) {
+    return static_cast<short>(
+        LOWORD(SendMessageW(tape, EM_POSFROMCHAR, static_cast<WPARAM>(character), 0)));
+  }
+};
+
+TEST_P(LooksAt, TextsOfTheMainWindowFit) {
+  tell("menu mnuWinMode(1)");
+  expectTextsFit("frmCalc");
+}
+
+TEST_P(LooksAt, TextsOfTheFinancialCalculatorFitInEachConfiguration) {
+  for (const char* item : {"mnuWinFinCalcLoan", "mnuWinFinCalcInv", "mnuFinCalcStandard"}) {
+    SCOPED_TRACE(item);
+    tell(std::string("menu ") + item);
+    expectTextsFit("frmAnnuity");
+  }
+}
+
+TEST_P(LooksAt, TextsOfTheAboutBoxFit) {
+  tell("menu mnuHelpAbout");
+  expectTextsFit("frmAbout");
+  tell("close frmAbout");
+}
+
+TEST_P(LooksAt, LargeAnswersStayInTheirLineAndTwoLinesInTheirPlace) {
+  tell("menu mnuWinFinCalcLoan");
+  const HWND answer = control("frmAnnuity", "lblAnswer");
+  setResolution(window("frmAnnuity"), GetParam());
+  EXPECT_LE(sizeOf(answer, L"$ -888,888,888,888,888.88").cx, clientSize(answer).cx);
+  EXPECT_LE(sizeOf(answer, L"188  Years\r\n11.88  Months").cy, clientSize(answer).cy);
+}
+
+TEST_P(LooksAt, FiguresStandInTheMiddleOfTheirBox) {
+  tell("menu mnuWinFinCalcLoan");
+  setResolution(window("frmCalc"), GetParam());
+  setResolution(window("frmAnnuity"), GetParam());
+  for (const char* box : {"txtEntry", "txtDec"}) expectCentered(control("frmCalc", box));
+  for (const char* box : {"txtNper", "txtRate", "txtPmt", "txtPV", "txtFV"})
+    expectCentered(control("frmAnnuity", box));
+}
+
+TEST_P(LooksAt, EntryBoxShowsAllThatItTakes) {
+  const HWND entry = control("frmCalc", "txtEntry");
+  setResolution(window("frmCalc"), GetParam());
+  constexpr int kCaret = 1;
+  EXPECT_LE(sizeOf(entry, L"888,888,888,888,888").cx + kCaret, clientSize(entry).cx);
+}
+
+TEST_P(LooksAt, PaddedTapeShowsItsHeaderAndTheSignsOfItsFigures) {
+  setResolution(window("frmCalc"), GetParam());
+  tell("menu mnuWinPadTape");
+  const HWND paper = control("frmCalc", "txtTape");
+  constexpr int kHeader = 26;
+  EXPECT_LE(tapeX(paper, kHeader), clientSize(paper).cx);
+  tell("menu mnuWinMode(0)");
+  for (int line = 0; line < 25; ++line) tell("type \"1+\"");
+  const std::string text = tape();
+  const int sign = static_cast<int>(text.rfind('+'));
+  constexpr int kGap = 1;
+  EXPECT_LE(tapeX(paper, sign + 1) - kGap, clientSize(paper).cx);
+  EXPECT_GT(tapeX(paper, sign), 0);
+}
+
+INSTANTIATE_TEST_SUITE_P(Resolutions, LooksAt, testing::ValuesIn(kResolutions),
+                         [](const auto& test) { return std::to_string(test.param * 100 / 96); });
+
+class Looks : public LooksTest {};
+
+TEST_F(Looks, BarOfThePlainTapeIsAlwaysThere) {
+  const HWND tape = control("frmCalc", "txtTape");
+  EXPECT_TRUE(GetWindowLongW(tape, GWL_STYLE) & WS_VSCROLL);
+  const SIZE size = clientSize(tape);
+  tell("menu mnuWinPadTape");
+  EXPECT_FALSE(GetWindowLongW(tape, GWL_STYLE) & WS_VSCROLL);
+  EXPECT_GT(clientSize(tape).cx, size.cx);
+  tell("menu mnuWinPadTape");
+  EXPECT_TRUE(GetWindowLongW(tape, GWL_STYLE) & WS_VSCROLL);
+  EXPECT_EQ(clientSize(tape).cx, size.cx);
+}
+
+TEST_F(Looks, ClickBesideTheLineOfABoxIsAClickIntoIt) {
+  const HWND entry = control("frmCalc", "txtEntry");
+  const RECT box = placeOf(entry);
+  const LONG middle = (box.left + box.right) / 2;
+  for (const LONG y : {box.top + 2, box.bottom - 3})
+    EXPECT_EQ(SendMessageW(entry, WM_NCHITTEST, 0, MAKELPARAM(middle, y)), HTCLIENT);
+}
+
+TEST_F(Looks, AboutBoxCannotBePutAside) {
+  tell("menu mnuHelpAbout");
+  const LONG style = GetWindowLongW(window("frmAbout"), GWL_STYLE);
+  EXPECT_EQ(style & (WS_MINIMIZEBOX | WS_MAXIMIZEBOX | WS_THICKFRAME), 0);
+  tell("close frmAbout");
+}
+
+}  // namespace
+}  // namespace looks

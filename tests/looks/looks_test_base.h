@@ -1,0 +1,35 @@
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+
+#include "desktop/desktop_test.h"
+
+namespace looks {
+
+/// The resolutions of 100, 125, 150, 200 and 300 percent.
+inline constexpr int kResolutions[] = {96, 120, 144, 192, 288};
+
+/// The program on a monitor whose resolution the test chooses.
+class LooksTest : public desktop::DesktopTest {
+ protected:
+  void TearDown() override;
+
+  HWND window(const std::string& name);
+  HWND control(const std::string& window, const std::string& name);
+
+  /// Tells the window that its monitor has another resolution, as the system does.
+  static void setResolution(HWND window, int dpi);
+  /// The same with a place for the window, which is the system's suggestion.
+  static void setResolution(HWND window, int dpi, const RECT& suggested);
+
+  static RECT placeOf(HWND window);
+  static SIZE clientSize(HWND window);
+  static LOGFONTW fontOf(HWND control);
+  static TEXTMETRICW metricsOf(HWND control);
+  /// What a text takes in the control's font; several lines where it breaks at this width.
+  static SIZE sizeOf(HWND control, const std::wstring& text, int width = 0);
+};
+
+}  // namespace looks
