@@ -14,17 +14,18 @@ namespace {
 
 struct Face {
   std::string_view name;
-  const wchar_t* used;
+  std::array<const wchar_t*, 3> used;
   BYTE pitchAndFamily;
 };
 
 // A layout names classic faces. Two of them are bitmaps, made for one resolution and blurred or too
-// small at any other, so that a scalable face of the same proportions takes their place. The pitch
-// lets a system without the face choose one whose figures still stand in columns.
+// small at any other, so that a scalable face of the same proportions takes their place: the first
+// that the system has. The pitch lets one that has none of them choose a face whose figures still
+// stand in columns.
 constexpr std::array kFaces = {
-    Face{"MS Sans Serif", L"Tahoma", VARIABLE_PITCH | FF_SWISS},
-    Face{"Terminal", L"Lucida Console", FIXED_PITCH | FF_MODERN},
-    Face{"Courier New", L"Courier New", FIXED_PITCH | FF_MODERN},
+    Face{"MS Sans Serif", {L"Tahoma", L"Segoe UI", L"Arial"}, VARIABLE_PITCH | FF_SWISS},
+    Face{"Terminal", {L"Lucida Console", L"Consolas", L"Courier New"}, FIXED_PITCH | FF_MODERN},
+    Face{"Courier New", {L"Courier New", L"Consolas", L"Lucida Console"}, FIXED_PITCH | FF_MODERN},
 };
 
 // Faces known for their symbols.
@@ -33,19 +34,42 @@ constexpr std::array<std::string_view, 4> kSymbolFaces = {"Segoe UI Symbol", "Se
 
 HFONT createFont(int height, int width, bool bold, const wchar_t* face, BYTE pitchAndFamily) {
   return CreateFontW(height, width, 0, 0, bold ? FW_BOLD : FW_NORMAL, FALSE, FALSE, FALSE,
-                     DEFAULT_CHARSET, OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY,
+                     DEFAULT_CHARSET, OUT_TT_ONLY_PRECIS, CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY,
                      pitchAndFamily, face);
 }
 
+// The screen's device context with a font in it.
+class FontOnScreen {
+ public:
+  explicit FontOnScreen(HFONT font) : before_(SelectObject(context_, font)) {}
+  ~FontOnScreen() {
+    SelectObject(context_, before_);
+    ReleaseDC(nullptr, context_);
+  }
+  FontOnScreen(const FontOnScreen&) = delete;
+  FontOnScreen& operator=(const FontOnScreen&) = delete;
+
+  HDC context() const { return context_; }
+
+ private:
+  HDC context_ = GetDC(nullptr);
+  HGDIOBJ before_;
+};
+
 bool canShow(HFONT font, const std::wstring& text) {
-  const HDC screen = GetDC(nullptr);
-  const HGDIOBJ before = SelectObject(screen, font);
+  const FontOnScreen screen(font);
   std::vector<WORD> glyphs(text.size());
-  GetGlyphIndicesW(screen, text.c_str(), static_cast<int>(text.size()), glyphs.data(),
+  GetGlyphIndicesW(screen.context(), text.c_str(), static_cast<int>(text.size()), glyphs.data(),
                    GGI_MARK_NONEXISTING_GLYPHS);
-  SelectObject(screen, before);
-  ReleaseDC(nullptr, screen);
   return std::find(glyphs.begin(), glyphs.end(), 0xFFFF) == glyphs.end();
+}
+
+// A system without the face has made the font from another.
+bool isMadeFrom(HFONT font, const wchar_t* face) {
+  const FontOnScreen screen(font);
+  wchar_t name[LF_FACESIZE] = L"";
+  GetTextFaceW(screen.context(), LF_FACESIZE, name);
+  return lstrcmpiW(name, face) == 0;
 }
 
 }  // namespace
@@ -58,10 +82,13 @@ HFONT Fonts::font(const FontLayout& layout, std::string_view face) {
   const int width = scale_.toPixels(layout.characterWidth);
   const auto known = std::find_if(kFaces.begin(), kFaces.end(),
                                   [face](const Face& entry) { return entry.name == face; });
-  if (known != kFaces.end()) {
-    font.reset(createFont(height, width, layout.bold, known->used, known->pitchAndFamily));
-  } else {
+  if (known == kFaces.end()) {
     font.reset(createFont(height, width, layout.bold, wide(face).c_str(), DEFAULT_PITCH));
+    return font.get();
+  }
+  for (const wchar_t* used : known->used) {
+    font.reset(createFont(height, width, layout.bold, used, known->pitchAndFamily));
+    if (isMadeFrom(font.get(), used)) break;
   }
   return font.get();
 }

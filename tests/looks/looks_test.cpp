@@ -2,6 +2,7 @@
 
 #include "driver/native_handles.h"
 #include "looks/looks_test_base.h"
+#include "win32/light_icon.h"
 #include "win32/text.h"
 
 // That nothing is cut off and nothing stands askew, whatever the resolution.
@@ -131,6 +132,18 @@ TEST_P(LooksAt, PaddedTapeShowsItsHeaderAndTheSignsOfItsFigures) {
   EXPECT_GT(tapeX(paper, sign), 0);
 }
 
+// Outlines are as sharp at every resolution, and figures of one width stand in columns.
+TEST_P(LooksAt, FontsAreOutlinesAndThoseOfFiguresFixed) {
+  setResolution(window("frmCalc"), GetParam());
+  for (const char* name : {"txtEntry", "txtDec", "txtTape"}) {
+    const BYTE pitch = metricsOf(control("frmCalc", name)).tmPitchAndFamily;
+    EXPECT_TRUE(pitch & TMPF_VECTOR) << name;
+    EXPECT_FALSE(pitch & TMPF_FIXED_PITCH) << name << ": the flag says that the widths differ";
+  }
+  for (const Shown& shown : shownIn("frmCalc"))
+    EXPECT_TRUE(metricsOf(shown.control).tmPitchAndFamily & TMPF_VECTOR);
+}
+
 INSTANTIATE_TEST_SUITE_P(Resolutions, LooksAt, testing::ValuesIn(kResolutions),
                          [](const auto& test) { return std::to_string(test.param * 100 / 96); });
 
@@ -154,6 +167,26 @@ TEST_F(Looks, ClickBesideTheLineOfABoxIsAClickIntoIt) {
   const LONG middle = (box.left + box.right) / 2;
   for (const LONG y : {box.top + 2, box.bottom - 3})
     EXPECT_EQ(SendMessageW(entry, WM_NCHITTEST, 0, MAKELPARAM(middle, y)), HTCLIENT);
+}
+
+TEST_F(Looks, PictureForADarkKeyHasLightLines) {
+  constexpr int kSide = 16;
+  const std::vector<BYTE> mask(kSide * kSide / 8);
+  std::vector<DWORD> picture(kSide * kSide, 0xFF1F3A5F);
+  picture[0] = 0xFF2E75B6;
+  picture[1] = 0x00000000;
+  const win32::OwnedIcon icon(CreateIcon(nullptr, kSide, kSide, 1, 32, mask.data(),
+                                         reinterpret_cast<BYTE*>(picture.data())));
+  const win32::OwnedIcon light = win32::lightened(icon.get());
+  ICONINFO parts = {};
+  ASSERT_TRUE(GetIconInfo(light.get(), &parts));
+  DWORD drawn[kSide * kSide] = {};
+  GetBitmapBits(parts.hbmColor, sizeof drawn, drawn);
+  DeleteObject(parts.hbmColor);
+  DeleteObject(parts.hbmMask);
+  EXPECT_EQ(drawn[0], picture[0]) << "what is bright enough stays";
+  EXPECT_EQ(drawn[1], picture[1]) << "what is not seen stays unseen";
+  EXPECT_EQ(drawn[2], 0xFFC7CED7);
 }
 
 TEST_F(Looks, AboutBoxCannotBePutAside) {
