@@ -1,6 +1,7 @@
 #include "desktop/program/program_test.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace program {
 namespace {
@@ -39,16 +40,20 @@ void ProgramTest::close() {
 }
 
 void ProgramTest::expectText(HWND window, const std::wstring& text) {
-  eventually([&] { return textOf(window) == text; });
-  EXPECT_EQ(textOf(window), text);
+  std::wstring seen;
+  eventually([&] { return (seen = textOf(window)) == text; });
+  EXPECT_EQ(seen, text);
 }
 
 HWND ProgramTest::expectMessage(const std::wstring& text) {
-  const HWND box = awaitWindow("a message", [] {
-    const HWND shown = program().dialog();
-    return GetForegroundWindow() == shown ? shown : nullptr;
-  });
+  const HWND box = awaitDialog();
   EXPECT_EQ(textOf(GetDlgItem(box, kTextOfMessage)), text);
+  return box;
+}
+
+HWND ProgramTest::awaitDialog() {
+  const HWND box = awaitWindow("a message", [] { return program().dialog(); });
+  awaitInFront(box);
   return box;
 }
 
@@ -58,7 +63,29 @@ void ProgramTest::answer(WORD key) {
   await("the end of a message", [box] { return !IsWindow(box); });
 }
 
+void ProgramTest::awaitInFront(HWND window) {
+  await("a window in front", [window] {
+    const HWND front = GetForegroundWindow();
+    if (!program().owns(front)) SetForegroundWindow(window);
+    return front == window;
+  });
+}
+
+void ProgramTest::awaitRest() {
+  constexpr ULONGLONG kRest = 250;
+  const auto seen = [] { return std::pair(GetForegroundWindow(), program().focus()); };
+  auto last = seen();
+  ULONGLONG since = GetTickCount64();
+  await("a desktop at rest", [&] {
+    const auto now = seen();
+    if (now != last) since = GetTickCount64();
+    last = now;
+    return now.second && GetTickCount64() - since >= kRest;
+  });
+}
+
 void ProgramTest::chooseFromMenu(WORD menu, std::string_view letters) {
+  awaitRest();
   pressWith(VK_MENU, menu);
   type(letters);
 }

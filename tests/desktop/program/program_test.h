@@ -32,11 +32,20 @@ class ProgramTest : public testing::Test {
 
   /// Waits until a window has the text; reports it when it has another.
   static void expectText(HWND window, const std::wstring& text);
+  /// Waits until a window of the program's is in front. On Wine, closing a window may leave the
+  /// keys with nobody; then the user goes to that window.
+  static void awaitInFront(HWND window);
+  /// Waits for a message or another dialog of the system's, and gives it.
+  static HWND awaitDialog();
   /// Waits for a message of the program's with that text, which must come.
   HWND expectMessage(const std::wstring& text);
   /// Answers the message that is shown by a key, and waits until it is gone.
   void answer(WORD key);
 
+  /// Waits until the same control of the program has had the focus for a while. On Wine the
+  /// screen's news of a window that has come or gone closes a menu that has been opened in the
+  /// meantime.
+  static void awaitRest();
   /// Opens a menu with Alt and its letter, and chooses in it by letters.
   static void chooseFromMenu(WORD menu, std::string_view letters);
   /// A window of another program that has opened during the test; null without one.

@@ -1,0 +1,146 @@
+// The identifiers that the next header declares come from here.
+#include <initguid.h>
+
+#include <oleacc.h>
+
+#include <set>
+
+#include "desktop/program/program_test.h"
+
+namespace program {
+namespace {
+
+using Names = std::set<std::wstring>;
+
+// What a screen reader says of a control.
+std::wstring accessibleName(HWND control) {
+  IAccessible* object = nullptr;
+  if (FAILED(AccessibleObjectFromWindow(control, static_cast<DWORD>(OBJID_CLIENT), IID_IAccessible,
+                                        reinterpret_cast<void**>(&object))))
+    return L"(no object)";
+  VARIANT self = {};
+  self.vt = VT_I4;
+  self.lVal = CHILDID_SELF;
+  BSTR name = nullptr;
+  object->get_accName(self, &name);
+  const std::wstring result(name ? name : L"(no name)");
+  SysFreeString(name);
+  object->Release();
+  return result;
+}
+
+class AccessibleNamesTest : public ProgramTest {
+ protected:
+  void SetUp() override {
+    ProgramTest::SetUp();
+    CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
+    start();
+  }
+  void TearDown() override {
+    ProgramTest::TearDown();
+    CoUninitialize();
+  }
+
+  static Names namesIn(HWND window) {
+    Names names;
+    for (HWND control : shownChildren(window)) names.insert(accessibleName(control));
+    return names;
+  }
+
+  /// Opens one of the financial calculators, and sees its note off.
+  HWND openCalculator(int place, const wchar_t* title) {
+    chooseFromMenu('W', "F");
+    for (int down = 0; down < place; ++down) press(VK_DOWN);
+    press(VK_RETURN);
+    awaitDialog();
+    answer('Y');
+    return awaitWindow("the calculator", [title] { return program().windowTitled(title); });
+  }
+};
+
+TEST_F(AccessibleNamesTest, EveryControlOfTheMainWindowSaysWhatItDoes) {
+  const Names expected = {L"Entry",
+                          L"Tape",
+                          L"Decimal places",
+                          L"Decimals:",
+                          L"0",
+                          L"1",
+                          L"2",
+                          L"3",
+                          L"4",
+                          L"5",
+                          L"6",
+                          L"7",
+                          L"8",
+                          L"9",
+                          L"Decimal point",
+                          L"Plus",
+                          L"Minus",
+                          L"Multiply",
+                          L"Divide",
+                          L"Equals",
+                          L"Percent",
+                          L"Change sign",
+                          L"Backspace",
+                          L"sqrt",
+                          L"Memory clear",
+                          L"Memory recall",
+                          L"Memory store",
+                          L"M +",
+                          L"CEntry",
+                          L"CTotal",
+                          L"CTape",
+                          L"CAll",
+                          L"Floating decimal",
+                          L"Stationary decimal",
+                          L"Tape off"};
+  EXPECT_EQ(namesIn(program().mainWindow()), expected);
+}
+
+TEST_F(AccessibleNamesTest, BoxesSayWhatTheyHold) {
+  EXPECT_EQ(accessibleName(program().entry()), L"Entry");
+  EXPECT_EQ(accessibleName(program().tape()), L"Tape");
+  EXPECT_EQ(accessibleName(program().decimals()), L"Decimal places");
+}
+
+TEST_F(AccessibleNamesTest, FieldsOfTheLoanCalculatorGoByTheirLabels) {
+  const HWND window = openCalculator(0, L"Loan Annuities");
+  Names fields;
+  for (HWND control : shownChildren(window))
+    if (classOf(control) == L"Edit") fields.insert(accessibleName(control));
+  EXPECT_EQ(fields, (Names{L"Length of Time:", L"Annual Interest Rate:", L"Monthly Payment:",
+                           L"Loan Amount:", L"Balloon Payment:"}));
+}
+
+TEST_F(AccessibleNamesTest, FieldsOfTheInvestmentCalculatorGoByTheirLabels) {
+  const HWND window = openCalculator(1, L"Investment Annuities");
+  Names fields;
+  for (HWND control : shownChildren(window))
+    if (classOf(control) == L"Edit") fields.insert(accessibleName(control));
+  EXPECT_EQ(fields, (Names{L"Length of Time:", L"Annual Interest Rate:", L"Monthly Investment:",
+                           L"Dollars Invested Today:", L"Future Value:"}));
+}
+
+TEST_F(AccessibleNamesTest, ButtonsOfTheFinancialCalculatorSayWhatTheyDo) {
+  const HWND window = openCalculator(0, L"Loan Annuities");
+  Names buttons;
+  for (HWND control : shownChildren(window))
+    if (classOf(control) == L"Button") buttons.insert(accessibleName(control));
+  EXPECT_EQ(buttons,
+            (Names{L"Calculate", L"Rotate configuration", L"Clear all boxes", L"Help", L"Months",
+                   L"Years", L"Payments are due by:", L"the end (default)", L"the beginning"}));
+}
+
+TEST_F(AccessibleNamesTest, AboutBoxSaysWhatItShows) {
+  chooseFromMenu('H', "A");
+  const HWND about =
+      awaitWindow("the About box", [] { return program().windowTitled(L"About Tallyrex"); });
+  EXPECT_EQ(namesIn(about),
+            (Names{L"Tallyrex", L"Software Version:  1.0",
+                   L"A desktop adding machine with a paper tape, and a financial calculator beside "
+                   L"it.",
+                   L"OK", L"System Info..."}));
+}
+
+}  // namespace
+}  // namespace program

@@ -1,0 +1,91 @@
+#include "desktop/program/picture.h"
+#include "desktop/program/program_test.h"
+
+namespace program {
+namespace {
+
+constexpr wchar_t kMessage[] =
+    L"On the next screen choose the color you would like as the background color for the text "
+    L"boxes. Choose Cancel on the next screen to quit.";
+constexpr COLORREF kPaleCyan = RGB(128, 255, 255);
+constexpr COLORREF kChosen = RGB(255, 240, 160);
+// The boxes of the system's picker for the three parts of a colour.
+constexpr int kRed = 706;
+constexpr int kGreen = 707;
+constexpr int kBlue = 708;
+
+class ColorTest : public ProgramTest {
+ protected:
+  /// The label in front of the decimals box is clicked twice; gives the picker.
+  HWND openPicker() {
+    HWND label = nullptr;
+    for (HWND child : shownChildren(program().mainWindow()))
+      if (textOf(child) == L"Decimals:") label = child;
+    doubleClick(middleOf(label));
+    expectMessage(kMessage);
+    answer(VK_RETURN);
+    return awaitWindow("the colour picker", [] {
+      const HWND dialog = program().dialog();
+      return dialog && GetDlgItem(dialog, kBlue) ? dialog : nullptr;
+    });
+  }
+
+  static void end(HWND picker, int button) {
+    PostMessageW(GetDlgItem(picker, button), BM_CLICK, 0, 0);
+    await("the end of the picker", [picker] { return !IsWindow(picker); });
+  }
+
+  void choose(COLORREF color) {
+    const HWND picker = openPicker();
+    const auto put = [picker](int box, int part) {
+      SendMessageW(GetDlgItem(picker, box), WM_SETTEXT, 0,
+                   reinterpret_cast<LPARAM>(std::to_wstring(part).c_str()));
+    };
+    put(kRed, GetRValue(color));
+    put(kGreen, GetGValue(color));
+    put(kBlue, GetBValue(color));
+    end(picker, IDOK);
+  }
+
+  /// Of the entry box, which has the focus and is empty.
+  static void expectEntryColor(COLORREF color) {
+    constexpr int kInside = 6;
+    const RECT place = placeOf(program().entry());
+    const auto seen = [&] { return colorAt({place.left + kInside, place.top + kInside}); };
+    eventually([&] { return seen() == color; });
+    EXPECT_EQ(seen(), color);
+  }
+
+  std::wstring stored() { return settings().get(L"glngTextBackColor"); }
+};
+
+TEST_F(ColorTest, ColoursTheBoxesAndIsKept) {
+  start();
+  expectEntryColor(kPaleCyan);
+  choose(kChosen);
+  expectEntryColor(kChosen);
+  EXPECT_EQ(stored(), std::to_wstring(kChosen));
+  close();
+  start();
+  expectEntryColor(kChosen);
+  close();
+  EXPECT_EQ(stored(), std::to_wstring(kChosen));
+}
+
+TEST_F(ColorTest, BlackIsNoColour) {
+  start();
+  choose(RGB(0, 0, 0));
+  expectEntryColor(kPaleCyan);
+  EXPECT_EQ(stored(), L"");
+}
+
+TEST_F(ColorTest, CancelLeavesItAsItIs) {
+  start();
+  choose(kChosen);
+  end(openPicker(), IDCANCEL);
+  expectEntryColor(kChosen);
+  EXPECT_EQ(stored(), std::to_wstring(kChosen));
+}
+
+}  // namespace
+}  // namespace program

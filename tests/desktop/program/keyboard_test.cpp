@@ -1,0 +1,231 @@
+#include <array>
+
+#include "desktop/program/program_test.h"
+
+namespace program {
+namespace {
+
+// The keys row by row, as they stand.
+constexpr std::array kTabOrder = {
+    L"entry box",
+    L"CEntry",
+    L"Memory clear",
+    L"Divide",
+    L"Backspace",
+    L"CTotal",
+    L"Memory recall",
+    L"7",
+    L"8",
+    L"9",
+    L"Multiply",
+    L"Percent",
+    L"CTape",
+    L"Memory store",
+    L"4",
+    L"5",
+    L"6",
+    L"Minus",
+    L"Change sign",
+    L"CAll",
+    L"M +",
+    L"1",
+    L"2",
+    L"3",
+    L"Plus",
+    L"Equals",
+    L"sqrt",
+    L"0",
+    L"Decimal point",
+    L"Floating decimal",
+    L"Stationary decimal",
+    L"Tape off",
+    L"tape",
+    L"decimals box",
+};
+
+// Whoever has no mouse.
+class KeyboardTest : public ProgramTest {
+ protected:
+  void SetUp() override {
+    ProgramTest::SetUp();
+    start();
+  }
+
+  static HWND window() { return program().mainWindow(); }
+
+  static std::wstring nameOf(HWND control) {
+    if (control == program().entry()) return L"entry box";
+    if (control == program().decimals()) return L"decimals box";
+    if (control == program().tape()) return L"tape";
+    return plainTextOf(control);
+  }
+
+  static void expectFocus(const std::wstring& name) {
+    eventually([&] { return nameOf(program().focus()) == name; });
+    EXPECT_EQ(nameOf(program().focus()), name);
+  }
+
+  static void goTo(const std::wstring& name) {
+    for (std::size_t i = 0; i < kTabOrder.size() && nameOf(program().focus()) != name; ++i) {
+      const HWND before = program().focus();
+      press(VK_TAB);
+      await("the focus at the next control",
+            [before] { return program().focus() != before && program().focus() != nullptr; });
+    }
+    ASSERT_EQ(nameOf(program().focus()), name);
+  }
+
+  static bool isPressed(const wchar_t* toggle) {
+    return SendMessageW(TestedProgram::key(window(), toggle), BM_GETCHECK, 0, 0) == BST_CHECKED;
+  }
+
+  static void expectPressed(const wchar_t* toggle, bool pressed) {
+    eventually([&] { return isPressed(toggle) == pressed; });
+    EXPECT_EQ(isPressed(toggle), pressed);
+  }
+
+  static void expectQuestionAndDecline(const std::wstring& title) {
+    EXPECT_EQ(textOf(awaitDialog()), title);
+    type("n");
+    await("the end of a question", [] { return program().dialog() == nullptr; });
+  }
+};
+
+TEST_F(KeyboardTest, TabLeadsThroughEveryControlRowByRow) {
+  for (const wchar_t* name : kTabOrder) {
+    expectFocus(name);
+    press(VK_TAB);
+  }
+  expectFocus(kTabOrder.front());
+}
+
+TEST_F(KeyboardTest, ShiftAndTabLeadBack) {
+  for (auto name = kTabOrder.rbegin(); name != kTabOrder.rend(); ++name) {
+    pressWith(VK_SHIFT, VK_TAB);
+    expectFocus(*name);
+  }
+}
+
+TEST_F(KeyboardTest, SpaceAndEnterPressTheKeyThatTabHasReached) {
+  goTo(L"7");
+  press(VK_SPACE);
+  expectText(program().entry(), L"7");
+  expectFocus(L"entry box");
+  goTo(L"5");
+  press(VK_RETURN);
+  expectText(program().entry(), L"75");
+  goTo(L"Tape off");
+  press(VK_SPACE);
+  expectPressed(L"Tape off", true);
+}
+
+TEST_F(KeyboardTest, AccessKeysPressTheirKeys) {
+  type("5");
+  expectText(program().entry(), L"5");
+  pressWith(VK_MENU, 'M');
+  pressWith(VK_MENU, 'N');
+  expectText(program().entry(), L"");
+  goTo(L"Memory recall");
+  press(VK_SPACE);
+  expectText(program().entry(), L"5");
+  pressWith(VK_MENU, 'T');
+  expectText(program().tape(), L"Top\r\n0.00 * \r\n");
+  pressWith(VK_MENU, 'P');
+  expectText(program().tape(), L"Top");
+  type("12+");
+  expectText(program().tape(), L"Top\r\n12.00   ");
+  pressWith(VK_MENU, 'A');
+  expectText(program().tape(), L"Top");
+  expectText(program().entry(), L"");
+}
+
+TEST_F(KeyboardTest, FileMenuByItsLetters) {
+  chooseFromMenu('F', "S");
+  expectQuestionAndDecline(L"Save Tape Display");
+  chooseFromMenu('F', "P");
+  expectQuestionAndDecline(L"Print Tape Display");
+  chooseFromMenu('F', "X");
+  program().awaitEnd();
+}
+
+TEST_F(KeyboardTest, EditMenuByItsLetters) {
+  type("125");
+  expectText(program().entry(), L"125");
+  pressWith(VK_SHIFT, VK_HOME);
+  chooseFromMenu('E', "T");
+  expectText(program().entry(), L"");
+  chooseFromMenu('E', "P");
+  expectText(program().entry(), L"125");
+  pressWith(VK_SHIFT, VK_HOME);
+  chooseFromMenu('E', "C");
+  pressWith(VK_MENU, 'N');
+  expectText(program().entry(), L"");
+  chooseFromMenu('E', "P");
+  expectText(program().entry(), L"125");
+  chooseFromMenu('E', "S");
+  expectPressed(L"Stationary decimal", true);
+  chooseFromMenu('E', "F");
+  expectPressed(L"Floating decimal", true);
+  chooseFromMenu('E', "E");
+  awaitDialog();
+  answer(VK_RETURN);
+  chooseFromMenu('E', "N");
+  awaitDialog();
+  answer(VK_RETURN);
+  awaitWindow("Notepad", [this] { return openedWindow(L"Notepad"); });
+}
+
+TEST_F(KeyboardTest, WinMenuByItsLetters) {
+  const auto width = [] { return placeOf(window()).right - placeOf(window()).left; };
+  const auto normal = width();
+  chooseFromMenu('W', "OA");
+  expectText(window(), L"Add Mode, Tallyrex");
+  chooseFromMenu('W', "OC");
+  expectText(window(), L"Calc Mode, Tallyrex");
+  chooseFromMenu('W', "P");
+  expectText(program().tape(), L"Top                    Top");
+  chooseFromMenu('W', "T");
+  expectPressed(L"Tape off", true);
+  chooseFromMenu('W', "A");
+  const auto style = [] { return GetWindowLongW(window(), GWL_EXSTYLE); };
+  await("always on top", [&] { return (style() & WS_EX_TOPMOST) != 0; });
+  chooseFromMenu('W', "A");
+  await("no longer on top", [&] { return (style() & WS_EX_TOPMOST) == 0; });
+  chooseFromMenu('W', "M");
+  await("the micro window", [&] { return width() < normal && width() > 0; });
+  chooseFromMenu('W', "M");
+  await("the normal window", [&] { return width() == normal; });
+}
+
+// The menu of the financial calculators opens at its first; the arrows lead on.
+TEST_F(KeyboardTest, FinancialCalculatorsByLettersAndArrows) {
+  int downs = 0;
+  for (const wchar_t* title :
+       {L"Loan Annuities", L"Investment Annuities", L"Standard Annuity Calc"}) {
+    chooseFromMenu('W', "F");
+    for (int down = 0; down < downs; ++down) press(VK_DOWN);
+    ++downs;
+    press(VK_RETURN);
+    awaitDialog();
+    answer('Y');
+    const HWND calculator =
+        awaitWindow("the calculator", [title] { return program().windowTitled(title); });
+    awaitInFront(calculator);
+    pressWith(VK_MENU, VK_F4);
+    await("its end", [calculator] { return !IsWindow(calculator); });
+    awaitInFront(window());
+  }
+}
+
+TEST_F(KeyboardTest, AboutBoxByLettersAndAwayByEscape) {
+  chooseFromMenu('H', "A");
+  const HWND about =
+      awaitWindow("the About box", [] { return program().windowTitled(L"About Tallyrex"); });
+  awaitInFront(about);
+  press(VK_ESCAPE);
+  awaitInFront(window());
+  expectFocus(L"entry box");
+}
+
+}  // namespace
+}  // namespace program
