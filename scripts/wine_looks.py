@@ -47,6 +47,8 @@ def large_font(points, bold=False):
     return "hex:" + ",".join("%02x" % byte for byte in data)
 
 
+# Small enough for a page, and large enough that the letters are drawn smooth.
+LOOK_OF_DOCUMENTS = scaling(125)
 LOOKS = [scaling(percent) for percent in (100, 125, 150, 200, 300)] + [
     Look("high-contrast", {
         COLORS: {name: '"%s"' % color for name, color in CONTRAST_COLORS.items()},
