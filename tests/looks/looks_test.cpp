@@ -147,7 +147,51 @@ TEST_P(LooksAt, FontsAreOutlinesAndThoseOfFiguresFixed) {
 INSTANTIATE_TEST_SUITE_P(Resolutions, LooksAt, testing::ValuesIn(kResolutions),
                          [](const auto& test) { return std::to_string(test.param * 100 / 96); });
 
-class Looks : public LooksTest {};
+class Looks : public LooksTest {
+ protected:
+  /// Whether a point of the box beside its line, and one within, come to have the colour in time.
+  static bool becomes(HWND box, COLORREF color) {
+    constexpr ULONGLONG kPatience = 5000;
+    constexpr int kWithinEdge = 3;
+    const SIZE size = {placeOf(box).right - placeOf(box).left,
+                       placeOf(box).bottom - placeOf(box).top};
+    const ULONGLONG until = GetTickCount64() + kPatience;
+    bool seen = false;
+    while (!seen && GetTickCount64() < until) {
+      const HDC context = GetWindowDC(box);
+      seen = GetPixel(context, size.cx - 2 * kWithinEdge, kWithinEdge) == color &&
+             GetPixel(context, size.cx - 2 * kWithinEdge, size.cy / 2) == color;
+      ReleaseDC(box, context);
+    }
+    return seen;
+  }
+};
+
+/// A colour of the system that is another until the end of the test.
+class OtherSystemColor {
+ public:
+  OtherSystemColor(int index, COLORREF color) : index_(index), before_(GetSysColor(index)) {
+    SetSysColors(1, &index_, &color);
+  }
+  ~OtherSystemColor() { SetSysColors(1, &index_, &before_); }
+  OtherSystemColor(const OtherSystemColor&) = delete;
+  OtherSystemColor& operator=(const OtherSystemColor&) = delete;
+
+ private:
+  int index_;
+  COLORREF before_;
+};
+
+TEST_F(Looks, BoxesTakeTheSystemsNewColorsAtOnce) {
+  const HWND box = control("frmCalc", "txtDec");
+  const COLORREF before = GetSysColor(COLOR_WINDOW);
+  EXPECT_TRUE(becomes(box, before));
+  {
+    const OtherSystemColor window(COLOR_WINDOW, RGB(0, 0, 64));
+    EXPECT_TRUE(becomes(box, RGB(0, 0, 64)));
+  }
+  EXPECT_TRUE(becomes(box, before));
+}
 
 TEST_F(Looks, BarOfThePlainTapeIsAlwaysThere) {
   const HWND tape = control("frmCalc", "txtTape");
