@@ -46,16 +46,6 @@ class AccessibleNamesTest : public ProgramTest {
     for (HWND control : shownChildren(window)) names.insert(accessibleName(control));
     return names;
   }
-
-  /// Opens one of the financial calculators, and sees its note off.
-  HWND openCalculator(int place, const wchar_t* title) {
-    chooseFromMenu('W', "F");
-    for (int down = 0; down < place; ++down) press(VK_DOWN);
-    press(VK_RETURN);
-    awaitDialog();
-    answer('Y');
-    return awaitWindow("the calculator", [title] { return program().windowTitled(title); });
-  }
 };
 
 TEST_F(AccessibleNamesTest, EveryControlOfTheMainWindowSaysWhatItDoes) {

@@ -80,12 +80,7 @@ TEST_F(HelpTest, HelpMenuOpensTheContents) {
 
 TEST_F(HelpTest, HelpKeyOfTheFinancialCalculatorOpensItsTopic) {
   start();
-  chooseFromMenu('W', "F=");
-  awaitDialog();
-  answer('Y');
-  const HWND calculator =
-      awaitWindow("the calculator", [] { return program().windowTitled(L"Loan Annuities"); });
-  awaitInFront(calculator);
+  const HWND calculator = openCalculator(0, L"Loan Annuities");
   click(middleOf(TestedProgram::key(calculator, L"Help")));
   EXPECT_TRUE(awaitPage() == topic());
 }

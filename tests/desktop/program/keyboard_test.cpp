@@ -75,10 +75,6 @@ class KeyboardTest : public ProgramTest {
     ASSERT_EQ(nameOf(program().focus()), name);
   }
 
-  static bool isPressed(const wchar_t* toggle) {
-    return SendMessageW(TestedProgram::key(window(), toggle), BM_GETCHECK, 0, 0) == BST_CHECKED;
-  }
-
   static void expectPressed(const wchar_t* toggle, bool pressed) {
     eventually([&] { return isPressed(toggle) == pressed; });
     EXPECT_EQ(isPressed(toggle), pressed);
@@ -197,20 +193,11 @@ TEST_F(KeyboardTest, WinMenuByItsLetters) {
   await("the normal window", [&] { return width() == normal; });
 }
 
-// The menu of the financial calculators opens at its first; the arrows lead on.
 TEST_F(KeyboardTest, FinancialCalculatorsByLettersAndArrows) {
-  int downs = 0;
-  for (const wchar_t* title :
-       {L"Loan Annuities", L"Investment Annuities", L"Standard Annuity Calc"}) {
-    chooseFromMenu('W', "F");
-    for (int down = 0; down < downs; ++down) press(VK_DOWN);
-    ++downs;
-    press(VK_RETURN);
-    awaitDialog();
-    answer('Y');
-    const HWND calculator =
-        awaitWindow("the calculator", [title] { return program().windowTitled(title); });
-    awaitInFront(calculator);
+  constexpr std::array kTitles = {L"Loan Annuities", L"Investment Annuities",
+                                  L"Standard Annuity Calc"};
+  for (int place = 0; place < 3; ++place) {
+    const HWND calculator = openCalculator(place, kTitles.at(static_cast<std::size_t>(place)));
     pressWith(VK_MENU, VK_F4);
     await("its end", [calculator] { return !IsWindow(calculator); });
     awaitInFront(window());

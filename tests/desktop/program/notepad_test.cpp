@@ -43,6 +43,8 @@ class NotepadTest : public ProgramTest {
     EXPECT_TRUE(eventually([&] { return textOf(text) == tape; }))
         << textOf(text).size() << " characters instead of " << tape.size();
     EXPECT_TRUE(clipboardText() == tape);
+    EXPECT_TRUE(eventually([this] { return GetForegroundWindow() == openedWindow(L"Notepad"); }))
+        << "Notepad is not in front";
     EXPECT_TRUE(textOf(program().tape()) == tape);
   }
 

@@ -20,6 +20,7 @@ void endProcess(DWORD id) {
 }  // namespace
 
 TestedProgram* ProgramTest::program_ = nullptr;
+std::wstring ProgramTest::pictureFolder_;
 
 void ProgramTest::SetUp() {
   settings_.clear();
@@ -88,6 +89,28 @@ void ProgramTest::chooseFromMenu(WORD menu, std::string_view letters) {
   awaitRest();
   pressWith(VK_MENU, menu);
   type(letters);
+}
+
+// The menu of the calculators opens at its first.
+void ProgramTest::chooseCalculator(int place) {
+  chooseFromMenu('W', "F");
+  for (int down = 0; down < place; ++down) press(VK_DOWN);
+  press(VK_RETURN);
+}
+
+HWND ProgramTest::openCalculator(int place, const std::wstring& title) {
+  chooseCalculator(place);
+  awaitDialog();
+  answer('Y');
+  const HWND calculator =
+      awaitWindow("the calculator", [&title] { return program().windowTitled(title); });
+  awaitInFront(calculator);
+  return calculator;
+}
+
+bool ProgramTest::isPressed(const std::wstring& toggle) {
+  const HWND key = TestedProgram::key(program().mainWindow(), toggle);
+  return SendMessageW(key, BM_GETCHECK, 0, 0) == BST_CHECKED;
 }
 
 HWND ProgramTest::openedWindow(std::wstring_view windowClass) const {

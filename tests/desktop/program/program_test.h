@@ -18,12 +18,16 @@ namespace program {
 class ProgramTest : public testing::Test {
  public:
   static void setProgram(TestedProgram& program) { program_ = &program; }
+  /// Where pictures are to be put.
+  static void setPictureFolder(const std::wstring& folder) { pictureFolder_ = folder; }
 
  protected:
   void SetUp() override;
   void TearDown() override;
 
   static TestedProgram& program() { return *program_; }
+  /// Empty when there is none.
+  static const std::wstring& pictureFolder() { return pictureFolder_; }
   UserSettings& settings() { return settings_; }
 
   void start() { program().start(); }
@@ -48,11 +52,18 @@ class ProgramTest : public testing::Test {
   static void awaitRest();
   /// Opens a menu with Alt and its letter, and chooses in it by letters.
   static void chooseFromMenu(WORD menu, std::string_view letters);
+  /// Opens the Loan, the Investment or the Standard calculator: 0, 1 or 2. Its note comes first.
+  static void chooseCalculator(int place);
+  /// Opens one of the calculators, sees its note off, and gives its window, which is in front.
+  HWND openCalculator(int place, const std::wstring& title);
+  /// Whether a toggle of the main window is down.
+  static bool isPressed(const std::wstring& toggle);
   /// A window of another program that has opened during the test; null without one.
   HWND openedWindow(std::wstring_view windowClass) const;
 
  private:
   static TestedProgram* program_;
+  static std::wstring pictureFolder_;
   UserSettings settings_{program_->name()};
   std::vector<HWND> shownBefore_;
 };

@@ -38,10 +38,6 @@ class RestartTest : public ProgramTest {
     EXPECT_EQ(now(), expected);
   }
 
-  static bool isPressed(const wchar_t* toggle) {
-    return SendMessageW(TestedProgram::key(window(), toggle), BM_GETCHECK, 0, 0) == BST_CHECKED;
-  }
-
   static bool isOnTop() { return (GetWindowLongW(window(), GWL_EXSTYLE) & WS_EX_TOPMOST) != 0; }
 
   static void moveAndSize() {

@@ -62,10 +62,7 @@ TEST_F(StartTest, ClosedWhileMinimizedItComesUpAsItWasBefore) {
   start();
   const RECT before = placeOf(program().mainWindow());
   pressWith(VK_CONTROL, 'O');
-  await("the tape off", [] {
-    return SendMessageW(program().key(program().mainWindow(), L"Tape off"), BM_GETCHECK, 0, 0) ==
-           BST_CHECKED;
-  });
+  await("the tape off", [] { return isPressed(L"Tape off"); });
   minimize();
   close();
   EXPECT_EQ(settings().get(L"frmCalcAtUnloadLeft"), L"1500");
@@ -75,8 +72,7 @@ TEST_F(StartTest, ClosedWhileMinimizedItComesUpAsItWasBefore) {
   const RECT after = placeOf(program().mainWindow());
   EXPECT_TRUE(EqualRect(&before, &after));
   expectText(program().decimals(), L"3");
-  EXPECT_EQ(SendMessageW(program().key(program().mainWindow(), L"Tape off"), BM_GETCHECK, 0, 0),
-            BST_UNCHECKED);
+  EXPECT_FALSE(isPressed(L"Tape off"));
 }
 
 }  // namespace
