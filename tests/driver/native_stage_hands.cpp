@@ -11,7 +11,7 @@ namespace {
 constexpr int kTriesOfKey = 20;
 constexpr int kTriesOfMouse = 5;
 constexpr int kTriesOfMenu = 10;
-constexpr DWORD kEchoIsLate = 100;
+constexpr DWORD kReportIsLate = 100;
 
 }  // namespace
 
@@ -56,14 +56,19 @@ void NativeStage::cancelMouse() {
   if (HWND captured = mouseCapture(ui_.window())) deliver(captured, WM_CANCELMODE, 0, 0);
 }
 
-// The system reports a move a moment later, and until then a click goes where the mouse was.
+// The system reports a move a moment later, and until then a click goes where the mouse was. The
+// report gets lost when that of an earlier move is just being taken, and a mouse that is there
+// already is not reported again, so that it has to go away in between.
 void NativeStage::moveMouse(POINT place) {
-  POINT before = {};
-  GetCursorPos(&before);
-  if (before.x == place.x && before.y == place.y) return;
-  ui_.expect(place, nullptr);
-  SetCursorPos(place.x, place.y);
-  ui_.waitForEcho(kEchoIsLate);
+  POINT now = {};
+  GetCursorPos(&now);
+  if (now.x == place.x && now.y == place.y && ui_.isMouseAt(place)) return;
+  for (int i = 0; i < kTriesOfMouse; ++i) {
+    ui_.expectMove(place);
+    SetCursorPos(place.x, place.y);
+    if (ui_.waitForMove(kReportIsLate)) return;
+    SetCursorPos(place.x + 1, place.y);
+  }
 }
 
 bool NativeStage::pressAt(POINT place, HWND seen, MouseButton button) {

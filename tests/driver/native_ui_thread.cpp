@@ -24,6 +24,10 @@ ULONG_PTR heldKeys() {
          (GetKeyState(VK_MENU) < 0 ? UiThread::kHeldAlt : 0);
 }
 
+bool isSame(POINT one, POINT other) {
+  return one.x == other.x && one.y == other.y;
+}
+
 }  // namespace
 
 UiThread* UiThread::current_ = nullptr;
@@ -92,15 +96,24 @@ bool UiThread::waitUntilReached(DWORD milliseconds) {
   return waitFor([this] { return reached(); }, milliseconds);
 }
 
-bool UiThread::waitForEcho(DWORD milliseconds) {
-  return waitFor([this] { return echoed_.load(); }, milliseconds);
+bool UiThread::isMouseAt(POINT place) const {
+  const POINT mouse = mouse_;
+  return isSame(mouse, place);
+}
+
+void UiThread::expectMove(POINT place) {
+  place_ = place;
+  mouse_ = kNowhere;
+}
+
+bool UiThread::waitForMove(DWORD milliseconds) {
+  return waitFor([this] { return isMouseAt(place_); }, milliseconds);
 }
 
 void UiThread::expect(POINT place, HWND seen) {
   place_ = place;
   seen_ = seen;
   missed_ = false;
-  echoed_ = false;
 }
 
 LRESULT CALLBACK UiThread::handleMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
@@ -148,7 +161,7 @@ void UiThread::watchKey(MSG& message) {
 LRESULT CALLBACK UiThread::watchMouse(int code, WPARAM wParam, LPARAM lParam) {
   const auto& mouse = *reinterpret_cast<const MOUSEHOOKSTRUCT*>(lParam);
   if (code == HC_ACTION && (wParam == WM_MOUSEMOVE || wParam == WM_NCMOUSEMOVE)) {
-    current_->noteEcho(mouse);
+    current_->noteMove(mouse.pt);
   } else if (code == HC_ACTION && mouse.dwExtraInfo == kAimedInput && !current_->isAimed(mouse)) {
     current_->missed_ = true;
     return 1;
@@ -156,19 +169,15 @@ LRESULT CALLBACK UiThread::watchMouse(int code, WPARAM wParam, LPARAM lParam) {
   return CallNextHookEx(nullptr, code, wParam, lParam);
 }
 
-void UiThread::noteEcho(const MOUSEHOOKSTRUCT& mouse) {
-  if (!isAtPlace(mouse)) return;
-  echoed_ = true;
+void UiThread::noteMove(POINT mouse) {
+  mouse_ = mouse;
   SetEvent(progress_);
 }
 
-bool UiThread::isAtPlace(const MOUSEHOOKSTRUCT& mouse) const {
-  const POINT place = place_;
-  return mouse.pt.x == place.x && mouse.pt.y == place.y;
-}
-
 bool UiThread::isAimed(const MOUSEHOOKSTRUCT& mouse) const {
-  return isAtPlace(mouse) && (!seen_ || WindowFromPoint(mouse.pt) == seen_);
+  const POINT place = place_;
+  return isSame(mouse.pt, place) && isMouseAt(place) &&
+         (!seen_ || WindowFromPoint(mouse.pt) == seen_);
 }
 
 // Marks come in the order in which they were sent, but one may get lost while no window of the

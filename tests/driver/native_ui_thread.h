@@ -3,6 +3,7 @@
 #include <windows.h>
 
 #include <atomic>
+#include <climits>
 #include <functional>
 
 namespace driver {
@@ -32,14 +33,18 @@ class UiThread {
   bool waitUntilReached(DWORD milliseconds);
   /// The system may report late that the mouse was moved or that a key came up, and so carry a
   /// click elsewhere or take Shift from a stroke. Clicks that carry kAimedInput come through only
-  /// at `place`, while `seen` is what is seen there (nothing: whatever is seen), and strokes that
-  /// carry kHeldInput only while the keys are held that they name.
+  /// at `place`, when the last move that was reported has led there, while `seen` is what is seen
+  /// there (nothing: whatever is seen), and strokes that carry kHeldInput only while the keys are
+  /// held that they name.
   void expect(POINT place, HWND seen);
   /// Whether some of it was swallowed since the last call of expect.
   bool missed() const { return missed_; }
-  /// Waits until the system has reported that the mouse is at the expected place. False when it
+  /// Whether the last move that the system has reported led to `place`.
+  bool isMouseAt(POINT place) const;
+  /// Before a move to `place`: waitForMove then waits for the report of that one. False when it
   /// takes longer.
-  bool waitForEcho(DWORD milliseconds);
+  void expectMove(POINT place);
+  bool waitForMove(DWORD milliseconds);
   static constexpr ULONG_PTR kAimedInput = 0x7A5F0000;
   static constexpr ULONG_PTR kHeldInput = 0x7A600000;
   static constexpr ULONG_PTR kHeldShift = 1;
@@ -52,12 +57,13 @@ class UiThread {
  private:
   struct Call;
 
+  static constexpr POINT kNowhere = {LONG_MIN, LONG_MIN};
+
   static LRESULT CALLBACK handleMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
   static LRESULT CALLBACK watchMessage(int code, WPARAM wParam, LPARAM lParam);
   static LRESULT CALLBACK watchMouse(int code, WPARAM wParam, LPARAM lParam);
   void watchKey(MSG& message);
-  void noteEcho(const MOUSEHOOKSTRUCT& mouse);
-  bool isAtPlace(const MOUSEHOOKSTRUCT& mouse) const;
+  void noteMove(POINT mouse);
   bool isAimed(const MOUSEHOOKSTRUCT& mouse) const;
   void noteMark(ULONG_PTR extra);
   template <class Condition>
@@ -77,7 +83,7 @@ class UiThread {
   std::atomic<POINT> place_ = POINT{};
   std::atomic<HWND> seen_ = nullptr;
   std::atomic<bool> missed_ = false;
-  std::atomic<bool> echoed_ = false;
+  std::atomic<POINT> mouse_ = kNowhere;
 };
 
 }  // namespace driver
