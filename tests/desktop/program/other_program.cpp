@@ -25,6 +25,8 @@ void OtherProgram::comeToFront() {
 void OtherProgram::work() {
   MSG message;
   while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
+    if (message.message == WM_KEYDOWN || message.message == WM_SYSKEYDOWN)
+      keys_ += static_cast<wchar_t>(message.wParam);
     TranslateMessage(&message);
     DispatchMessageW(&message);
   }

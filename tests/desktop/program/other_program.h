@@ -21,9 +21,12 @@ class OtherProgram {
   /// Lets it take what has arrived.
   void work();
   std::wstring text() const;
+  /// The keys that have gone down in it, also while its text did not have the focus any more.
+  const std::wstring& keys() const { return keys_; }
 
  private:
   HWND window_;
+  std::wstring keys_;
 };
 
 }  // namespace program

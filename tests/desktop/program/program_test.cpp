@@ -8,15 +8,6 @@ namespace {
 
 constexpr int kTextOfMessage = 0xFFFF;
 
-// Of another program that the tested one has started.
-void endProcess(DWORD id) {
-  const HANDLE process = OpenProcess(PROCESS_TERMINATE | SYNCHRONIZE, FALSE, id);
-  if (!process) return;
-  TerminateProcess(process, 1);
-  WaitForSingleObject(process, INFINITE);
-  CloseHandle(process);
-}
-
 }  // namespace
 
 TestedProgram* ProgramTest::program_ = nullptr;
@@ -30,7 +21,7 @@ void ProgramTest::SetUp() {
 void ProgramTest::TearDown() {
   program().kill();
   for (const auto* other : {L"Notepad", L"MS_WINHELP"})
-    while (const HWND window = openedWindow(other)) endProcess(processOf(window));
+    while (const HWND window = openedWindow(other)) endProcessOf(window);
   settings_.clear();
 }
 
@@ -119,6 +110,14 @@ HWND ProgramTest::openedWindow(std::wstring_view windowClass) const {
     if (!old && classOf(window) == windowClass) return window;
   }
   return nullptr;
+}
+
+void ProgramTest::endProcessOf(HWND window) {
+  const HANDLE process = OpenProcess(PROCESS_TERMINATE | SYNCHRONIZE, FALSE, processOf(window));
+  if (!process) return;
+  TerminateProcess(process, 1);
+  WaitForSingleObject(process, INFINITE);
+  CloseHandle(process);
 }
 
 }  // namespace program

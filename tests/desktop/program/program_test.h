@@ -60,6 +60,8 @@ class ProgramTest : public testing::Test {
   static bool isPressed(const std::wstring& toggle);
   /// A window of another program that has opened during the test; null without one.
   HWND openedWindow(std::wstring_view windowClass) const;
+  /// Ends another program that has opened during the test, and waits until it is gone.
+  static void endProcessOf(HWND window);
 
  private:
   static TestedProgram* program_;
