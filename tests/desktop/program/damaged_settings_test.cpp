@@ -80,7 +80,7 @@ INSTANTIATE_TEST_SUITE_P(Kinds, DamagedSettingsTest,
                          testing::Values(Damage{"Empty", L""}, Damage{"Letters", L"rubbish"},
                                          Damage{"Huge", L"999999999999999999999999"},
                                          Damage{"Negative", L"-99999"},
-                                         Damage{"Long", std::wstring(32 * 1024, L'x')}),
+                                         Damage{"Long", std::wstring(32'768, L'x')}),
                          [](const auto& damage) { return damage.param.name; });
 
 }  // namespace

@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <array>
 
 #include "desktop/program/program_test.h"
@@ -96,10 +97,10 @@ TEST_F(KeyboardTest, TabLeadsThroughEveryControlRowByRow) {
 }
 
 TEST_F(KeyboardTest, ShiftAndTabLeadBack) {
-  for (auto name = kTabOrder.rbegin(); name != kTabOrder.rend(); ++name) {
+  std::for_each(kTabOrder.rbegin(), kTabOrder.rend(), [this](const auto& name) {
     pressWith(VK_SHIFT, VK_TAB);
-    expectFocus(*name);
-  }
+    expectFocus(name);
+  });
 }
 
 TEST_F(KeyboardTest, SpaceAndEnterPressTheKeyThatTabHasReached) {

@@ -1,7 +1,5 @@
 #include "desktop/program/picture.h"
 
-#include <cstdio>
-
 namespace program {
 namespace {
 
@@ -45,12 +43,16 @@ bool Picture::save(const std::wstring& file) const {
   start.bfOffBits = sizeof start + sizeof header;
   const std::size_t bytes = dots_.size() * sizeof(std::uint32_t);
   start.bfSize = start.bfOffBits + static_cast<DWORD>(bytes);
-  std::FILE* out = _wfopen(file.c_str(), L"wb");
-  if (!out) return false;
-  const bool written = std::fwrite(&start, sizeof start, 1, out) == 1 &&
-                       std::fwrite(&header, sizeof header, 1, out) == 1 &&
-                       std::fwrite(dots_.data(), 1, bytes, out) == bytes;
-  return std::fclose(out) == 0 && written;
+  const HANDLE out = CreateFileW(file.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS,
+                                 FILE_ATTRIBUTE_NORMAL, nullptr);
+  if (out == INVALID_HANDLE_VALUE) return false;
+  const auto put = [out](const void* data, std::size_t size) {
+    DWORD written = 0;
+    return WriteFile(out, data, static_cast<DWORD>(size), &written, nullptr) && written == size;
+  };
+  const bool written =
+      put(&start, sizeof start) && put(&header, sizeof header) && put(dots_.data(), bytes);
+  return CloseHandle(out) && written;
 }
 
 COLORREF colorAt(POINT place) {
