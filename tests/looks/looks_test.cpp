@@ -215,8 +215,9 @@ TEST_F(Looks, ClickBesideTheLineOfABoxIsAClickIntoIt) {
 
 TEST_F(Looks, PictureForADarkKeyHasLightLines) {
   constexpr int kSide = 16;
-  const std::vector<BYTE> mask(kSide * kSide / 8);
-  std::vector<DWORD> picture(kSide * kSide, 0xFF1F3A5F);
+  constexpr std::size_t kPixels = std::size_t{kSide} * kSide;
+  const std::vector<BYTE> mask(kPixels / 8);
+  std::vector<DWORD> picture(kPixels, 0xFF1F3A5F);
   picture[0] = 0xFF2E75B6;
   picture[1] = 0x00000000;
   const win32::OwnedIcon icon(CreateIcon(nullptr, kSide, kSide, 1, 32, mask.data(),
@@ -224,7 +225,7 @@ TEST_F(Looks, PictureForADarkKeyHasLightLines) {
   const win32::OwnedIcon light = win32::lightened(icon.get());
   ICONINFO parts = {};
   ASSERT_TRUE(GetIconInfo(light.get(), &parts));
-  DWORD drawn[kSide * kSide] = {};
+  DWORD drawn[kPixels] = {};
   GetBitmapBits(parts.hbmColor, sizeof drawn, drawn);
   DeleteObject(parts.hbmColor);
   DeleteObject(parts.hbmMask);
