@@ -66,8 +66,8 @@ class Desktop {
   virtual bool startProgramAndPaste(const std::string& program) = 0;
 
   virtual void showHelp(const HelpRequest& request) = 0;
-  /// The colour that the user picks; nothing on Cancel.
-  virtual std::optional<std::uint32_t> chooseColor() = 0;
+  /// The colour that the user picks, who is shown the present one; nothing on Cancel.
+  virtual std::optional<std::uint32_t> chooseColor(std::uint32_t present) = 0;
 
   /// The settings of the application, under the name of its executable file.
   virtual common::SettingsStore& settings() = 0;

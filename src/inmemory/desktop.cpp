@@ -40,7 +40,7 @@ bool Desktop::startProgramAndPaste(const std::string& program) {
   return true;
 }
 
-std::optional<std::uint32_t> Desktop::chooseColor() {
+std::optional<std::uint32_t> Desktop::chooseColor(std::uint32_t) {
   if (colors.empty()) return {};
   const auto color = colors.front();
   colors.pop_front();

@@ -36,7 +36,7 @@ class Desktop : public controls::Desktop {
   bool startProgram(const std::string& program) override;
   bool startProgramAndPaste(const std::string& program) override;
   void showHelp(const controls::HelpRequest& request) override { helpRequests.push_back(request); }
-  std::optional<std::uint32_t> chooseColor() override;
+  std::optional<std::uint32_t> chooseColor(std::uint32_t present) override;
   common::SettingsStore& settings() override { return stores[name]; }
   std::optional<controls::RegistryValue> registryValue(std::string_view key,
                                                        std::string_view valueName) override;

@@ -71,7 +71,7 @@ void frmCalc::Label1_DblClick() {
         desktop_.showMessage(
             {.text = "On the next screen choose the color you would like as the background color "
                      "for the text boxes. Choose Cancel on the next screen to quit."});
-        const auto color = desktop_.chooseColor();
+        const auto color = desktop_.chooseColor(globals_.glngTextBackColor);
         // 0, black, counts as no colour chosen.
         if (!color || *color == 0) return;
         globals_.glngTextBackColor = *color;

@@ -83,14 +83,15 @@ void Desktop::showHelp(const controls::HelpRequest& request) {
   showMessage({.text = whereHelpIs(request.file)});
 }
 
-std::optional<std::uint32_t> Desktop::chooseColor() {
+std::optional<std::uint32_t> Desktop::chooseColor(std::uint32_t present) {
   const Modal modal(*this);
   static_assert(sizeof(COLORREF) == sizeof(std::uint32_t));
   CHOOSECOLORW choice = {};
   choice.lStructSize = sizeof choice;
   choice.hwndOwner = modal.owner();
+  choice.rgbResult = present;
   choice.lpCustColors = reinterpret_cast<COLORREF*>(mixedColors_.data());
-  choice.Flags = CC_ANYCOLOR | CC_FULLOPEN;
+  choice.Flags = CC_ANYCOLOR | CC_FULLOPEN | CC_RGBINIT;
   const auto chooseColor = lateFunction<decltype(&ChooseColorW)>(L"comdlg32.dll", "ChooseColorW");
   if (!chooseColor || !chooseColor(&choice)) return {};
   return choice.rgbResult;

@@ -79,6 +79,18 @@ TEST_F(ColorTest, BlackIsNoColour) {
   EXPECT_EQ(stored(), L"");
 }
 
+TEST_F(ColorTest, PickerShowsThePresentColour) {
+  start();
+  choose(kChosen);
+  const HWND picker = openPicker();
+  EXPECT_EQ(textOf(GetDlgItem(picker, kRed)), std::to_wstring(GetRValue(kChosen)));
+  EXPECT_EQ(textOf(GetDlgItem(picker, kGreen)), std::to_wstring(GetGValue(kChosen)));
+  EXPECT_EQ(textOf(GetDlgItem(picker, kBlue)), std::to_wstring(GetBValue(kChosen)));
+  end(picker, IDOK);
+  expectEntryColor(kChosen);
+  EXPECT_EQ(stored(), std::to_wstring(kChosen));
+}
+
 TEST_F(ColorTest, CancelLeavesItAsItIs) {
   start();
   choose(kChosen);
