@@ -31,7 +31,8 @@ struct ControlLayout {
   FontLayout font = {};
   /// What a key shows where its caption says nothing: a symbol or a short word.
   std::string_view face = "";
-  /// What a screen reader says where caption and face do not.
+  /// What a screen reader says where caption and face do not. Of a key with a caption, with &
+  /// before the same letter.
   std::string_view accessibleName = "";
   /// A picture button: the name of its icon.
   std::string_view icon = "";

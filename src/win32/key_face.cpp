@@ -54,12 +54,14 @@ void drawClassicKey(const NMCUSTOMDRAW& draw, bool down) {
 
 std::wstring keyName(const controls::Control& key) {
   const controls::ControlLayout& layout = key.layout();
-  if (layout.face.empty() && layout.icon.empty()) return wide(key.caption());
-  return wide(layout.accessibleName.empty() ? layout.face : layout.accessibleName);
+  if (!layout.accessibleName.empty()) return wide(layout.accessibleName);
+  return wide(layout.face.empty() ? key.caption() : std::string(layout.face));
 }
 
+// A caption that is the name of its key is drawn by the system.
 KeyFace::KeyFace(Window& frame, const controls::Control& key)
     : frame_(frame), key_(key), face_(wide(key.layout().face)) {
+  if (face_.empty() && !key.layout().accessibleName.empty()) face_ = wide(key.caption());
   refresh();
 }
 
@@ -116,17 +118,24 @@ void KeyFace::drawFocus(const NMCUSTOMDRAW& draw) {
   DrawFocusRect(draw.hdc, &inside);
 }
 
+// A face that is no caption shows each of its characters.
+UINT KeyFace::textFormat(HWND button) const {
+  if (!key_.layout().face.empty()) return DT_CENTER | DT_NOPREFIX;
+  const auto state = static_cast<UINT>(SendMessageW(button, WM_QUERYUISTATE, 0, 0));
+  return (state & UISF_HIDEACCEL) != 0 ? DT_CENTER | DT_HIDEPREFIX : DT_CENTER;
+}
+
 void KeyFace::drawText(const NMCUSTOMDRAW& draw, COLORREF color) const {
   const HGDIOBJ before =
       SelectObject(draw.hdc, frame_.fonts().fontShowing(key_.layout().font, face_));
   SetBkMode(draw.hdc, TRANSPARENT);
   SetTextColor(draw.hdc, color);
-  constexpr UINT kFormat = DT_CENTER | DT_NOPREFIX;
+  const UINT format = textFormat(draw.hdr.hwndFrom);
   RECT needed = {0, 0, draw.rc.right - draw.rc.left, 0};
-  DrawTextW(draw.hdc, face_.c_str(), -1, &needed, kFormat | DT_CALCRECT);
+  DrawTextW(draw.hdc, face_.c_str(), -1, &needed, format | DT_CALCRECT);
   RECT area = draw.rc;
   area.top += std::max(0L, (area.bottom - area.top - needed.bottom) / 2);
-  DrawTextW(draw.hdc, face_.c_str(), -1, &area, kFormat);
+  DrawTextW(draw.hdc, face_.c_str(), -1, &area, format);
   SelectObject(draw.hdc, before);
 }
 

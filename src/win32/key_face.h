@@ -13,12 +13,12 @@ namespace win32 {
 
 class Window;
 
-/// What the system and a screen reader know a button by: its caption, but for a key whose face is a
-/// symbol or a picture the word for it.
+/// What the system and a screen reader know a button by: the words for it, where its caption,
+/// symbol or picture does not say what it does.
 std::wstring keyName(const controls::Control& key);
 
-/// What is seen on a button that shows a symbol or a picture in the place of its name, or that has
-/// a colour. It is drawn in the system's own style.
+/// What is seen on a button that shows a short caption, a symbol or a picture in the place of its
+/// name, or that has a colour. It is drawn in the system's own style.
 class KeyFace {
  public:
   KeyFace(Window& frame, const controls::Control& key);
@@ -31,6 +31,7 @@ class KeyFace {
  private:
   bool hasOwnFace() const { return !face_.empty() || icon_; }
   void drawKey(const NMCUSTOMDRAW& draw, bool down) const;
+  UINT textFormat(HWND button) const;
   void drawText(const NMCUSTOMDRAW& draw, COLORREF color) const;
   void drawIcon(const NMCUSTOMDRAW& draw) const;
   static void drawFocus(const NMCUSTOMDRAW& draw);

@@ -80,7 +80,7 @@ class RestartTest : public ProgramTest {
 
   void expectEverythingOtherwise(const RECT& place) {
     EXPECT_EQ(textOf(window()), L"Add Mode, Tallyrex");
-    EXPECT_EQ(TestedProgram::key(window(), L"sqrt"), nullptr);
+    EXPECT_EQ(TestedProgram::key(window(), L"Square root"), nullptr);
     EXPECT_EQ(textOf(program().decimals()), L"4");
     EXPECT_TRUE(isPressed(L"Stationary decimal"));
     EXPECT_TRUE(isPressed(L"Floating decimal"));
