@@ -40,7 +40,9 @@ class Desktop::Modal {
 };
 
 Desktop::Desktop(const std::string& settingsRoot)
-    : settings_(settingsRoot + "\\" + narrow(baseNameOf(programPath()))) {}
+    : settings_(settingsRoot + "\\" + narrow(baseNameOf(programPath()))) {
+  mixedColors_.fill(RGB(255, 255, 255));
+}
 
 std::unique_ptr<controls::Window> Desktop::createWindow(const controls::WindowLayout& layout) {
   return std::make_unique<Window>(*this, layout);

@@ -45,8 +45,8 @@ class Desktop : public controls::Desktop {
   RegistrySettings settings_;
   // The windows that have been in front, the one in front last.
   std::vector<Window*> order_;
-  // The colours that the user has mixed in the colour picker.
-  std::array<std::uint32_t, 16> mixedColors_{};
+  // The colours that the user has mixed in the colour picker; white where none is.
+  std::array<std::uint32_t, 16> mixedColors_;
 };
 
 }  // namespace win32
