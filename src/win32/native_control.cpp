@@ -7,13 +7,6 @@
 #include "win32/text.h"
 
 namespace win32 {
-namespace {
-
-constexpr UINT_PTR kSubclass = 1;
-constexpr wchar_t kProperty[] = L"TallyrexControl";
-
-}  // namespace
-
 NativeControl::NativeControl(Window& frame, controls::Control& control, const NativeStyle& style)
     : frame_(frame), control_(control) {
   const RECT place = frame.scale().toPixels(control.bounds());
@@ -22,8 +15,9 @@ NativeControl::NativeControl(Window& frame, controls::Control& control, const Na
                             place.top, place.right - place.left, place.bottom - place.top,
                             frame.handle(), nullptr, GetModuleHandleW(nullptr), nullptr);
   assert(handle_);
-  SetPropW(handle_, kProperty, this);
-  SetWindowSubclass(handle_, receive, kSubclass, reinterpret_cast<DWORD_PTR>(this));
+  SetWindowLongPtrW(handle_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+  native_ = reinterpret_cast<WNDPROC>(
+      SetWindowLongPtrW(handle_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(receive)));
   send(WM_SETFONT, reinterpret_cast<WPARAM>(frame.fonts().font(control.layout().font)));
 }
 
@@ -36,19 +30,20 @@ NativeControl& NativeControl::of(controls::Control& control) {
 }
 
 NativeControl* NativeControl::of(HWND handle) {
-  return static_cast<NativeControl*>(GetPropW(handle, kProperty));
+  if (GetWindowLongPtrW(handle, GWLP_WNDPROC) != reinterpret_cast<LONG_PTR>(receive))
+    return nullptr;
+  return reinterpret_cast<NativeControl*>(GetWindowLongPtrW(handle, GWLP_USERDATA));
 }
 
-LRESULT CALLBACK NativeControl::receive(HWND handle, UINT id, WPARAM wParam, LPARAM lParam,
-                                        UINT_PTR, DWORD_PTR self) {
-  auto* control = reinterpret_cast<NativeControl*>(self);
-  if (id == WM_NCDESTROY) {
-    RemovePropW(handle, kProperty);
-    RemoveWindowSubclass(handle, receive, kSubclass);
-    control->handle_ = nullptr;
-    return DefSubclassProc(handle, id, wParam, lParam);
-  }
+LRESULT CALLBACK NativeControl::receive(HWND handle, UINT id, WPARAM wParam, LPARAM lParam) {
+  auto* control = reinterpret_cast<NativeControl*>(GetWindowLongPtrW(handle, GWLP_USERDATA));
   const Message message{id, wParam, lParam};
+  if (id == WM_NCDESTROY) {
+    const LRESULT result = control->passOn(message);
+    control->handle_ = nullptr;
+    return result;
+  }
+  control->frame_.toolTips().relay(handle, message);
   return atTheEdge(control->frame_.desktop().events(), [&] {
     const std::optional<LRESULT> result = control->take(message);
     return result ? *result : control->passOn(message);
@@ -56,7 +51,7 @@ LRESULT CALLBACK NativeControl::receive(HWND handle, UINT id, WPARAM wParam, LPA
 }
 
 LRESULT NativeControl::passOn(const Message& message) {
-  return DefSubclassProc(handle_, message.id, message.wParam, message.lParam);
+  return CallWindowProcW(native_, handle_, message.id, message.wParam, message.lParam);
 }
 
 std::optional<LRESULT> NativeControl::take(const Message& message) {

@@ -65,13 +65,14 @@ class NativeControl {
   void putBackColor();
 
  private:
-  static LRESULT CALLBACK receive(HWND handle, UINT id, WPARAM wParam, LPARAM lParam, UINT_PTR,
-                                  DWORD_PTR self);
+  static LRESULT CALLBACK receive(HWND handle, UINT id, WPARAM wParam, LPARAM lParam);
   void takeCharacter(wchar_t unit);
 
   Window& frame_;
   controls::Control& control_;
   HWND handle_ = nullptr;
+  // What the system made of it, which does what the program leaves to it.
+  WNDPROC native_ = nullptr;
   OwnedBrush background_;
   // The first half of a character that comes in two.
   wchar_t highSurrogate_ = 0;

@@ -33,11 +33,21 @@ void ToolTips::add(HWND control, const std::string& text) {
   std::wstring tip = wide(text);
   TTTOOLINFOW info = {};
   info.cbSize = sizeof info;
-  info.uFlags = TTF_SUBCLASS | TTF_IDISHWND;
+  info.uFlags = TTF_IDISHWND;
   info.hwnd = GetParent(control);
   info.uId = reinterpret_cast<UINT_PTR>(control);
   info.lpszText = tip.data();
   SendMessageW(handle_, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&info));
+}
+
+void ToolTips::relay(HWND control, const Message& message) const {
+  if (!handle_ || message.id < WM_MOUSEFIRST || message.id > WM_MOUSELAST) return;
+  MSG mouse = {};
+  mouse.hwnd = control;
+  mouse.message = message.id;
+  mouse.wParam = message.wParam;
+  mouse.lParam = message.lParam;
+  SendMessageW(handle_, TTM_RELAYEVENT, 0, reinterpret_cast<LPARAM>(&mouse));
 }
 
 }  // namespace win32

@@ -22,6 +22,7 @@ class Window : public controls::Window {
   HWND handle() const { return handle_; }
   const Scale& scale() const { return scale_; }
   Fonts& fonts() { return fonts_; }
+  const ToolTips& toolTips() const { return toolTips_; }
   bool isInFront() const { return GetForegroundWindow() == handle_; }
   void comeToFront() { bringToFront(); }
 
