@@ -4,6 +4,7 @@
 #include <array>
 #include <vector>
 
+#include "win32/ruler.h"
 #include "win32/text.h"
 
 namespace win32 {
@@ -38,37 +39,19 @@ HFONT createFont(int height, int width, bool bold, const wchar_t* face, BYTE pit
                      pitchAndFamily, face);
 }
 
-// The screen's device context with a font in it.
-class FontOnScreen {
- public:
-  explicit FontOnScreen(HFONT font) : before_(SelectObject(context_, font)) {}
-  ~FontOnScreen() {
-    SelectObject(context_, before_);
-    ReleaseDC(nullptr, context_);
-  }
-  FontOnScreen(const FontOnScreen&) = delete;
-  FontOnScreen& operator=(const FontOnScreen&) = delete;
-
-  HDC context() const { return context_; }
-
- private:
-  HDC context_ = GetDC(nullptr);
-  HGDIOBJ before_;
-};
-
 bool canShow(HFONT font, const std::wstring& text) {
-  const FontOnScreen screen(font);
+  const Ruler ruler(font);
   std::vector<WORD> glyphs(text.size());
-  GetGlyphIndicesW(screen.context(), text.c_str(), static_cast<int>(text.size()), glyphs.data(),
+  GetGlyphIndicesW(ruler.context(), text.c_str(), static_cast<int>(text.size()), glyphs.data(),
                    GGI_MARK_NONEXISTING_GLYPHS);
   return std::find(glyphs.begin(), glyphs.end(), 0xFFFF) == glyphs.end();
 }
 
 // A system without the face has made the font from another.
 bool isMadeFrom(HFONT font, const wchar_t* face) {
-  const FontOnScreen screen(font);
+  const Ruler ruler(font);
   wchar_t name[LF_FACESIZE] = L"";
-  GetTextFaceW(screen.context(), LF_FACESIZE, name);
+  GetTextFaceW(ruler.context(), LF_FACESIZE, name);
   return lstrcmpiW(name, face) == 0;
 }
 

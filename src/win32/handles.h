@@ -2,6 +2,8 @@
 
 #include <windows.h>
 
+#include <uxtheme.h>
+
 #include <memory>
 #include <type_traits>
 
@@ -17,6 +19,10 @@ struct DestroyOwnedIcon {
 
 struct DestroyOwnedMenu {
   void operator()(HMENU menu) const noexcept { DestroyMenu(menu); }
+};
+
+struct CloseTheme {
+  void operator()(HTHEME theme) const noexcept { CloseThemeData(theme); }
 };
 
 struct CloseRegistryKey {
@@ -35,6 +41,7 @@ using OwnedFont = Owned<HFONT, DeleteGdiObject>;
 using OwnedBrush = Owned<HBRUSH, DeleteGdiObject>;
 using OwnedIcon = Owned<HICON, DestroyOwnedIcon>;
 using OwnedMenu = Owned<HMENU, DestroyOwnedMenu>;
+using OwnedTheme = Owned<HTHEME, CloseTheme>;
 using OwnedKey = Owned<HKEY, CloseRegistryKey>;
 using OwnedHandle = Owned<HANDLE, CloseOwnedHandle>;
 

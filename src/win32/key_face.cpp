@@ -18,11 +18,6 @@ namespace {
 // The side of a button's picture, at 96 dots to the inch.
 constexpr int kIconSize = 32;
 
-struct CloseTheme {
-  void operator()(HTHEME theme) const noexcept { CloseThemeData(theme); }
-};
-using OwnedTheme = Owned<HTHEME, CloseTheme>;
-
 bool has(const NMCUSTOMDRAW& draw, UINT state) {
   return (draw.uItemState & state) != 0;
 }
@@ -89,15 +84,16 @@ LRESULT KeyFace::draw(const NMCUSTOMDRAW& draw, bool down) {
 }
 
 void KeyFace::drawKey(const NMCUSTOMDRAW& draw, bool down) const {
-  const OwnedTheme theme(OpenThemeData(draw.hdr.hwndFrom, VSCLASS_BUTTON));
+  HTHEME theme = frame_.buttonTheme();
   const int state = themeState(draw, down);
   COLORREF textColor = textColorOn(key_.backColor());
   if (has(draw, CDIS_DISABLED)) textColor = GetSysColor(COLOR_GRAYTEXT);
   RECT area = draw.rc;
   if (theme) {
-    DrawThemeParentBackground(draw.hdr.hwndFrom, draw.hdc, &area);
-    DrawThemeBackground(theme.get(), draw.hdc, BP_PUSHBUTTON, state, &area, nullptr);
-    if (!isTinted()) GetThemeColor(theme.get(), BP_PUSHBUTTON, state, TMT_TEXTCOLOR, &textColor);
+    // A key has round corners, behind which the window is seen.
+    FillRect(draw.hdc, &area, GetSysColorBrush(COLOR_BTNFACE));
+    DrawThemeBackground(theme, draw.hdc, BP_PUSHBUTTON, state, &area, nullptr);
+    if (!isTinted()) GetThemeColor(theme, BP_PUSHBUTTON, state, TMT_TEXTCOLOR, &textColor);
   } else {
     drawClassicKey(draw, down);
     if (down) textColor = GetSysColor(COLOR_HIGHLIGHTTEXT);

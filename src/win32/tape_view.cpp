@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "win32/ruler.h"
+
 namespace win32 {
 
 using controls::Alignment;
@@ -11,24 +13,6 @@ namespace {
 // Between the text and the edge, in pixels.
 constexpr int kMargin = 1;
 constexpr int kCaretWidth = 1;
-
-/// The screen's device context with a font, to measure with.
-class Ruler {
- public:
-  explicit Ruler(HFONT font) : before_(SelectObject(context_, font)) {}
-  ~Ruler() {
-    SelectObject(context_, before_);
-    ReleaseDC(nullptr, context_);
-  }
-  Ruler(const Ruler&) = delete;
-  Ruler& operator=(const Ruler&) = delete;
-
-  HDC context() const { return context_; }
-
- private:
-  HDC context_ = GetDC(nullptr);
-  HGDIOBJ before_;
-};
 
 }  // namespace
 

@@ -1,5 +1,6 @@
 #include <algorithm>
 
+#include "win32/ruler.h"
 #include "win32/text_box.h"
 
 // A native box of one line writes it at the upper edge, however high the box is. So the line alone
@@ -8,12 +9,9 @@ namespace win32 {
 namespace {
 
 TEXTMETRICW metricsOf(HFONT font) {
-  const HDC screen = GetDC(nullptr);
-  const HGDIOBJ before = SelectObject(screen, font);
+  const Ruler ruler(font);
   TEXTMETRICW metrics = {};
-  GetTextMetricsW(screen, &metrics);
-  SelectObject(screen, before);
-  ReleaseDC(nullptr, screen);
+  GetTextMetricsW(ruler.context(), &metrics);
   return metrics;
 }
 

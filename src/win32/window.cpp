@@ -1,5 +1,7 @@
 #include "win32/window.h"
 
+#include <vssym32.h>
+
 #include <algorithm>
 
 #include "win32/button.h"
@@ -136,7 +138,13 @@ void Window::focusNative() {
   if (focusedControl()) showFocus(*focusedControl());
 }
 
+HTHEME Window::buttonTheme() {
+  if (!buttonTheme_) buttonTheme_.reset(OpenThemeData(handle_, VSCLASS_BUTTON));
+  return buttonTheme_.get();
+}
+
 void Window::refreshControls() {
+  buttonTheme_.reset();
   for (const auto& control : controls()) NativeControl::of(*control).refresh();
   RedrawWindow(handle_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
 }

@@ -23,6 +23,8 @@ class Window : public controls::Window {
   const Scale& scale() const { return scale_; }
   Fonts& fonts() { return fonts_; }
   const ToolTips& toolTips() const { return toolTips_; }
+  /// How the system draws buttons; nothing where it draws them in the classic way.
+  HTHEME buttonTheme();
   bool isInFront() const { return GetForegroundWindow() == handle_; }
   void comeToFront() { bringToFront(); }
 
@@ -84,6 +86,7 @@ class Window : public controls::Window {
   Scale screenScale_ = Scale::ofScreen();
   Fonts fonts_;
   ToolTips toolTips_;
+  OwnedTheme buttonTheme_;
   OwnedMenu menu_;
   // As it was last placed or seen.
   Placement placed_;

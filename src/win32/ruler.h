@@ -1,0 +1,26 @@
+#pragma once
+
+#include <windows.h>
+
+namespace win32 {
+
+/// A device context with a font, to measure with what is written on the screen. It is one of the
+/// memory: that of the screen has to be asked for, each time.
+class Ruler {
+ public:
+  explicit Ruler(HFONT font) : before_(SelectObject(context_, font)) {}
+  ~Ruler() {
+    SelectObject(context_, before_);
+    DeleteDC(context_);
+  }
+  Ruler(const Ruler&) = delete;
+  Ruler& operator=(const Ruler&) = delete;
+
+  HDC context() const { return context_; }
+
+ private:
+  HDC context_ = CreateCompatibleDC(nullptr);
+  HGDIOBJ before_;
+};
+
+}  // namespace win32
