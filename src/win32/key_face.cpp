@@ -86,7 +86,7 @@ LRESULT KeyFace::draw(const NMCUSTOMDRAW& draw, bool down) {
 void KeyFace::drawKey(const NMCUSTOMDRAW& draw, bool down) const {
   HTHEME theme = frame_.buttonTheme();
   const int state = themeState(draw, down);
-  COLORREF textColor = textColorOn(key_.backColor());
+  COLORREF textColor = theme ? textColorOn(key_.backColor()) : classicTextColor();
   if (has(draw, CDIS_DISABLED)) textColor = GetSysColor(COLOR_GRAYTEXT);
   RECT area = draw.rc;
   if (theme) {
@@ -149,6 +149,13 @@ void KeyFace::drawIcon(const NMCUSTOMDRAW& draw) const {
 
 bool KeyFace::isTinted() const {
   return key_.backColor() != controls::Color::buttonFace();
+}
+
+// A dark key stays dark under its colour; then its caption shows it.
+COLORREF KeyFace::classicTextColor() const {
+  if (!isTinted()) return textColorOn(key_.backColor());
+  const COLORREF tinted = GetSysColor(COLOR_BTNFACE) & colorOf(key_.backColor());
+  return isDark(tinted) ? colorOf(key_.backColor()) : RGB(0, 0, 0);
 }
 
 // The colour shines through what is drawn already: the style of the button stays, hot and pressed

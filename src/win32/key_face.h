@@ -36,6 +36,7 @@ class KeyFace {
   void drawIcon(const NMCUSTOMDRAW& draw) const;
   static void drawFocus(const NMCUSTOMDRAW& draw);
   bool isTinted() const;
+  COLORREF classicTextColor() const;
   int iconSize() const;
   void tint(const NMCUSTOMDRAW& draw) const;
 
