@@ -61,6 +61,7 @@ KeyFace::KeyFace(Window& frame, const controls::Control& key)
 }
 
 void KeyFace::refresh() {
+  if (!face_.empty()) font_ = frame_.fonts().fontShowing(key_.layout().font, face_);
   if (key_.layout().icon.empty()) return;
   const int size = iconSize();
   const std::wstring picture = L"KEY_" + wide(key_.layout().icon);
@@ -122,8 +123,7 @@ UINT KeyFace::textFormat(HWND button) const {
 }
 
 void KeyFace::drawText(const NMCUSTOMDRAW& draw, COLORREF color) const {
-  const HGDIOBJ before =
-      SelectObject(draw.hdc, frame_.fonts().fontShowing(key_.layout().font, face_));
+  const HGDIOBJ before = SelectObject(draw.hdc, font_);
   SetBkMode(draw.hdc, TRANSPARENT);
   SetTextColor(draw.hdc, color);
   const UINT format = textFormat(draw.hdr.hwndFrom);

@@ -23,7 +23,7 @@ class KeyFace {
  public:
   KeyFace(Window& frame, const controls::Control& key);
 
-  /// The resolution has changed.
+  /// The resolution or the system's colours have changed.
   void refresh();
   /// Draws what the native button does not; `down` is a toggle's.
   LRESULT draw(const NMCUSTOMDRAW& draw, bool down);
@@ -43,6 +43,8 @@ class KeyFace {
   Window& frame_;
   const controls::Control& key_;
   std::wstring face_;
+  // One of the frame's that shows the face.
+  HFONT font_ = nullptr;
   OwnedIcon icon_;
 };
 
