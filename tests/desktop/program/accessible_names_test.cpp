@@ -41,9 +41,11 @@ class AccessibleNamesTest : public ProgramTest {
     CoUninitialize();
   }
 
-  static Names namesIn(HWND window) {
+  /// Of all that is shown in it, or of the controls of one class.
+  static Names namesIn(HWND window, const std::wstring& kind = {}) {
     Names names;
-    for (HWND control : shownChildren(window)) names.insert(accessibleName(control));
+    for (HWND control : shownChildren(window))
+      if (kind.empty() || classOf(control) == kind) names.insert(accessibleName(control));
     return names;
   }
 };
@@ -95,28 +97,21 @@ TEST_F(AccessibleNamesTest, BoxesSayWhatTheyHold) {
 
 TEST_F(AccessibleNamesTest, FieldsOfTheLoanCalculatorGoByTheirLabels) {
   const HWND window = openCalculator(0, L"Loan Annuities");
-  Names fields;
-  for (HWND control : shownChildren(window))
-    if (classOf(control) == L"Edit") fields.insert(accessibleName(control));
-  EXPECT_EQ(fields, (Names{L"Length of Time:", L"Annual Interest Rate:", L"Monthly Payment:",
-                           L"Loan Amount:", L"Balloon Payment:"}));
+  EXPECT_EQ(namesIn(window, L"Edit"),
+            (Names{L"Length of Time:", L"Annual Interest Rate:", L"Monthly Payment:",
+                   L"Loan Amount:", L"Balloon Payment:"}));
 }
 
 TEST_F(AccessibleNamesTest, FieldsOfTheInvestmentCalculatorGoByTheirLabels) {
   const HWND window = openCalculator(1, L"Investment Annuities");
-  Names fields;
-  for (HWND control : shownChildren(window))
-    if (classOf(control) == L"Edit") fields.insert(accessibleName(control));
-  EXPECT_EQ(fields, (Names{L"Length of Time:", L"Annual Interest Rate:", L"Monthly Investment:",
-                           L"Dollars Invested Today:", L"Future Value:"}));
+  EXPECT_EQ(namesIn(window, L"Edit"),
+            (Names{L"Length of Time:", L"Annual Interest Rate:", L"Monthly Investment:",
+                   L"Dollars Invested Today:", L"Future Value:"}));
 }
 
 TEST_F(AccessibleNamesTest, ButtonsOfTheFinancialCalculatorSayWhatTheyDo) {
   const HWND window = openCalculator(0, L"Loan Annuities");
-  Names buttons;
-  for (HWND control : shownChildren(window))
-    if (classOf(control) == L"Button") buttons.insert(accessibleName(control));
-  EXPECT_EQ(buttons,
+  EXPECT_EQ(namesIn(window, L"Button"),
             (Names{L"Calculate", L"Rotate configuration", L"Clear all boxes", L"Help", L"Months",
                    L"Years", L"Payments are due by:", L"the end (default)", L"the beginning"}));
 }
