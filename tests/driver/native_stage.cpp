@@ -105,7 +105,7 @@ void NativeStage::checkScreen() {
 void NativeStage::remark() {
   if (isInFront()) return sendInputs({ui_.nextMark()});
   ui_.forgetMarks();
-  ui_.post([] {});
+  ui_.markRest();
 }
 
 // On the program's thread, behind everything that the system has told it so far.
@@ -154,9 +154,13 @@ void NativeStage::putProgramInFront() {
   if (!isInFront()) throw CommandError("the program is not in front");
 }
 
+// The window in front may be another program's for a moment, and the mouse reaches ours all the
+// same.
 void NativeStage::send(std::vector<INPUT> inputs) {
-  if (isInFront()) inputs.push_back(ui_.nextMark());
+  const bool inFront = isInFront();
+  if (inFront) inputs.push_back(ui_.nextMark());
   sendInputs(std::move(inputs));
+  if (!inFront) ui_.markRest();
   settle();
 }
 

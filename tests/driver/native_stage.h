@@ -70,7 +70,7 @@ class NativeStage : public Stage {
   void putInFront(const controls::Window& window);
   void putProgramInFront();
   void clickWithMouse(controls::Control& control, int times);
-  bool chooseByMouse(const std::vector<MenuPlace>& way, POINT place);
+  void clickThrough(const std::vector<MenuPlace>& way, POINT place);
   bool pasteByMouse(HWND box);
   bool clickAt(POINT place, MouseButton button);
   bool pressAt(POINT place, HWND seen, MouseButton button);

@@ -157,24 +157,24 @@ void NativeStage::choose(controls::MenuItem& item) {
   if (way.empty()) throw CommandError("grey on the screen: " + item.name());
   putInFront(*owner);
   HWND window = handleOf(*owner);
+  const UINT command = GetMenuItemID(way.back().menu, way.back().position);
   POINT place = {};
-  if (!placeInBar(window, way.front(), place)) {
-    const UINT command = GetMenuItemID(way.back().menu, way.back().position);
-    return deliver(window, WM_COMMAND, command, 0);
-  }
+  if (!placeInBar(window, way.front(), place)) return deliver(window, WM_COMMAND, command, 0);
+  ui_.expectCommand(command);
   for (int i = 0; i < kTriesOfMenu; ++i) {
-    if (chooseByMouse(way, place)) return;
+    clickThrough(way, place);
+    if (ui_.commandTaken()) return;
     cancelMouse();
   }
   throw CommandError("the menu does not stay open");
 }
 
-// A mouse that moves by itself meanwhile may open another menu.
-bool NativeStage::chooseByMouse(const std::vector<MenuPlace>& way, POINT place) {
-  if (!clickAt(place, MouseButton::Left)) return false;
+// From `place` in the menu bar as far as it gets: a mouse that moves by itself meanwhile may open
+// another menu.
+void NativeStage::clickThrough(const std::vector<MenuPlace>& way, POINT place) {
+  if (!clickAt(place, MouseButton::Left)) return;
   for (std::size_t i = 1; i < way.size(); ++i)
-    if (!placeInMenu(way[i], place) || !clickAt(place, MouseButton::Left)) return false;
-  return !mouseCapture(ui_.window());
+    if (!placeInMenu(way[i], place) || !clickAt(place, MouseButton::Left)) return;
 }
 
 void NativeStage::close(controls::Window& window) {

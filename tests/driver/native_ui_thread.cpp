@@ -10,6 +10,8 @@ namespace {
 constexpr wchar_t kClassName[] = L"TallyrexDriver";
 constexpr UINT kInspect = WM_APP;
 constexpr UINT kPost = WM_APP + 1;
+constexpr UINT kMarkRest = WM_APP + 2;
+constexpr UINT_PTR kRestTimer = 1;
 
 constexpr WORD kMarkKey = VK_F24;
 // In the upper half of what a mark carries, so that no other program's input passes for one.
@@ -81,6 +83,12 @@ INPUT UiThread::nextMark() {
   return mark;
 }
 
+// A timer is told of only when there is nothing else to tell.
+void UiThread::markRest() {
+  if (restAwaited_.exchange(true)) return;
+  PostMessageW(window_, kMarkRest, 0, 0);
+}
+
 template <class Condition>
 bool UiThread::waitFor(Condition condition, DWORD milliseconds) {
   const ULONGLONG until = GetTickCount64() + milliseconds;
@@ -113,7 +121,12 @@ bool UiThread::waitForMove(DWORD milliseconds) {
 void UiThread::expect(POINT place, HWND seen) {
   place_ = place;
   seen_ = seen;
-  missed_ = false;
+  aim_ = Aim::Open;
+}
+
+void UiThread::expectCommand(UINT command) {
+  command_ = command;
+  commandTaken_ = false;
 }
 
 LRESULT CALLBACK UiThread::handleMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
@@ -134,15 +147,27 @@ LRESULT CALLBACK UiThread::handleMessage(HWND window, UINT message, WPARAM wPara
     SetEvent(current_->progress_);
     return 0;
   }
+  if (message == kMarkRest) {
+    SetTimer(window, kRestTimer, USER_TIMER_MINIMUM, nullptr);
+    return 0;
+  }
+  if (message == WM_TIMER) {
+    KillTimer(window, kRestTimer);
+    current_->restAwaited_ = false;
+    SetEvent(current_->progress_);
+    return 0;
+  }
   return DefWindowProcW(window, message, wParam, lParam);
 }
 
 // Every message that the program takes from its queue comes by here, also while a dialog is open.
 LRESULT CALLBACK UiThread::watchMessage(int code, WPARAM wParam, LPARAM lParam) {
   auto& message = *reinterpret_cast<MSG*>(lParam);
-  if (code == HC_ACTION && wParam == PM_REMOVE && message.message >= WM_KEYFIRST &&
-      message.message <= WM_KEYLAST)
-    current_->watchKey(message);
+  if (code == HC_ACTION && wParam == PM_REMOVE) {
+    if (message.message >= WM_KEYFIRST && message.message <= WM_KEYLAST)
+      current_->watchKey(message);
+    if (message.message == WM_COMMAND) current_->watchCommand(message);
+  }
   return CallNextHookEx(nullptr, code, wParam, lParam);
 }
 
@@ -154,24 +179,34 @@ void UiThread::watchKey(MSG& message) {
     noteMark(extra);
   } else if (down && (extra & ~kHeldKeys) == kHeldInput && (extra & kHeldKeys) != heldKeys()) {
     message.message = WM_NULL;
-    missed_ = true;
+    aim_ = Aim::Missed;
   }
+}
+
+// Menus post their commands; they carry no control and no code.
+void UiThread::watchCommand(const MSG& message) {
+  if (message.lParam == 0 && message.wParam == command_) commandTaken_ = true;
 }
 
 LRESULT CALLBACK UiThread::watchMouse(int code, WPARAM wParam, LPARAM lParam) {
   const auto& mouse = *reinterpret_cast<const MOUSEHOOKSTRUCT*>(lParam);
-  if (code == HC_ACTION && (wParam == WM_MOUSEMOVE || wParam == WM_NCMOUSEMOVE)) {
-    current_->noteMove(mouse.pt);
-  } else if (code == HC_ACTION && mouse.dwExtraInfo == kAimedInput && !current_->isAimed(mouse)) {
-    current_->missed_ = true;
-    return 1;
-  }
+  const bool isMove = wParam == WM_MOUSEMOVE || wParam == WM_NCMOUSEMOVE;
+  if (code == HC_ACTION && isMove) current_->noteMove(mouse.pt);
+  const bool isAimedInput = code >= 0 && !isMove && mouse.dwExtraInfo == kAimedInput;
+  if (isAimedInput && !current_->comesThrough(mouse)) return 1;
   return CallNextHookEx(nullptr, code, wParam, lParam);
 }
 
 void UiThread::noteMove(POINT mouse) {
   mouse_ = mouse;
   SetEvent(progress_);
+}
+
+// A menu looks at a click, acts on it and then takes it from the queue. What holds is what was true
+// when it looked.
+bool UiThread::comesThrough(const MOUSEHOOKSTRUCT& mouse) {
+  if (aim_ == Aim::Open) aim_ = isAimed(mouse) ? Aim::Good : Aim::Missed;
+  return aim_ == Aim::Good;
 }
 
 bool UiThread::isAimed(const MOUSEHOOKSTRUCT& mouse) const {

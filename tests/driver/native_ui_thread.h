@@ -28,8 +28,11 @@ class UiThread {
   /// The release of a key that no keyboard has, which ends up behind everything that was typed and
   /// clicked before it. The program never sees it.
   INPUT nextMark();
-  /// Waits until everything left by post has run and the last mark has come in. False when it takes
-  /// longer.
+  /// The same without a key, for when no window of the program is in front to take one: the program
+  /// has come there when nothing that was posted and no input is left to be taken.
+  void markRest();
+  /// Waits until everything left by post has run and the last marks have come in. False when it
+  /// takes longer.
   bool waitUntilReached(DWORD milliseconds);
   /// The system may report late that the mouse was moved or that a key came up, and so carry a
   /// click elsewhere or take Shift from a stroke. Clicks that carry kAimedInput come through only
@@ -38,7 +41,12 @@ class UiThread {
   /// held that they name.
   void expect(POINT place, HWND seen);
   /// Whether some of it was swallowed since the last call of expect.
-  bool missed() const { return missed_; }
+  bool missed() const { return aim_ == Aim::Missed; }
+  /// A menu may close before it is clicked on, so that what came of a click shows in the command
+  /// alone.
+  void expectCommand(UINT command);
+  /// Whether the program has taken that command since the last call of expectCommand.
+  bool commandTaken() const { return commandTaken_; }
   /// Whether the last move that the system has reported led to `place`.
   bool isMouseAt(POINT place) const;
   /// Before a move to `place`: waitForMove then waits for the report of that one. False when it
@@ -51,11 +59,13 @@ class UiThread {
   static constexpr ULONG_PTR kHeldControl = 2;
   static constexpr ULONG_PTR kHeldAlt = 4;
 
-  /// Marks that have not come in yet went to another program, and are waited for no longer.
-  void forgetMarks() { marks_ = marksSeen_; }
+  /// Marks that have not come in yet went to another program, and are waited for no longer. One
+  /// that comes in all the same is not taken for a later one.
+  void forgetMarks() { marksForgotten_ = marks_; }
 
  private:
   struct Call;
+  enum class Aim { Open, Good, Missed };
 
   static constexpr POINT kNowhere = {LONG_MIN, LONG_MIN};
 
@@ -63,12 +73,17 @@ class UiThread {
   static LRESULT CALLBACK watchMessage(int code, WPARAM wParam, LPARAM lParam);
   static LRESULT CALLBACK watchMouse(int code, WPARAM wParam, LPARAM lParam);
   void watchKey(MSG& message);
+  void watchCommand(const MSG& message);
   void noteMove(POINT mouse);
+  bool comesThrough(const MOUSEHOOKSTRUCT& mouse);
   bool isAimed(const MOUSEHOOKSTRUCT& mouse) const;
   void noteMark(ULONG_PTR extra);
   template <class Condition>
   bool waitFor(Condition condition, DWORD milliseconds);
-  bool reached() const { return marks_ == marksSeen_ && posts_ == postsRun_; }
+  bool reached() const {
+    return (marks_ == marksSeen_ || marks_ == marksForgotten_) && posts_ == postsRun_ &&
+           !restAwaited_;
+  }
 
   static UiThread* current_;
 
@@ -77,12 +92,16 @@ class UiThread {
   HHOOK mouseHook_ = nullptr;
   HANDLE progress_ = nullptr;
   unsigned marks_ = 0;
+  unsigned marksForgotten_ = 0;
   unsigned posts_ = 0;
   std::atomic<unsigned> marksSeen_ = 0;
   std::atomic<unsigned> postsRun_ = 0;
+  std::atomic<bool> restAwaited_ = false;
   std::atomic<POINT> place_ = POINT{};
   std::atomic<HWND> seen_ = nullptr;
-  std::atomic<bool> missed_ = false;
+  std::atomic<Aim> aim_ = Aim::Open;
+  std::atomic<UINT> command_ = 0;
+  std::atomic<bool> commandTaken_ = false;
   std::atomic<POINT> mouse_ = kNowhere;
 };
 
