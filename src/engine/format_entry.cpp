@@ -30,7 +30,8 @@ void Engine::ReformatEntry() {
   const int caret = c_.txtEntry.selStart();
   c_.txtEntry.setText(text);
   const int moved = caret + c_.txtEntry.length() - length;
-  c_.txtEntry.setSelStart(moved >= 0 ? moved : caret);
+  // A separator that goes from behind the sign must not leave the caret in front of it.
+  c_.txtEntry.setSelStart(std::max(moved >= 0 ? moved : caret, text.starts_with('-') ? 1 : 0));
 }
 
 // What the release of the last key would have done, for a key that goes down before it. An entry
