@@ -84,9 +84,8 @@ INPUT NativeKeyboard::input(const Key& key, bool up) {
 INPUT NativeKeyboard::downInput(const Key& key) {
   INPUT down = input(key, false);
   const auto& [shift, control, alt] = key.modifiers;
-  if (key.character == 0)
-    down.ki.dwExtraInfo = UiThread::kHeldInput | (shift ? UiThread::kHeldShift : 0) |
-                          (control ? UiThread::kHeldControl : 0) | (alt ? UiThread::kHeldAlt : 0);
+  down.ki.dwExtraInfo = UiThread::kHeldInput | (shift ? UiThread::kHeldShift : 0) |
+                        (control ? UiThread::kHeldControl : 0) | (alt ? UiThread::kHeldAlt : 0);
   return down;
 }
 

@@ -15,16 +15,19 @@ constexpr DWORD kReportIsLate = 100;
 
 }  // namespace
 
+// A key that did not arrive as it was pressed has done nothing, and goes down once more.
 void NativeStage::keyDown(const controls::KeyStroke& stroke, controls::KeyAscii character) {
+  const bool isTyped = character >= ' ' && !stroke.control && !stroke.alt;
   putProgramInFront();
   NativeKeyboard::Inputs inputs = keyboard_.down(stroke, character);
   for (int i = 0; i < kTriesOfKey; ++i) {
-    ui_.expect({}, nullptr);
+    ui_.expectKey(isTyped ? static_cast<WPARAM>(character) : 0);
     send(inputs);
-    if (!ui_.missed()) return;
+    if (ui_.hit()) return;
+    putProgramInFront();
     inputs = keyboard_.downAgain();
   }
-  throw CommandError("a key that is held does not stay down");
+  throw CommandError("a key does not arrive as it was pressed");
 }
 
 // Also when the key has closed the program: no key stays down.
@@ -82,7 +85,7 @@ bool NativeStage::releaseAt(POINT place, HWND seen, MouseButton button) {
 bool NativeStage::moveButton(POINT place, HWND seen, MouseButton button, bool up) {
   for (int i = 0; i < kTriesOfMouse; ++i) {
     moveMouse(place);
-    ui_.expect(place, seen);
+    ui_.expectClick(place, seen);
     send({mouseButton(button, up, UiThread::kAimedInput)});
     if (!ui_.missed()) return true;
   }

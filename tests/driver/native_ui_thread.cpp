@@ -118,9 +118,15 @@ bool UiThread::waitForMove(DWORD milliseconds) {
   return waitFor([this] { return isMouseAt(place_); }, milliseconds);
 }
 
-void UiThread::expect(POINT place, HWND seen) {
+void UiThread::expectClick(POINT place, HWND seen) {
   place_ = place;
   seen_ = seen;
+  character_ = 0;
+  aim_ = Aim::Open;
+}
+
+void UiThread::expectKey(WPARAM character) {
+  character_ = character;
   aim_ = Aim::Open;
 }
 
@@ -177,10 +183,27 @@ void UiThread::watchKey(MSG& message) {
   if (!down && message.wParam == kMarkKey && (extra & ~kMarkNumbers) == kMarkSign) {
     message.message = WM_NULL;
     noteMark(extra);
-  } else if (down && (extra & ~kHeldKeys) == kHeldInput && (extra & kHeldKeys) != heldKeys()) {
-    message.message = WM_NULL;
-    aim_ = Aim::Missed;
+  } else if (down && (extra & ~kHeldKeys) == kHeldInput) {
+    aim_ = isHeld(message, extra & kHeldKeys) ? Aim::Good : Aim::Missed;
+    if (missed()) message.message = WM_NULL;
+  } else if (message.message == WM_CHAR) {
+    watchCharacter(message);
   }
+}
+
+// A letter that arrives without the mark of Alt opens no menu, though Alt may seem to be held by
+// now.
+bool UiThread::isHeld(const MSG& message, ULONG_PTR keys) {
+  const bool isPlain = message.message != WM_SYSKEYDOWN;
+  return keys == heldKeys() && !(keys == kHeldAlt && isPlain);
+}
+
+// The character is made from what the system believes to be held a moment after the key came in.
+void UiThread::watchCharacter(MSG& message) {
+  const WPARAM expected = character_;
+  if (expected == 0 || message.wParam == expected) return;
+  message.message = WM_NULL;
+  aim_ = Aim::Missed;
 }
 
 // Menus post their commands; they carry no control and no code.

@@ -34,13 +34,17 @@ class UiThread {
   /// Waits until everything left by post has run and the last marks have come in. False when it
   /// takes longer.
   bool waitUntilReached(DWORD milliseconds);
-  /// The system may report late that the mouse was moved or that a key came up, and so carry a
-  /// click elsewhere or take Shift from a stroke. Clicks that carry kAimedInput come through only
-  /// at `place`, when the last move that was reported has led there, while `seen` is what is seen
-  /// there (nothing: whatever is seen), and strokes that carry kHeldInput only while the keys are
-  /// held that they name.
-  void expect(POINT place, HWND seen);
-  /// Whether some of it was swallowed since the last call of expect.
+  /// The system may report late that the mouse was moved, and so carry a click elsewhere. Clicks
+  /// that carry kAimedInput come through only at `place`, when the last move that was reported has
+  /// led there, while `seen` is what is seen there (nothing: whatever is seen).
+  void expectClick(POINT place, HWND seen);
+  /// It may also believe that a held key came up, and so take Shift or Alt from a stroke. Strokes
+  /// that carry kHeldInput come through only while the keys are held that they name, and only with
+  /// that character (0: whichever it is).
+  void expectKey(WPARAM character);
+  /// Whether what was expected last has come in, and come through.
+  bool hit() const { return aim_ == Aim::Good; }
+  /// Whether it has come in, and was swallowed.
   bool missed() const { return aim_ == Aim::Missed; }
   /// A menu may close before it is clicked on, so that what came of a click shows in the command
   /// alone.
@@ -73,6 +77,8 @@ class UiThread {
   static LRESULT CALLBACK watchMessage(int code, WPARAM wParam, LPARAM lParam);
   static LRESULT CALLBACK watchMouse(int code, WPARAM wParam, LPARAM lParam);
   void watchKey(MSG& message);
+  void watchCharacter(MSG& message);
+  static bool isHeld(const MSG& message, ULONG_PTR keys);
   void watchCommand(const MSG& message);
   void noteMove(POINT mouse);
   bool comesThrough(const MOUSEHOOKSTRUCT& mouse);
@@ -100,6 +106,7 @@ class UiThread {
   std::atomic<POINT> place_ = POINT{};
   std::atomic<HWND> seen_ = nullptr;
   std::atomic<Aim> aim_ = Aim::Open;
+  std::atomic<WPARAM> character_ = 0;
   std::atomic<UINT> command_ = 0;
   std::atomic<bool> commandTaken_ = false;
   std::atomic<POINT> mouse_ = kNowhere;
