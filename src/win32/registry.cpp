@@ -8,6 +8,9 @@
 namespace win32 {
 namespace {
 
+// The longest text that is read, with the zero behind it. No path of a program is longer.
+constexpr std::size_t kLongestText = 1024;
+
 // Full access first; a user who is no administrator is given the value to read.
 OwnedKey openMachineKey(const std::wstring& path) {
   HKEY key = nullptr;
@@ -51,7 +54,10 @@ std::optional<std::string> readMachineValue(std::string_view key, std::string_vi
   const OwnedKey open = openMachineKey(wide(key));
   if (!open) return {};
   const std::wstring wideName = wide(name);
-  if (const auto text = readText(open.get(), wideName)) return narrow(*text);
+  if (const auto text = readText(open.get(), wideName)) {
+    if (text->size() >= kLongestText) return {};
+    return narrow(*text);
+  }
   // Read as a signed number, as the hexadecimal text of its bytes would be.
   if (const auto number = readDoubleWord(open.get(), wideName))
     return std::to_string(static_cast<std::int32_t>(*number));

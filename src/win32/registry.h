@@ -8,7 +8,8 @@
 
 namespace win32 {
 
-/// A text value under the machine's root, or a double word in its decimal text.
+/// A text value of less than 1024 characters under the machine's root, or a double word in its
+/// decimal text.
 std::optional<std::string> readMachineValue(std::string_view key, std::string_view name);
 
 /// A value of an open key as it stands; nothing when it is absent or of another type.

@@ -18,6 +18,7 @@ class TestedProgram {
 
   /// Without its extension.
   const std::wstring& name() const { return name_; }
+  const std::wstring& file() const { return program_; }
   const std::wstring& helpFile() const { return help_; }
 
   /// Starts it, and does not wait.

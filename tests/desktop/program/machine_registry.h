@@ -1,0 +1,41 @@
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+#include <vector>
+
+namespace program {
+
+/// A key under the machine's registry root that a test fills; it is as it was when the test ends.
+class MachineKey {
+ public:
+  explicit MachineKey(const std::wstring& path);
+  ~MachineKey();
+  MachineKey(const MachineKey&) = delete;
+  MachineKey& operator=(const MachineKey&) = delete;
+
+  /// Only an administrator may write here.
+  bool isWritable() const { return key_ != nullptr; }
+  void set(const std::wstring& name, const std::wstring& text);
+  /// Without the zero that ends a text.
+  void setUnterminated(const std::wstring& name, const std::wstring& text);
+  void set(const std::wstring& name, DWORD number);
+  void remove(const std::wstring& name);
+
+ private:
+  struct Value {
+    std::wstring name;
+    DWORD type = REG_NONE;
+    std::vector<BYTE> data;
+  };
+
+  /// Notes what stood there before the test's first change.
+  void remember(const std::wstring& name);
+  void put(const std::wstring& name, DWORD type, const void* data, std::size_t bytes);
+
+  HKEY key_ = nullptr;
+  std::vector<Value> before_;
+};
+
+}  // namespace program

@@ -1,0 +1,120 @@
+#include "desktop/program/machine_registry.h"
+#include "desktop/program/program_test.h"
+
+namespace program {
+namespace {
+
+constexpr wchar_t kMissing[] =
+    L"Cannot Find The External Program For System Information (MSINFO32.EXE)";
+
+// A second Tallyrex stands in for the system-information program, which not every system has.
+class SystemInfoTest : public ProgramTest {
+ protected:
+  void SetUp() override {
+    ProgramTest::SetUp();
+    if (!path_.isWritable() || !location_.isWritable())
+      GTEST_SKIP() << "only an administrator can say where the program is";
+    path_.remove(L"PATH");
+    location_.remove(L"MSINFO");
+  }
+
+  void TearDown() override {
+    while (const HWND window = standIn()) endProcessOf(window);
+    ProgramTest::TearDown();
+    if (folder_.empty()) return;
+    eventually([this] {
+      DeleteFileW(fileInFolder().c_str());
+      return RemoveDirectoryW(folder_.c_str()) != FALSE;
+    });
+  }
+
+  /// A folder that holds the stand-in under the name that is looked for.
+  const std::wstring& makeFolder() {
+    wchar_t temporary[MAX_PATH] = L"";
+    GetTempPathW(MAX_PATH, temporary);
+    folder_ = temporary + (L"TallyrexInfo" + std::to_wstring(GetCurrentProcessId()));
+    CreateDirectoryW(folder_.c_str(), nullptr);
+    if (!CopyFileW(program().file().c_str(), fileInFolder().c_str(), FALSE))
+      throw NotSeen("a copy of the program");
+    return folder_;
+  }
+
+  void askForSystemInfo() {
+    start();
+    chooseFromMenu('H', "A");
+    const HWND about =
+        awaitWindow("the About box", [] { return program().windowTitled(L"About Tallyrex"); });
+    awaitInFront(about);
+    pressWith(VK_MENU, 'S');
+  }
+
+  static HWND standIn() {
+    for (HWND window : shownWindows())
+      if (classOf(window) == L"TallyrexWindow" && !program().owns(window)) return window;
+    return nullptr;
+  }
+
+  static void expectStandIn() {
+    EXPECT_TRUE(eventually([] { return standIn() || program().dialog(); }));
+    EXPECT_TRUE(standIn()) << "the program was not found";
+  }
+
+  /// The message comes, nothing has been started, and the About box stays.
+  void expectMissing() {
+    expectMessage(kMissing);
+    EXPECT_FALSE(standIn());
+    answer(VK_RETURN);
+    EXPECT_TRUE(program().windowTitled(L"About Tallyrex"));
+  }
+
+  MachineKey& path() { return path_; }
+  MachineKey& location() { return location_; }
+
+ private:
+  std::wstring fileInFolder() const { return folder_ + L"\\MSINFO32.EXE"; }
+
+  MachineKey path_{L"SOFTWARE\\Microsoft\\Shared Tools\\MSINFO"};
+  MachineKey location_{L"SOFTWARE\\Microsoft\\Shared Tools Location"};
+  std::wstring folder_;
+};
+
+TEST_F(SystemInfoTest, StartsTheProgramThatTheRegistryNames) {
+  path().set(L"PATH", program().file());
+  askForSystemInfo();
+  expectStandIn();
+}
+
+TEST_F(SystemInfoTest, TakesANameStoredWithoutItsEnd) {
+  path().setUnterminated(L"PATH", program().file());
+  askForSystemInfo();
+  expectStandIn();
+}
+
+TEST_F(SystemInfoTest, StartsTheProgramInTheFolderThatTheRegistryNames) {
+  location().set(L"MSINFO", makeFolder());
+  askForSystemInfo();
+  expectStandIn();
+}
+
+TEST_F(SystemInfoTest, LooksIntoTheFolderWhenTheNameIsTooLong) {
+  path().set(L"PATH", program().file() + std::wstring(1024, L' '));
+  location().set(L"MSINFO", makeFolder());
+  askForSystemInfo();
+  expectStandIn();
+}
+
+// A number is a value like any other: it is the name, and the folder is not looked into.
+TEST_F(SystemInfoTest, TakesANumberForTheName) {
+  path().set(L"PATH", 7);
+  location().set(L"MSINFO", makeFolder());
+  askForSystemInfo();
+  expectMissing();
+}
+
+TEST_F(SystemInfoTest, SaysThatNothingNamesTheProgram) {
+  askForSystemInfo();
+  expectMissing();
+}
+
+}  // namespace
+}  // namespace program
