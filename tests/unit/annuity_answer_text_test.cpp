@@ -99,6 +99,9 @@ INSTANTIATE_TEST_SUITE_P(
                     Row{"AMonthAndTooLittleMore", 13.003, "1  Year\r\n1  Months"},
                     Row{"AMonthAndMore", 13.006, "1  Year\r\n1.01  Months"},
                     Row{"TooLittleForADecimal", 12.003, "1  Year\r\n0  Months"},
+                    Row{"ExactlyAlmostAMonth", 0.995, "0  Years\r\n1  Months"},
+                    Row{"ExactlyTooLittleForADecimal", 0.004, "0  Years\r\n0  Months"},
+                    Row{"MoreThanTooLittleKeepsItsPoint", 0.0045, "0  Years\r\n0.  Months"},
                     Row{"BelowZero", -5.5, "-1  Years\r\n6.5  Months"}),
     nameOf);
 

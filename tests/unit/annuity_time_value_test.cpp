@@ -137,6 +137,27 @@ TEST(NPer, KeepsATermThatIsNotQuiteWhole) {
   EXPECT_NEAR(withinACent, 360, 0.02);
 }
 
+/// The number so many steps of the last digit above `value`.
+double lastDigitsAbove(double value, int steps) {
+  for (; steps > 0; --steps) value = std::nextafter(value, std::numeric_limits<double>::infinity());
+  return value;
+}
+
+// The arithmetic is trusted with 16 units of the last place of what flows, and 4 more for each
+// unit of the exponent: here 35 and 70 steps of an amount are within, 45 and 90 are beyond.
+TEST(NPer, IsWholeOnlyWhereTheLastDigitsMayPartIt) {
+  EXPECT_EQ(NPer(0, -100, lastDigitsAbove(1200, 35), 0, 0), 12);
+  EXPECT_NE(NPer(0, -100, lastDigitsAbove(1200, 45), 0, 0), 12);
+  EXPECT_EQ(NPer(0.00625, -699.2145085527792, lastDigitsAbove(100000, 70), 0, 0), 360);
+  EXPECT_NE(NPer(0.00625, -699.2145085527792, lastDigitsAbove(100000, 90), 0, 0), 360);
+}
+
+// Two payments of 10 grow to 10 (2 + rate).
+TEST(Rate, TakesMoreStepsWhereTheRootIsFarAway) {
+  EXPECT_NEAR(Rate(2, -10, 0, 1500, 0), 148, 1e-9);
+  EXPECT_NEAR(Rate(2, -10, 0, 10000, 0), 998, 1e-9);
+}
+
 TEST(Rate, StartsFromTheGuess) {
   // Two rates balance a loan that ends with money back; the guess tells which is meant.
   EXPECT_NEAR(Rate(208, -700, 137600, 8000, 0, 0.001), 0, 1e-9);
