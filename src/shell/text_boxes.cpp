@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "common/number_text.h"
 #include "shell/frm_calc.h"
 
@@ -59,7 +61,9 @@ void frmCalc::txtDec_KeyUp(controls::KeyCode key) {
   if (key != controls::kKeyTab && key != kKeyShift) txtEntry.setFocus();
 }
 
+// A cell copied from a spreadsheet ends in a line end.
 void frmCalc::txtDec_Paste(std::string& text) {
+  text.erase(std::min(text.find_first_of("\r\n"), text.size()));
   if (DecAccepts(text)) return;
   text.clear();
   desktop_.beep();
