@@ -60,5 +60,26 @@ INSTANTIATE_TEST_SUITE_P(
                          "\rPlease close this window and reload this form."}),
     [](const auto& each) { return std::string(each.param.whatAUserSees); });
 
+// What the mouse does to the entry "12" between its down and its up.
+std::size_t boxesAfterMousePutsIn(const char* text) {
+  inmemory::Desktop desktop;
+  const auto window = desktop.createWindow(shell::frmCalcLayout());
+  Engine engine(controlsOf(desktop, *window));
+  controls::TextBox& entry = window->textBox("txtEntry");
+  entry.setText("12");
+  engine.txtEntry_MouseDown();
+  entry.setText(text);
+  engine.txtEntry_MouseUp();
+  return desktop.boxes.size();
+}
+
+TEST(EntryMouse, PastedWordIsReported) {
+  EXPECT_EQ(boxesAfterMousePutsIn("12abc"), 1U);
+}
+
+TEST(EntryMouse, EntryCutAwayIsNoPaste) {
+  EXPECT_EQ(boxesAfterMousePutsIn(""), 0U);
+}
+
 }  // namespace
 }  // namespace engine
