@@ -11,12 +11,14 @@ namespace {
 // The longest text that is read, with the zero behind it. No path of a program is longer.
 constexpr std::size_t kLongestText = 1024;
 
+constexpr REGSAM kReadAndWrite = KEY_READ | KEY_WRITE | KEY_CREATE_LINK;
+static_assert(kReadAndWrite == 0x2003F);
+
 // Full access first; a user who is no administrator is given the value to read.
 OwnedKey openMachineKey(const std::wstring& path) {
   HKEY key = nullptr;
-  for (const REGSAM access : {KEY_ALL_ACCESS & ~SYNCHRONIZE, KEY_READ}) {
-    if (RegOpenKeyExW(HKEY_LOCAL_MACHINE, path.c_str(), 0, static_cast<REGSAM>(access), &key) ==
-        ERROR_SUCCESS)
+  for (const REGSAM access : {kReadAndWrite, REGSAM{KEY_READ}}) {
+    if (RegOpenKeyExW(HKEY_LOCAL_MACHINE, path.c_str(), 0, access, &key) == ERROR_SUCCESS)
       return OwnedKey(key);
   }
   return nullptr;
