@@ -5,6 +5,7 @@
 #include <string>
 
 #include "inmemory/desktop.h"
+#include "shell/frm_calc_layout.h"
 
 namespace shell {
 namespace {
@@ -38,6 +39,23 @@ struct Shown {
   controls::TextBox& box(std::string_view name) { return calc.window().textBox(name); }
   void choose(std::string_view name) { calc.window().menuItem(name).choose(); }
 };
+
+TEST(MainWindow, TapeAndEntryAreSetInLettersOfOneWidth) {
+  using controls::ControlKind;
+  for (const controls::ControlLayout& control : frmCalcLayout().controls) {
+    if (control.name == "txtTape") {
+      EXPECT_EQ(control.font.name, "Terminal");
+    } else if (control.name == "txtEntry") {
+      EXPECT_EQ(control.font.name, "Courier New");
+    } else if (control.kind == ControlKind::Button || control.kind == ControlKind::ToggleButton) {
+      EXPECT_EQ(control.font.name, "MS Sans Serif") << control.name;
+    }
+  }
+}
+
+TEST(MainWindow, TitleBeforeItIsShownIsThatOfTheCalculator) {
+  EXPECT_EQ(frmCalcLayout().caption, "Calc Mode");
+}
 
 TEST(MainWindow, HelpFileOfAProgramOnADriveRootStandsBesideIt) {
   Shown<DesktopOnADriveRoot> shown;
