@@ -16,8 +16,10 @@ std::optional<controls::KeyStroke> strokeOf(const MSG& message) {
                              .shift = isDown(VK_SHIFT),
                              .control = isDown(VK_CONTROL),
                              .alt = isDown(VK_MENU)};
-  // Alt with a letter comes as the character, which is right for every keyboard layout.
+  // Alt with a letter comes as the character, which is right for every keyboard layout, and means
+  // Alt also when that is up again by now.
   if (message.message == WM_SYSCHAR) {
+    stroke.alt = true;
     const auto upper = CharUpperW(reinterpret_cast<wchar_t*>(message.wParam));
     stroke.key = static_cast<controls::KeyCode>(reinterpret_cast<UINT_PTR>(upper));
     return stroke;

@@ -95,6 +95,14 @@ TEST_F(NativeWindow, ModifiersAreNoKeyStrokes) {
   EXPECT_EQ(takeLog(), Log{std::to_string('7')});
 }
 
+TEST_F(NativeWindow, LetterThatCameWithAltIsAnAccessKeyAlsoWhenAltIsUpAgain) {
+  constexpr LPARAM kWithAlt = 1 << 29;
+  button_.onClick = [this] { note("click"); };
+  PostMessageW(handleOf(first_), WM_SYSCHAR, 'g', kWithAlt);
+  kind_->settle();
+  EXPECT_EQ(takeLog(), Log{"click"});
+}
+
 TEST_F(NativeWindow, DecimalKeyOfTheKeypadTypesAPoint) {
   PostMessageW(handleOf(first_), WM_KEYDOWN, VK_DECIMAL, 1);
   PostMessageW(handleOf(first_), WM_KEYUP, VK_DECIMAL, 1);
