@@ -6,7 +6,7 @@ namespace {
 
 class TypingTest : public DesktopTest {
  protected:
-  void press(const Inputs& inputs) { stage().send(inputs); }
+  void press(const Inputs& inputs) { stage().sendKeys(inputs); }
   void tapNumLock() {
     Inputs inputs;
     tap(inputs, VK_NUMLOCK);

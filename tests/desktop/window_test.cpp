@@ -45,7 +45,7 @@ TEST_F(WindowTest, MenusOpenWithTheirAccessKeys) {
   pressAlt('W');
   Inputs inputs;
   tap(inputs, 'P');
-  stage().send(inputs);
+  stage().sendKeys(inputs);
   EXPECT_EQ(tell("get mnuWinPadTape Checked")["value"], true);
 }
 

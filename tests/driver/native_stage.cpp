@@ -164,6 +164,12 @@ void NativeStage::send(std::vector<INPUT> inputs) {
   settle();
 }
 
+void NativeStage::sendKeys(std::vector<INPUT> inputs) {
+  putProgramInFront();
+  ui_.expectKey(0);
+  send(std::move(inputs));
+}
+
 void NativeStage::start(const std::string& name) {
   act([&] {
     app_.reset();

@@ -24,8 +24,8 @@ class NativeStage : public Stage {
   void run();
   void end();
 
-  /// Sends in one call what keys and the mouse do, and waits until the program has acted on it.
-  void send(std::vector<INPUT> inputs);
+  /// Sends in one call what keys do, and waits until the program has acted on it.
+  void sendKeys(std::vector<INPUT> inputs);
   /// Drags with the left button from one place of the screen to another.
   void drag(POINT from, POINT to);
 
@@ -61,6 +61,7 @@ class NativeStage : public Stage {
   bool arrange(const std::string&, const std::vector<std::string>&) override { return false; }
 
  private:
+  void send(std::vector<INPUT> inputs);
   void act(const std::function<void()>& body);
   void deliver(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
   void settle();
