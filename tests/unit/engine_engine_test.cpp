@@ -60,25 +60,29 @@ INSTANTIATE_TEST_SUITE_P(
                          "\rPlease close this window and reload this form."}),
     [](const auto& each) { return std::string(each.param.whatAUserSees); });
 
-// What the mouse does to the entry "12" between its down and its up.
-std::size_t boxesAfterMousePutsIn(const char* text) {
+// What the mouse makes of an entry between its down and its up.
+std::size_t boxesAfterMouseMakes(const char* before, const char* after) {
   inmemory::Desktop desktop;
   const auto window = desktop.createWindow(shell::frmCalcLayout());
   Engine engine(controlsOf(desktop, *window));
   controls::TextBox& entry = window->textBox("txtEntry");
-  entry.setText("12");
+  entry.setText(before);
   engine.txtEntry_MouseDown();
-  entry.setText(text);
+  entry.setText(after);
   engine.txtEntry_MouseUp();
   return desktop.boxes.size();
 }
 
 TEST(EntryMouse, PastedWordIsReported) {
-  EXPECT_EQ(boxesAfterMousePutsIn("12abc"), 1U);
+  EXPECT_EQ(boxesAfterMouseMakes("12", "12abc"), 1U);
 }
 
 TEST(EntryMouse, EntryCutAwayIsNoPaste) {
-  EXPECT_EQ(boxesAfterMousePutsIn(""), 0U);
+  EXPECT_EQ(boxesAfterMouseMakes("12", ""), 0U);
+}
+
+TEST(EntryMouse, ClickIntoAnUnfinishedEntryIsNoPaste) {
+  EXPECT_EQ(boxesAfterMouseMakes("-", "-"), 0U);
 }
 
 }  // namespace
