@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "desktop/program/picture.h"
 #include "desktop/program/program_test.h"
 
@@ -56,6 +58,43 @@ class ColorTest : public ProgramTest {
     EXPECT_EQ(seen(), color);
   }
 
+  /// Waits until the letters at the left of the tape, or the figures in the entry box, are as far
+  /// from the colour of the box as they can be.
+  static void expectLetters(HWND box, bool light) {
+    constexpr int kFrame = 4;
+    constexpr std::uint32_t kWhite = 0xE0;
+    constexpr std::uint32_t kBlack = 0x20;
+    RECT place = placeOf(box);
+    InflateRect(&place, -kFrame, -kFrame);
+    // Without the caret, which is always far from the colour: it stands behind them.
+    constexpr int kCaret = 8;
+    place.right = box == program().tape() ? (place.left + place.right) / 2 : place.right - kCaret;
+    EXPECT_TRUE(eventually([&] {
+      const Picture picture(place);
+      return std::ranges::any_of(picture.dots(), [light](std::uint32_t dot) {
+        const std::uint32_t red = dot >> 16;
+        const std::uint32_t green = dot >> 8 & 0xFF;
+        return light ? std::min(red, green) > kWhite : std::max(red, green) < kBlack;
+      });
+    })) << "the letters of the "
+        << (box == program().tape() ? "tape" : "entry");
+  }
+
+  /// Both boxes when they have the focus and are of that colour.
+  void expectLettersOn(COLORREF color, bool light) {
+    settings().set(L"glngTextBackColor", std::to_wstring(color));
+    settings().set(L"frmCalcmnuWinPadTape", L"True");
+    start();
+    expectEntryColor(color);
+    type("8888");
+    expectText(program().entry(), L"8,888");
+    expectLetters(program().entry(), light);
+    click(middleOf(program().tape()));
+    await("the focus in the tape", [] { return program().focus() == program().tape(); });
+    expectLetters(program().tape(), light);
+    close();
+  }
+
   std::wstring stored() { return settings().get(L"glngTextBackColor"); }
 };
 
@@ -97,6 +136,15 @@ TEST_F(ColorTest, CancelLeavesItAsItIs) {
   end(openPicker(), IDCANCEL);
   expectEntryColor(kChosen);
   EXPECT_EQ(stored(), std::to_wstring(kChosen));
+}
+
+TEST_F(ColorTest, LettersAreLightOnADarkColour) {
+  expectLettersOn(RGB(0, 0, 96), true);
+}
+
+// Yellow is bright, though it has no blue.
+TEST_F(ColorTest, LettersAreDarkOnALightColour) {
+  expectLettersOn(RGB(255, 255, 0), false);
 }
 
 }  // namespace
