@@ -51,7 +51,10 @@ OptionButton::OptionButton(Window& frame, const controls::ControlLayout& layout)
 }
 
 void OptionButton::takeNotification(UINT code) {
-  if (code == BN_CLICKED && !takingFocus_) click();
+  // The second of two quick clicks, which is a click like another where the first chose something
+  // else.
+  const bool isClick = code == BN_CLICKED || code == BN_DOUBLECLICKED;
+  if (isClick && !takingFocus_) click();
 }
 
 // A native option button reports a click when it just gets the focus.

@@ -143,6 +143,16 @@ TEST_F(NativeWindow, FastClicksAreAllClicks) {
             (Log{"button", "button", "button", "button", "toggle", "toggle", "toggle", "toggle"}));
 }
 
+TEST_F(NativeWindow, FastSecondClickChoosesAnOptionThatWasLeftMeanwhile) {
+  controls::OptionButton& left = window_->optionButton("left");
+  controls::OptionButton& right = window_->optionButton("right");
+  right.setValue(true);
+  send(left, WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(10, 10));
+  send(left, WM_LBUTTONUP, 0, MAKELPARAM(10, 10));
+  EXPECT_TRUE(left.value());
+  EXPECT_FALSE(right.value());
+}
+
 TEST_F(NativeWindow, EndOfTheSessionClosesItAlsoBehindADialog) {
   window_->onClose = [this] { note("close"); };
   window_->setEnabled(false);
