@@ -75,6 +75,12 @@ controls::Window& Driver::window(const std::string& name) {
   return *window;
 }
 
+controls::Window& Driver::freeWindow(const std::string& name) {
+  controls::Window& found = window(name);
+  if (!found.enabled()) throw CommandError("a dialog stands in front of it");
+  return found;
+}
+
 controls::Control& Driver::control(const std::string& name) {
   const auto point = name.find('.');
   controls::Window& owner = window(point == std::string::npos ? "frmCalc" : name.substr(0, point));
@@ -108,14 +114,13 @@ void Driver::start(Command& command) {
 }
 
 void Driver::close(Command& command) {
-  controls::Window& closing = window(command.word());
+  controls::Window& closing = freeWindow(command.word());
   command.end();
-  if (!closing.enabled()) throw CommandError("a dialog stands in front of it");
   stage_.close(closing);
 }
 
 void Driver::bringToFront(Command& command) {
-  controls::Window& wanted = window(command.word());
+  controls::Window& wanted = freeWindow(command.word());
   command.end();
   if (!wanted.visible()) throw CommandError("the window is not visible");
   stage_.bringToFront(wanted);
@@ -201,7 +206,7 @@ void Driver::choose(Command& command) {
 }
 
 void Driver::resize(Command& command) {
-  controls::Window& sized = window(command.word());
+  controls::Window& sized = freeWindow(command.word());
   const int width = command.number();
   const int height = command.number();
   command.end();
@@ -209,7 +214,7 @@ void Driver::resize(Command& command) {
 }
 
 void Driver::move(Command& command) {
-  controls::Window& moved = window(command.word());
+  controls::Window& moved = freeWindow(command.word());
   const int left = command.number();
   const int top = command.number();
   command.end();
@@ -229,7 +234,7 @@ void Driver::restore(Command& command) {
 }
 
 void Driver::setState(Command& command, controls::WindowState state) {
-  controls::Window& wanted = window(command.word());
+  controls::Window& wanted = freeWindow(command.word());
   command.end();
   stage_.setState(wanted, state);
 }

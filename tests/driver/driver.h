@@ -59,6 +59,8 @@ class Driver {
   void setState(Command& command, controls::WindowState state);
 
   controls::Window& window(const std::string& name);
+  /// One that the user can reach: no dialog stands in front of it.
+  controls::Window& freeWindow(const std::string& name);
   controls::Control& control(const std::string& name);
   controls::Control& usableControl(const std::string& name);
   controls::TextBox& textBox(const std::string& name);
