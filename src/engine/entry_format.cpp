@@ -41,7 +41,7 @@ int trailingZeros(std::string_view digits) {
 
 std::string decimalsPattern(int places) {
   std::string pattern(kWholePattern);
-  if (places > 0) pattern += "." + std::string(static_cast<std::size_t>(places), '0');
+  if (places > 0) pattern.append(".").append(static_cast<std::size_t>(places), '0');
   return pattern;
 }
 
