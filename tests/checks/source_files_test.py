@@ -7,6 +7,7 @@ import unittest
 import tree
 
 MOST_LINES = 400
+MOST_LINES_OF_A_FUNCTION = 60
 # Each release formats a little differently; this is the one that the tree is formatted with.
 CLANG_FORMAT_RELEASE = "14"
 
@@ -38,6 +39,20 @@ def unformatted(command, paths):
     return sorted(set(places) or ({done.stderr} if done.returncode else set()))
 
 
+def long_functions(lines):
+    """The first lines of blocks that are too long. The formatter puts the end of a block below its beginning."""
+    found = []
+    began = {}
+    for number, line in enumerate(lines):
+        indent = len(line) - len(line.lstrip())
+        if indent > 2 or not line.strip() or line.lstrip().startswith(("//", "#")):
+            continue
+        if line.strip() == "}" and number - began.get(indent, number) >= MOST_LINES_OF_A_FUNCTION:
+            found.append(lines[began[indent]])
+        began[indent] = number
+    return found
+
+
 class SourceFiles(unittest.TestCase):
     def test_all_are_formatted(self):
         command = clang_format()
@@ -54,6 +69,11 @@ class SourceFiles(unittest.TestCase):
         longest = {tree.name(path): len(tree.lines(path))
                    for path in sources() + tree.files(".py", ".sh", ".cmd", ".cmake")}
         self.assertEqual({file: n for file, n in longest.items() if n > MOST_LINES}, {})
+
+    def test_no_function_is_too_long(self):
+        for path in sources():
+            with self.subTest(file=tree.name(path)):
+                self.assertEqual(long_functions(tree.lines(path)), [])
 
     def test_each_stands_in_the_list_of_its_folder(self):
         for path in tree.files(".cpp", below="src") + tree.files(".cpp", below="tests"):
