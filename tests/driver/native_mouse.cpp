@@ -48,6 +48,12 @@ INPUT mouseButton(MouseButton button, bool up, ULONG_PTR extra) {
   return input;
 }
 
+bool isButton(HWND control) {
+  wchar_t name[16] = L"";
+  GetClassNameW(control, name, static_cast<int>(std::size(name)));
+  return std::wstring_view(name) == L"Button";
+}
+
 bool placeToClick(HWND control, POINT& place) {
   static int side = 1;
   RECT rect = {};

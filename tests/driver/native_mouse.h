@@ -13,6 +13,10 @@ enum class MouseButton { Left, Right };
 /// What the mouse sends when a button of it is pressed, or let go; carries `extra`.
 INPUT mouseButton(MouseButton button, bool up, ULONG_PTR extra);
 
+/// Whether it is pushed by a click: it holds the mouse until that comes up, and what it does comes
+/// then.
+bool isButton(HWND control);
+
 /// A place within a control where a click reaches it, near its middle, and never the same one twice
 /// in a row: the system would take two clicks for a double click. False when the control lies
 /// beyond the screen, or behind another window.

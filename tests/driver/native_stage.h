@@ -74,9 +74,8 @@ class NativeStage : public Stage {
   void clickThrough(const std::vector<MenuPlace>& way, POINT place);
   bool pasteByMouse(HWND box);
   bool clickAt(POINT place, MouseButton button);
-  bool pressAt(POINT place, HWND seen, MouseButton button);
-  bool releaseAt(POINT place, HWND seen, MouseButton button);
-  bool moveButton(POINT place, HWND seen, MouseButton button, bool up);
+  void clickSurely(POINT place);
+  bool moveButton(MouseButton button, bool up, POINT place, HWND seen, HWND pressed);
   void moveMouse(POINT place);
   void cancelMouse();
 

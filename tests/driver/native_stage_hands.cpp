@@ -44,13 +44,13 @@ void NativeStage::doubleClick(controls::Control& control) {
 }
 
 // False when something else has come to that place before the click was done: then nothing has been
-// clicked.
+// clicked. Nor has a button that lost the focus for a moment while it was pressed.
 bool NativeStage::clickAt(POINT place, MouseButton button) {
   HWND seen = WindowFromPoint(place);
-  if (!pressAt(place, seen, button)) return false;
-  if (releaseAt(place, seen, button)) return true;
+  if (!moveButton(button, false, place, seen, nullptr)) return false;
+  if (moveButton(button, true, place, seen, isButton(seen) ? seen : nullptr)) return true;
   cancelMouse();
-  releaseAt(place, nullptr, button);
+  moveButton(button, true, place, nullptr, nullptr);
   return false;
 }
 
@@ -74,18 +74,10 @@ void NativeStage::moveMouse(POINT place) {
   }
 }
 
-bool NativeStage::pressAt(POINT place, HWND seen, MouseButton button) {
-  return moveButton(place, seen, button, false);
-}
-
-bool NativeStage::releaseAt(POINT place, HWND seen, MouseButton button) {
-  return moveButton(place, seen, button, true);
-}
-
-bool NativeStage::moveButton(POINT place, HWND seen, MouseButton button, bool up) {
+bool NativeStage::moveButton(MouseButton button, bool up, POINT place, HWND seen, HWND pressed) {
   for (int i = 0; i < kTriesOfMouse; ++i) {
     moveMouse(place);
-    ui_.expectClick(place, seen);
+    ui_.expectClick(place, seen, pressed);
     send({mouseButton(button, up, UiThread::kAimedInput)});
     if (!ui_.missed()) return true;
   }
@@ -93,9 +85,15 @@ bool NativeStage::moveButton(POINT place, HWND seen, MouseButton button, bool up
 }
 
 void NativeStage::drag(POINT from, POINT to) {
-  if (!pressAt(from, WindowFromPoint(from), MouseButton::Left) ||
-      !releaseAt(to, nullptr, MouseButton::Left))
+  if (!moveButton(MouseButton::Left, false, from, WindowFromPoint(from), nullptr) ||
+      !moveButton(MouseButton::Left, true, to, nullptr, nullptr))
     throw CommandError("the mouse does not stay where it is put");
+}
+
+void NativeStage::clickSurely(POINT place) {
+  for (int i = 0; i < kTriesOfMouse; ++i)
+    if (clickAt(place, MouseButton::Left)) return;
+  throw CommandError("the mouse does not get there");
 }
 
 // A control that the mouse cannot reach, since it lies outside the window or the screen, gets the
@@ -105,8 +103,7 @@ void NativeStage::clickWithMouse(controls::Control& control, int times) {
   HWND handle = handleOf(control);
   POINT place = {};
   if (placeToClick(handle, place)) {
-    for (int i = 0; i < times; ++i)
-      if (!clickAt(place, MouseButton::Left)) throw CommandError("the mouse does not get there");
+    for (int i = 0; i < times; ++i) clickSurely(place);
     return;
   }
   deliver(handle, WM_LBUTTONDOWN, MK_LBUTTON, 0);

@@ -118,9 +118,10 @@ bool UiThread::waitForMove(DWORD milliseconds) {
   return waitFor([this] { return isMouseAt(place_); }, milliseconds);
 }
 
-void UiThread::expectClick(POINT place, HWND seen) {
+void UiThread::expectClick(POINT place, HWND seen, HWND pressed) {
   place_ = place;
   seen_ = seen;
+  pressed_ = pressed;
   character_ = 0;
   aim_ = Aim::Open;
 }
@@ -235,7 +236,7 @@ bool UiThread::comesThrough(const MOUSEHOOKSTRUCT& mouse) {
 bool UiThread::isAimed(const MOUSEHOOKSTRUCT& mouse) const {
   const POINT place = place_;
   return isSame(mouse.pt, place) && isMouseAt(place) &&
-         (!seen_ || WindowFromPoint(mouse.pt) == seen_);
+         (!seen_ || WindowFromPoint(mouse.pt) == seen_) && (!pressed_ || GetCapture() == pressed_);
 }
 
 // Marks come in the order in which they were sent, but one may get lost while no window of the

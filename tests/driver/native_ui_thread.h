@@ -36,8 +36,9 @@ class UiThread {
   bool waitUntilReached(DWORD milliseconds);
   /// The system may report late that the mouse was moved, and so carry a click elsewhere. Clicks
   /// that carry kAimedInput come through only at `place`, when the last move that was reported has
-  /// led there, while `seen` is what is seen there (nothing: whatever is seen).
-  void expectClick(POINT place, HWND seen);
+  /// led there, while `seen` is what is seen there (nothing: whatever is seen) and `pressed` holds
+  /// the mouse (nothing: whatever does).
+  void expectClick(POINT place, HWND seen, HWND pressed);
   /// It may also believe that a held key came up, and so take Shift or Alt from a stroke. Strokes
   /// that carry kHeldInput come through only while the keys are held that they name, and only with
   /// that character (0: whichever it is).
@@ -105,6 +106,7 @@ class UiThread {
   std::atomic<bool> restAwaited_ = false;
   std::atomic<POINT> place_ = POINT{};
   std::atomic<HWND> seen_ = nullptr;
+  std::atomic<HWND> pressed_ = nullptr;
   std::atomic<Aim> aim_ = Aim::Open;
   std::atomic<WPARAM> character_ = 0;
   std::atomic<UINT> command_ = 0;
