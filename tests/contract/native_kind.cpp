@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "contract/kind.h"
+#include "driver/native_handles.h"
 #include "driver/native_keyboard.h"
 #include "driver/native_mouse.h"
 #include "win32/desktop.h"
@@ -30,13 +31,6 @@ INPUT mark() {
   input.ki.dwFlags = KEYEVENTF_KEYUP;
   input.ki.dwExtraInfo = kMark;
   return input;
-}
-
-bool isInFront() {
-  HWND front = GetForegroundWindow();
-  DWORD process = 0;
-  if (front) GetWindowThreadProcessId(front, &process);
-  return process == GetCurrentProcessId();
 }
 
 LRESULT CALLBACK watchMessage(int code, WPARAM removed, LPARAM pointer) {
@@ -98,7 +92,7 @@ class NativeKind : public Kind {
   void waitForMark() {
     const ULONGLONG start = GetTickCount64();
     for (ULONGLONG waited = 0; !markSeen; waited = GetTickCount64() - start) {
-      if (waited > kLongestWait || (waited > kMarkIsLate && !isInFront())) return;
+      if (waited > kLongestWait || (waited > kMarkIsLate && !driver::isInFront())) return;
       win32::dispatchWaiting(desktop_);
       if (!markSeen) MsgWaitForMultipleObjects(0, nullptr, FALSE, 10, QS_ALLINPUT);
     }

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "driver/command.h"
+#include "driver/native_handles.h"
 #include "win32/text.h"
 
 namespace driver {
@@ -23,9 +24,7 @@ constexpr DWORD kPatience = 10000;
 HWND findDialog() {
   HWND dialog = nullptr;
   while ((dialog = FindWindowExW(nullptr, dialog, kDialogClass, nullptr)) != nullptr) {
-    DWORD process = 0;
-    GetWindowThreadProcessId(dialog, &process);
-    if (process == GetCurrentProcessId()) return dialog;
+    if (isOurs(dialog)) return dialog;
   }
   return nullptr;
 }
@@ -52,9 +51,7 @@ struct Parts {
 
 BOOL CALLBACK takePart(HWND child, LPARAM found) {
   auto& parts = *reinterpret_cast<Parts*>(found);
-  wchar_t name[16] = L"";
-  GetClassNameW(child, name, static_cast<int>(std::size(name)));
-  const std::wstring_view kind = name;
+  const std::wstring kind = classOf(child);
   const LONG_PTR style = GetWindowLongPtrW(child, GWL_STYLE);
   if ((style & WS_VISIBLE) == 0) return TRUE;
   if (kind == L"Button") parts.buttons.push_back(child);

@@ -1,6 +1,7 @@
 #include "driver/native_handles.h"
 
 #include <algorithm>
+#include <iterator>
 
 #include "win32/native_control.h"
 #include "win32/window.h"
@@ -36,6 +37,23 @@ HWND handleOf(const controls::Window& window) {
 
 HWND handleOf(controls::Control& control) {
   return win32::NativeControl::of(control).handle();
+}
+
+std::wstring classOf(HWND window) {
+  wchar_t name[32] = L"";
+  const int length = GetClassNameW(window, name, static_cast<int>(std::size(name)));
+  return {name, static_cast<std::size_t>(length)};
+}
+
+bool isOurs(HWND window) {
+  DWORD process = 0;
+  GetWindowThreadProcessId(window, &process);
+  return process == GetCurrentProcessId();
+}
+
+bool isInFront() {
+  HWND front = GetForegroundWindow();
+  return front && isOurs(front);
 }
 
 MenuPlace placeOf(const controls::Window& window, const controls::MenuItem& item) {

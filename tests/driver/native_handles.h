@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include <string>
 #include <vector>
 
 #include "controls/window.h"
@@ -10,6 +11,13 @@ namespace driver {
 
 HWND handleOf(const controls::Window& window);
 HWND handleOf(controls::Control& control);
+
+/// The class of a window, by which the system knows what it is.
+std::wstring classOf(HWND window);
+/// Whether a window is the program's.
+bool isOurs(HWND window);
+/// Whether a window of the program is in front.
+bool isInFront();
 
 /// An item of a menu on the screen.
 struct MenuPlace {

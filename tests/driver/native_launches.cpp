@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "driver/native_handles.h"
+
 namespace driver {
 
 namespace {
@@ -25,18 +27,14 @@ LRESULT ask(HWND window, UINT message, WPARAM wParam = 0) {
 }
 
 BOOL CALLBACK takeWindow(HWND window, LPARAM found) {
-  DWORD process = 0;
-  GetWindowThreadProcessId(window, &process);
-  if (IsWindowVisible(window) && process != GetCurrentProcessId())
+  if (IsWindowVisible(window) && !isOurs(window))
     reinterpret_cast<std::vector<HWND>*>(found)->push_back(window);
   return TRUE;
 }
 
 // The editors of the system have one text box.
 BOOL CALLBACK takeTextBox(HWND child, LPARAM found) {
-  wchar_t name[32] = L"";
-  GetClassNameW(child, name, static_cast<int>(std::size(name)));
-  const std::wstring_view kind = name;
+  const std::wstring kind = classOf(child);
   if (kind != L"Edit" && !kind.starts_with(L"RichEdit")) return TRUE;
   *reinterpret_cast<HWND*>(found) = child;
   return FALSE;

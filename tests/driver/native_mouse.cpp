@@ -13,18 +13,14 @@ constexpr UINT kGetMenuHandle = 0x01E1;
 
 // The menu that an open menu's window shows; nothing for any other window.
 HMENU menuIn(HWND window) {
-  wchar_t name[16] = L"";
-  GetClassNameW(window, name, static_cast<int>(std::size(name)));
-  if (name != kMenuClass) return nullptr;
+  if (classOf(window) != kMenuClass) return nullptr;
   return reinterpret_cast<HMENU>(SendMessageW(window, kGetMenuHandle, 0, 0));
 }
 
 HWND findOpenMenu() {
   HWND menu = nullptr;
   while ((menu = FindWindowExW(nullptr, menu, kMenuClass.data(), nullptr)) != nullptr) {
-    DWORD process = 0;
-    GetWindowThreadProcessId(menu, &process);
-    if (process == GetCurrentProcessId() && IsWindowVisible(menu)) break;
+    if (isOurs(menu) && IsWindowVisible(menu)) break;
   }
   return menu;
 }
@@ -49,9 +45,7 @@ INPUT mouseButton(MouseButton button, bool up, ULONG_PTR extra) {
 }
 
 bool isButton(HWND control) {
-  wchar_t name[16] = L"";
-  GetClassNameW(control, name, static_cast<int>(std::size(name)));
-  return std::wstring_view(name) == L"Button";
+  return classOf(control) == L"Button";
 }
 
 bool placeToClick(HWND control, POINT& place) {

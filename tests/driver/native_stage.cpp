@@ -21,17 +21,6 @@ constexpr DWORD kPatience = 30000;
 // No mark takes that long while the program is in front.
 constexpr DWORD kMarkIsLate = 200;
 
-bool isOurs(HWND window) {
-  DWORD process = 0;
-  GetWindowThreadProcessId(window, &process);
-  return process == GetCurrentProcessId();
-}
-
-bool isInFront() {
-  HWND front = GetForegroundWindow();
-  return front && isOurs(front);
-}
-
 void sendInputs(std::vector<INPUT> inputs) {
   const auto count = static_cast<UINT>(inputs.size());
   if (SendInput(count, inputs.data(), sizeof(INPUT)) != count)
