@@ -94,12 +94,16 @@ void TextBox::deleteForward() {
   replaceSelection("");
 }
 
+std::string firstLineOf(std::string_view text) {
+  return std::string(text.substr(0, text.find_first_of("\r\n")));
+}
+
 void TextBox::paste(std::string text) {
   if (onPaste) {
     raise(onPaste, text);
     if (text.empty()) return;
   } else if (!layout().multiLine) {
-    text.erase(std::min(text.find_first_of("\r\n"), text.size()));
+    text = firstLineOf(text);
   }
   replaceSelection(text);
 }

@@ -11,6 +11,9 @@ namespace controls {
 
 enum class ChangedBy { Program, User };
 
+/// What of a pasted text goes into a box of one line.
+std::string firstLineOf(std::string_view text);
+
 /// A box with a text, a caret and a selection. Places in the text are counted in characters from 0;
 /// text is UTF-8, and a character beyond the basic plane counts as two, as the system counts it.
 /// The functions that are not virtual hold the rules; an implementation keeps the text and the

@@ -1,5 +1,3 @@
-#include <algorithm>
-
 #include "common/number_text.h"
 #include "shell/frm_calc.h"
 
@@ -63,7 +61,7 @@ void frmCalc::txtDec_KeyUp(controls::KeyCode key) {
 
 // A cell copied from a spreadsheet ends in a line end.
 void frmCalc::txtDec_Paste(std::string& text) {
-  text.erase(std::min(text.find_first_of("\r\n"), text.size()));
+  text = controls::firstLineOf(text);
   if (DecAccepts(text)) return;
   text.clear();
   desktop_.beep();
