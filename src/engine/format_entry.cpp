@@ -6,6 +6,15 @@
 
 namespace engine {
 
+namespace {
+
+// A digit typed in front of the sign would be lost.
+int behindSign(int caret, const std::string& text) {
+  return std::max(caret, text.starts_with('-') ? 1 : 0);
+}
+
+}  // namespace
+
 void Engine::FormatEntry() {
   common::trap([&] { ReformatEntry(); },
                [&](const common::RunTimeError& error) { ShowError(error); });
@@ -30,8 +39,7 @@ void Engine::ReformatEntry() {
   const int caret = c_.txtEntry.selStart();
   c_.txtEntry.setText(text);
   const int moved = caret + c_.txtEntry.length() - length;
-  // A separator that goes from behind the sign must not leave the caret in front of it.
-  c_.txtEntry.setSelStart(std::max(moved >= 0 ? moved : caret, text.starts_with('-') ? 1 : 0));
+  c_.txtEntry.setSelStart(behindSign(moved >= 0 ? moved : caret, text));
 }
 
 // What the release of the last key would have done, for a key that goes down before it. An entry
@@ -46,7 +54,7 @@ void Engine::SettleEntry() {
 void Engine::RewriteEntry(const std::string& text, int caret) {
   if (text == c_.txtEntry.text()) return;
   c_.txtEntry.setText(text);
-  c_.txtEntry.setSelStart(caret);
+  c_.txtEntry.setSelStart(behindSign(caret, text));
 }
 
 void Engine::ShowValue(const std::string& text) {
@@ -61,27 +69,24 @@ bool Engine::HasSign(const std::string& text) const {
   return text.starts_with('-') || (!mblnValue && text.find('-') != std::string::npos);
 }
 
-// A character typed in front of the sign gives way; the caret is never left in front of it.
+// A character typed in front of the sign gives way.
 void Engine::RepairSign() {
   const std::string text = c_.txtEntry.text();
   if (!HasSign(text) || text.starts_with('-')) return;
-  const std::string repaired = text.substr(1);
-  const int caret = c_.txtEntry.selStart() - 1;
-  RewriteEntry(repaired, std::max(caret, repaired[0] == '-' ? 1 : 0));
+  RewriteEntry(text.substr(1), c_.txtEntry.selStart() - 1);
 }
 
 void Engine::DropLeadingCommas() {
   const std::string text = c_.txtEntry.text();
   const auto commas = std::min(text.find_first_not_of(','), text.size());
-  const int caret = c_.txtEntry.selStart() - static_cast<int>(commas);
-  RewriteEntry(text.substr(commas), std::max(caret, 0));
+  RewriteEntry(text.substr(commas), c_.txtEntry.selStart() - static_cast<int>(commas));
 }
 
 // The minus in front of typed zeros waited for digits that did not come.
 void Engine::DropSignOfZero() {
   const std::string text = c_.txtEntry.text();
   if (text.starts_with('-') && common::tryNumber(text) == 0.0)
-    RewriteEntry(text.substr(1), std::max(c_.txtEntry.selStart() - 1, 0));
+    RewriteEntry(text.substr(1), c_.txtEntry.selStart() - 1);
 }
 
 void Engine::TidyEntry() {
