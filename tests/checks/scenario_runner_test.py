@@ -85,6 +85,13 @@ class ScenarioRunner(unittest.TestCase):
         self.assertEqual((code, said[-1]), (0, "0 passed, 0 failed, 1 skipped"))
         self.assertEqual(said[0], "one.txt: left out, only for the in-memory driver")
 
+    def test_scenarios_in_folders_are_found_and_chosen_by_folder_and_name(self):
+        for name in ["tape/off.txt", "tape/padded.txt", "memory/off.txt"]:
+            (self.folder / name).parent.mkdir(exist_ok=True)
+            (self.folder / name).write_text("start\n", encoding="utf-8")
+        self.assert_passes(self.run_on("start\n", "--only", "tape/off", *self.driver()))
+        self.assertEqual(self.run_on("start\n", *self.driver())[1], ["4 passed, 0 failed"])
+
     def test_no_scenario_at_all_fails(self):
         self.assertEqual(self.run_on("start\n", "--only", "other", *self.driver())[0], 1)
 

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Runs the scenario files beside it against a driver, or against two and compares their answers.
+"""Runs the scenario files in the folders beside it against a driver, or against two and compares their answers.
 
     run_scenarios.py [options] DRIVER...
     run_scenarios.py [options] --compare DRIVER... -- OTHER-DRIVER...
@@ -152,9 +152,8 @@ def compare(name, steps, one, other):
     return complaints
 
 
-def run_file(path, drivers, timeout):
+def run_file(path, name, drivers, timeout):
     """The complaints about one scenario."""
-    name = path.name
     try:
         steps = read_steps(path)
     except ValueError as error:
@@ -176,6 +175,13 @@ def is_only_in_memory(path):
     return ONLY_IN_MEMORY in path.read_text(encoding="utf-8").splitlines()
 
 
+def find_scenarios(folder, text):
+    """The names of the scenario files, FOLDER/NAME.txt, that hold the text."""
+    names = (path.relative_to(folder).as_posix() for path in sorted(folder.rglob("*.txt"))
+             if path.name != "CMakeLists.txt")
+    return [name for name in names if text in name]
+
+
 def parse(arguments):
     parser = argparse.ArgumentParser(description=__doc__,
                                      formatter_class=argparse.RawDescriptionHelpFormatter)
@@ -183,7 +189,7 @@ def parse(arguments):
                         help="two drivers, the second with real windows: their answers are the same")
     parser.add_argument("--real-windows", action="store_true",
                         help="the driver has real windows: one scenario at a time")
-    parser.add_argument("--only", default="", metavar="TEXT", help="just files with TEXT in the name")
+    parser.add_argument("--only", default="", metavar="TEXT", help="just files with TEXT in FOLDER/NAME")
     parser.add_argument("--folder", type=pathlib.Path, default=pathlib.Path(__file__).parent,
                         help="where the scenario files are")
     parser.add_argument("--timeout", type=float, default=120, metavar="SECONDS",
@@ -207,28 +213,28 @@ def main(arguments):
     options = parse(arguments)
     real = options.compare or options.real_windows
     passed = failed = skipped = 0
-    paths = [path for path in sorted(options.folder.glob("*.txt"))
-             if options.only in path.name and path.name != "CMakeLists.txt"]
+    scenarios = find_scenarios(options.folder, options.only)
 
-    def run_one(path):
+    def run_one(name):
+        path = options.folder / name
         if real and is_only_in_memory(path):
             if not options.compare:
                 return None
-            return run_file(path, options.drivers[:1], options.timeout)
-        return run_file(path, options.drivers, options.timeout)
+            return run_file(path, name, options.drivers[:1], options.timeout)
+        return run_file(path, name, options.drivers, options.timeout)
 
     # Real windows share one keyboard and one foreground.
     with concurrent.futures.ThreadPoolExecutor(1 if real else os.cpu_count()) as pool:
-        for path, complaints in zip(paths, pool.map(run_one, paths)):
+        for name, complaints in zip(scenarios, pool.map(run_one, scenarios)):
             if complaints is None:
-                print("%s: left out, only for the in-memory driver" % path.name)
+                print("%s: left out, only for the in-memory driver" % name)
                 skipped += 1
             elif complaints:
                 print("\n".join(complaints), flush=True)
                 failed += 1
             else:
                 passed += 1
-    if not paths:
+    if not scenarios:
         print("There are no scenario files in %s" % options.folder)
         failed = 1
     print("%d passed, %d failed" % (passed, failed) + (", %d skipped" % skipped if skipped else ""))
