@@ -6,6 +6,7 @@
 
 #include "common/run_time_error.h"
 #include "controls/desktop.h"
+#include "controls/number_field.h"
 
 namespace engine {
 
@@ -33,7 +34,7 @@ inline constexpr int kCalculatorMode = 1;
 /// and never knows whether they are on a screen.
 class Engine {
  public:
-  explicit Engine(const EngineControls& controls) : c_(controls) {}
+  explicit Engine(const EngineControls& controls) : c_(controls), field_(controls.txtEntry) {}
 
   /// Adds the entry, or takes it off. In add mode a total just shown is not taken again: the last
   /// amount is repeated. In calculator mode the operator waits for the next entry.
@@ -123,10 +124,7 @@ class Engine {
   void SettleEntry();
   bool HasSign(const std::string& text) const;
   void RepairSign();
-  void DropLeadingCommas();
   void DropSignOfZero();
-  /// Puts another text in the place of the entry; the same text is no change.
-  void RewriteEntry(const std::string& text, int caret);
   /// Shows a number that was not keyed digit by digit.
   void ShowValue(const std::string& text);
   void TakePasted(std::string text);
@@ -137,7 +135,6 @@ class Engine {
   void PostError();
   void AppendToTape(const std::string& lines);
 
-  void StepOverComma();
   bool RunKey(controls::KeyAscii key);
   bool AcceptsCharacter(controls::KeyAscii key);
   bool AcceptsPoint(const std::string& text) const;
@@ -152,6 +149,7 @@ class Engine {
   void focusEntryAtEnd();
 
   EngineControls c_;
+  controls::NumberField field_;
 
   double mdblTotal = 0;
   double mdblMemory = 0;

@@ -54,7 +54,7 @@ void Engine::txtEntry_KeyPress(KeyAscii& key) {
   const bool done = common::trap(
       [&] {
         if (key == controls::kKeyBackspace) {
-          StepOverComma();
+          field_.stepOverSeparator();
         } else if (RunKey(key)) {
           key = 0;
         } else if (!AcceptsCharacter(key)) {
@@ -64,14 +64,6 @@ void Engine::txtEntry_KeyPress(KeyAscii& key) {
       },
       [&](const common::RunTimeError& error) { ShowError(error); });
   if (!done) key = 0;
-}
-
-// Backspace right behind a separator deletes the digit in front of it.
-void Engine::StepOverComma() {
-  const int caret = c_.txtEntry.selStart();
-  if (caret == 0 || c_.txtEntry.selLength() > 0) return;
-  if (c_.txtEntry.text()[static_cast<std::size_t>(caret) - 1] == ',')
-    c_.txtEntry.setSelStart(caret - 1);
 }
 
 bool Engine::RunKey(KeyAscii key) {

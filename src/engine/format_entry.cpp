@@ -1,19 +1,8 @@
-#include <algorithm>
-
 #include "common/number_text.h"
 #include "engine/engine.h"
 #include "engine/entry_format.h"
 
 namespace engine {
-
-namespace {
-
-// A digit typed in front of the sign would be lost.
-int behindSign(int caret, const std::string& text) {
-  return std::max(caret, text.starts_with('-') ? 1 : 0);
-}
-
-}  // namespace
 
 void Engine::FormatEntry() {
   common::trap([&] { ReformatEntry(); },
@@ -33,13 +22,7 @@ std::string Engine::FormattedEntry(std::string text) {
 }
 
 void Engine::ReformatEntry() {
-  const std::string text = FormattedEntry(c_.txtEntry.text());
-  if (text == c_.txtEntry.text()) return;
-  const int length = c_.txtEntry.length();
-  const int caret = c_.txtEntry.selStart();
-  c_.txtEntry.setText(text);
-  const int moved = caret + c_.txtEntry.length() - length;
-  c_.txtEntry.setSelStart(behindSign(moved >= 0 ? moved : caret, text));
+  field_.reformat(FormattedEntry(c_.txtEntry.text()));
 }
 
 // What the release of the last key would have done, for a key that goes down before it. An entry
@@ -48,17 +31,11 @@ void Engine::SettleEntry() {
   if (mblnPosted) return;
   RepairSign();
   common::trap([&] { ReformatEntry(); }, [](const common::RunTimeError&) {});
-  DropLeadingCommas();
-}
-
-void Engine::RewriteEntry(const std::string& text, int caret) {
-  if (text == c_.txtEntry.text()) return;
-  c_.txtEntry.setText(text);
-  c_.txtEntry.setSelStart(behindSign(caret, text));
+  field_.dropLeadingCommas();
 }
 
 void Engine::ShowValue(const std::string& text) {
-  RewriteEntry(text, 0);
+  field_.rewrite(text, 0);
   c_.txtEntry.moveCaretToEnd();
   mblnValue = true;
   mblnDecKeyed = false;
@@ -69,29 +46,20 @@ bool Engine::HasSign(const std::string& text) const {
   return text.starts_with('-') || (!mblnValue && text.find('-') != std::string::npos);
 }
 
-// A character typed in front of the sign gives way.
 void Engine::RepairSign() {
-  const std::string text = c_.txtEntry.text();
-  if (!HasSign(text) || text.starts_with('-')) return;
-  RewriteEntry(text.substr(1), c_.txtEntry.selStart() - 1);
-}
-
-void Engine::DropLeadingCommas() {
-  const std::string text = c_.txtEntry.text();
-  const auto commas = std::min(text.find_first_not_of(','), text.size());
-  RewriteEntry(text.substr(commas), c_.txtEntry.selStart() - static_cast<int>(commas));
+  if (HasSign(c_.txtEntry.text())) field_.repairSign();
 }
 
 // The minus in front of typed zeros waited for digits that did not come.
 void Engine::DropSignOfZero() {
   const std::string text = c_.txtEntry.text();
   if (text.starts_with('-') && common::tryNumber(text) == 0.0)
-    RewriteEntry(text.substr(1), c_.txtEntry.selStart() - 1);
+    field_.rewrite(text.substr(1), c_.txtEntry.selStart() - 1);
 }
 
 void Engine::TidyEntry() {
   FormatEntry();
-  DropLeadingCommas();
+  field_.dropLeadingCommas();
 }
 
 }  // namespace engine

@@ -65,7 +65,7 @@ bool Engine::ProcessEntry() {
   bool done = true;
   SettleEntry();
   if (mblnPosted && mblnShowingResult && addMode())
-    RewriteEntry(common::toText(mdblLastEntry), c_.txtEntry.selStart());
+    field_.rewrite(common::toText(mdblLastEntry), c_.txtEntry.selStart());
   if (c_.txtEntry.text() == ".") {
     c_.txtEntry.setText("");
   } else if (!c_.txtEntry.text().empty()) {
@@ -188,9 +188,9 @@ void Engine::cmdChangeSign_Click() {
   const int caret = c_.txtEntry.selStart();
   if (!text.empty()) {
     if (HasSign(text)) {
-      RewriteEntry(text.substr(1), std::max(caret - 1, 0));
+      field_.rewrite(text.substr(1), std::max(caret - 1, 0));
     } else {
-      RewriteEntry("-" + text, caret + 1);
+      field_.rewrite("-" + text, caret + 1);
     }
     mblnShowingResult = mblnPosted = false;
   }

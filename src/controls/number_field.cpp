@@ -1,0 +1,49 @@
+#include "controls/number_field.h"
+
+#include <algorithm>
+
+#include "common/unicode.h"
+
+namespace controls {
+
+void NumberField::rewrite(std::string_view text, int caret) {
+  if (text == box_.text()) return;
+  box_.setText(text);
+  // A digit typed in front of the sign would be lost.
+  box_.setSelStart(std::max(caret, text.starts_with('-') ? 1 : 0));
+}
+
+void NumberField::reformat(std::string_view text) {
+  const int caret = box_.selStart();
+  const int moved = caret + static_cast<int>(common::toUtf16(text).size()) - box_.length();
+  // Where more has gone than stood in front of the caret, it has gone from the end.
+  rewrite(text, moved >= 0 ? moved : caret);
+}
+
+void NumberField::stepOverSeparator() {
+  const int caret = box_.selStart();
+  if (caret == 0 || box_.selLength() > 0) return;
+  if (common::toUtf16(box_.text())[static_cast<std::size_t>(caret) - 1] == u',')
+    box_.setSelStart(caret - 1);
+}
+
+void NumberField::repairSign() {
+  const std::string text = box_.text();
+  if (text.find('-') != std::string::npos && !text.starts_with('-')) dropFirstCharacter();
+}
+
+void NumberField::dropLeadingCommas() {
+  const std::string text = box_.text();
+  const auto commas = std::min(text.find_first_not_of(','), text.size());
+  rewrite(std::string_view(text).substr(commas), box_.selStart() - static_cast<int>(commas));
+}
+
+// A character beyond the basic plane takes two places.
+void NumberField::dropFirstCharacter() {
+  const std::u16string text = common::toUtf16(box_.text());
+  const std::size_t places = (text[0] & 0xFC00) == 0xD800 ? 2 : 1;
+  rewrite(common::toUtf8(std::u16string_view(text).substr(places)),
+          box_.selStart() - static_cast<int>(places));
+}
+
+}  // namespace controls
