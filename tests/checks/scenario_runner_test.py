@@ -7,15 +7,20 @@ import unittest
 
 import tree
 
-# Answers ok, or what one of its arguments COMMAND=ANSWER says for the command.
+# Answers ok, or what one of its arguments COMMAND=ANSWER says for the command; counts the resets.
 DRIVER = """
 import sys, time
+resets = 0
 answers = dict(argument.split("=", 1) for argument in sys.argv[1:])
 for line in sys.stdin:
     answer = answers.get(line.strip(), '{"ok":true}')
     if answer == "silence":
         time.sleep(60)
-    print(answer, flush=True)
+    if answer == "end":
+        sys.exit(3)
+    resets += line.strip() == "reset"
+    print(answer.replace("RESETS", str(resets)), flush=True)
+sys.exit(int(answers.get("code", 0)))
 """
 
 
@@ -84,6 +89,22 @@ class ScenarioRunner(unittest.TestCase):
         code, said = self.run_on("# only: in-memory\nfiles\n", "--real-windows", *self.driver())
         self.assertEqual((code, said[-1]), (0, "0 passed, 0 failed, 1 skipped"))
         self.assertEqual(said[0], "one.txt: left out, only for the in-memory driver")
+
+    def test_one_driver_carries_out_all_and_is_reset_in_between(self):
+        for name in ["0", "1"]:
+            (self.folder / (name + ".txt")).write_text('get\n=> {"value":%s}\n' % name, encoding="utf-8")
+        result = self.run_on('get\n=> {"value":2}\n', "--real-windows", *self.driver('get={"value":RESETS}'))
+        self.assertEqual(result, (0, ["3 passed, 0 failed"]))
+
+    def test_after_a_driver_that_ended_the_next_scenario_has_a_new_one(self):
+        (self.folder / "two.txt").write_text('get\n=> {"value":0}\n', encoding="utf-8")
+        result = self.run_on("start\n", "--real-windows", *self.driver("start=end", 'get={"value":RESETS}'))
+        self.assertEqual(result[1], ["one.txt:", "    the driver ended with code 3", "one.txt:1: start",
+                                     "    no answer", "1 passed, 1 failed"])
+
+    def test_a_driver_that_ends_badly_when_all_is_done_fails(self):
+        self.assertEqual(self.run_on("start\n", *self.driver("code=1")),
+                         (1, ["at the end:", "    the driver ended with code 1", "1 passed, 1 failed"]))
 
     def test_scenarios_in_folders_are_found_and_chosen_by_folder_and_name(self):
         for name in ["tape/off.txt", "tape/padded.txt", "memory/off.txt"]:

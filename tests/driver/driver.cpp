@@ -39,6 +39,7 @@ const Driver::Entry Driver::kCommands[] = {
     {"get", &Driver::get},
     {"snapshot", &Driver::snapshot},
     {"events", &Driver::events},
+    {"reset", &Driver::reset},
     {"quit", &Driver::quit},
 };
 
@@ -261,9 +262,9 @@ void Driver::events(Command& command) {
   value_ = stage_.takeEvents();
 }
 
-void Driver::quit(Command& command) {
+void Driver::end(Command& command, Ending ending) {
   command.end();
-  quitting_ = true;
+  ending_ = ending;
 }
 
 }  // namespace driver

@@ -9,6 +9,9 @@
 
 namespace driver {
 
+/// What is left to be done for the person who gives the commands.
+enum class Ending { None, Quit, Reset };
+
 /// Carries out the driver's commands on a stage.
 class Driver {
  public:
@@ -16,7 +19,8 @@ class Driver {
 
   /// The answer to one line: one line of JSON. Nothing for a blank line or a comment.
   std::string answer(const std::string& line);
-  bool quitting() const { return quitting_; }
+  /// Quit: no more commands. Reset: the next ones are for a new driver on a new stage.
+  Ending ending() const { return ending_; }
 
  private:
   using Handler = void (Driver::*)(Command&);
@@ -53,7 +57,9 @@ class Driver {
   void get(Command& command);
   void snapshot(Command& command);
   void events(Command& command);
-  void quit(Command& command);
+  void end(Command& command, Ending ending);
+  void reset(Command& command) { end(command, Ending::Reset); }
+  void quit(Command& command) { end(command, Ending::Quit); }
 
   void arrange(const std::string& name, Command& command);
   void setState(Command& command, controls::WindowState state);
@@ -68,7 +74,7 @@ class Driver {
 
   Stage& stage_;
   Json value_;
-  bool quitting_ = false;
+  Ending ending_ = Ending::None;
 };
 
 }  // namespace driver

@@ -1,33 +1,24 @@
 #include <fcntl.h>
 #include <io.h>
 
-#include <iostream>
-#include <string>
 #include <thread>
 
-#include "driver/driver.h"
+#include "driver/command_loop.h"
 #include "driver/native_stage.h"
 
-namespace {
-
-// The person in front of the program does what standard input says.
-void readCommands(driver::NativeStage& stage) {
-  driver::Driver driver(stage);
-  std::string line;
-  while (!driver.quitting() && std::getline(std::cin, line)) {
-    const std::string answer = driver.answer(line);
-    if (!answer.empty()) std::cout << answer << std::endl;
-  }
-  stage.end();
-}
-
-}  // namespace
-
+// The program has the first thread, as ever; the person in front of it does what standard input
+// says.
 int main() {
   _setmode(_fileno(stdin), _O_BINARY);
   _setmode(_fileno(stdout), _O_BINARY);
-  driver::NativeStage stage;
-  std::thread person(readCommands, std::ref(stage));
-  stage.run();
-  person.join();
+  auto ending = driver::Ending::Reset;
+  while (ending == driver::Ending::Reset) {
+    driver::NativeStage stage;
+    std::thread person([&] {
+      ending = driver::runCommands(stage);
+      stage.end();
+    });
+    stage.run();
+    person.join();
+  }
 }

@@ -1,6 +1,7 @@
 #include "driver/native_ui_thread.h"
 
 #include <exception>
+#include <limits>
 #include <memory>
 
 namespace driver {
@@ -17,6 +18,7 @@ constexpr WORD kMarkKey = VK_F24;
 // In the upper half of what a mark carries, so that no other program's input passes for one.
 constexpr ULONG_PTR kMarkSign = 0x7A5E0000;
 constexpr ULONG_PTR kMarkNumbers = 0xFFFF;
+static_assert(kMarkNumbers == std::numeric_limits<std::uint16_t>::max());
 
 constexpr ULONG_PTR kHeldKeys = UiThread::kHeldShift | UiThread::kHeldControl | UiThread::kHeldAlt;
 
@@ -33,6 +35,7 @@ bool isSame(POINT one, POINT other) {
 }  // namespace
 
 UiThread* UiThread::current_ = nullptr;
+std::uint16_t UiThread::marks_ = 0;
 
 struct UiThread::Call {
   const std::function<void()>& body;
@@ -79,7 +82,7 @@ INPUT UiThread::nextMark() {
   mark.type = INPUT_KEYBOARD;
   mark.ki.wVk = kMarkKey;
   mark.ki.dwFlags = KEYEVENTF_KEYUP;
-  mark.ki.dwExtraInfo = kMarkSign | (marks_ & kMarkNumbers);
+  mark.ki.dwExtraInfo = kMarkSign | marks_;
   return mark;
 }
 
@@ -242,8 +245,7 @@ bool UiThread::isAimed(const MOUSEHOOKSTRUCT& mouse) const {
 // Marks come in the order in which they were sent, but one may get lost while no window of the
 // program is in front.
 void UiThread::noteMark(ULONG_PTR extra) {
-  const unsigned before = marksSeen_;
-  marksSeen_ = before + static_cast<unsigned>((extra - before) & kMarkNumbers);
+  marksSeen_ = static_cast<std::uint16_t>(extra & kMarkNumbers);
   SetEvent(progress_);
 }
 

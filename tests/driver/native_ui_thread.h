@@ -4,6 +4,7 @@
 
 #include <atomic>
 #include <climits>
+#include <cstdint>
 #include <functional>
 
 namespace driver {
@@ -93,15 +94,17 @@ class UiThread {
   }
 
   static UiThread* current_;
+  // Counted on from one of these to the next, so that a mark that was late for one is not taken for
+  // a mark of the next.
+  static std::uint16_t marks_;
 
   HWND window_ = nullptr;
   HHOOK messageHook_ = nullptr;
   HHOOK mouseHook_ = nullptr;
   HANDLE progress_ = nullptr;
-  unsigned marks_ = 0;
-  unsigned marksForgotten_ = 0;
+  std::uint16_t marksForgotten_ = marks_;
   unsigned posts_ = 0;
-  std::atomic<unsigned> marksSeen_ = 0;
+  std::atomic<std::uint16_t> marksSeen_ = marks_;
   std::atomic<unsigned> postsRun_ = 0;
   std::atomic<bool> restAwaited_ = false;
   std::atomic<POINT> place_ = POINT{};

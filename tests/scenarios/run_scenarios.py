@@ -7,15 +7,19 @@
 A line that begins with "=> " holds the JSON that the command before it must answer. Objects are
 compared partially (only the expected keys), lists fully; {"error":"*"} stands for any error.
 Commands without such a line must not answer an error. A file with the line "# only: in-memory"
-uses commands that only the in-memory driver has.
+uses commands that only the in-memory driver has. One driver carries out many scenarios; between two of
+them it is reset.
 """
 import argparse
 import concurrent.futures
+import contextlib
 import json
 import os
 import pathlib
+import queue
 import subprocess
 import sys
+import threading
 
 ONLY_IN_MEMORY = "# only: in-memory"
 
@@ -90,31 +94,67 @@ def same_answer(one, other):
     return one == other
 
 
-def ask(driver, steps, timeout):
-    """The driver's answers to the steps, and what went wrong on the way ("" where nothing did)."""
-    commands = "".join(step.command + "\n" for step in steps)
-    trouble = ""
-    process = subprocess.Popen(driver, stdin=subprocess.PIPE, stdout=subprocess.PIPE)
-    try:
-        output, _ = process.communicate(commands.encode("utf-8"), timeout)
-        if process.returncode != 0:
-            trouble = "the driver ended with code %d" % process.returncode
-    except subprocess.TimeoutExpired:
-        process.kill()
-        trouble = "the driver took longer than %d seconds" % timeout
+class Driver:
+    """A driver that carries out one scenario after another, each as if it had just been started."""
+
+    def __init__(self, command, timeout):
+        self._command = command
+        self._timeout = timeout
+        self._process = None
+
+    def ask(self, steps):
+        """The answers to the steps, and what went wrong on the way ("" where nothing did)."""
+        commands = [step.command for step in steps]
+        if self._process:
+            commands.insert(0, "reset")
+        else:
+            self._process = subprocess.Popen(self._command, stdin=subprocess.PIPE, stdout=subprocess.PIPE)
+        answers = []
+        watch = threading.Timer(self._timeout, self._process.kill)
+        watch.start()
         try:
-            output, _ = process.communicate(timeout=5)
+            for command in commands:
+                answers.append(self._answer(command))
+            trouble = ""
+        except ValueError as error:
+            trouble = "no JSON: %s" % error
+        except OSError:
+            trouble = "the driver took longer than %g seconds" % self._timeout
+            if watch.is_alive():
+                trouble = "the driver ended with code %d" % self._process.wait()
+        watch.cancel()
+        if trouble:
+            self._process.kill()
+            self.end()
+        return answers[len(commands) - len(steps):], trouble
+
+    def _answer(self, command):
+        self._process.stdin.write(command.encode("utf-8") + b"\n")
+        self._process.stdin.flush()
+        line = self._process.stdout.readline()
+        if not line:
+            raise BrokenPipeError
+        text = line.decode("utf-8", "replace").rstrip()
+        try:
+            return json.loads(text)
+        except ValueError as error:
+            raise ValueError(text) from error
+
+    def end(self):
+        """Ends it; what went wrong, "" where nothing did."""
+        process, self._process = self._process, None
+        if not process:
+            return ""
+        with contextlib.suppress(OSError):
+            process.stdin.close()
+        try:
+            code = process.wait(self._timeout)
         except subprocess.TimeoutExpired:
-            return [], trouble + ", and something holds its pipe still"
-    answers = []
-    for line in output.decode("utf-8", "replace").splitlines():
-        try:
-            answers.append(json.loads(line))
-        except ValueError:
-            return answers, "no JSON: " + line
-    if not trouble and len(answers) > len(steps):
-        trouble = "%d answers to %d commands" % (len(answers), len(steps))
-    return answers, trouble
+            process.kill()
+            return "the driver does not end"
+        finally:
+            process.stdout.close()
+        return "the driver ended with code %d" % code if code else ""
 
 
 def say(name, step, text, *pairs):
@@ -152,7 +192,7 @@ def compare(name, steps, one, other):
     return complaints
 
 
-def run_file(path, name, drivers, timeout):
+def run_file(path, name, drivers):
     """The complaints about one scenario."""
     try:
         steps = read_steps(path)
@@ -163,7 +203,7 @@ def run_file(path, name, drivers, timeout):
     complaints = []
     heard = []
     for driver in drivers:
-        answers, trouble = ask(driver, steps, timeout)
+        answers, trouble = driver.ask(steps)
         heard.append(answers)
         complaints += check(name, steps, answers, trouble)
     if len(heard) == 2:
@@ -209,36 +249,61 @@ def parse(arguments):
     return options
 
 
+class Run:
+    """All scenarios on the drivers that the options name; failures are shown as they happen."""
+
+    def __init__(self, options):
+        self._options = options
+        self._real = options.compare or options.real_windows
+        # Real windows share one keyboard and one foreground.
+        self._workers = 1 if self._real else os.cpu_count()
+        self._idle = queue.SimpleQueue()
+        for _ in range(self._workers):
+            self._idle.put([Driver(command, options.timeout) for command in options.drivers])
+        self.passed = self.failed = self.skipped = 0
+
+    def run(self, scenarios):
+        with concurrent.futures.ThreadPoolExecutor(self._workers) as pool:
+            for name, complaints in zip(scenarios, pool.map(self._run_one, scenarios)):
+                self._count(name, complaints)
+        while not self._idle.empty():
+            for driver in self._idle.get():
+                trouble = driver.end()
+                if trouble:
+                    self._count(None, [say("at the end", None, trouble)])
+
+    def _run_one(self, name):
+        path = self._options.folder / name
+        drivers = self._idle.get()
+        try:
+            if self._real and is_only_in_memory(path):
+                return run_file(path, name, drivers[:1]) if self._options.compare else None
+            return run_file(path, name, drivers)
+        finally:
+            self._idle.put(drivers)
+
+    def _count(self, name, complaints):
+        if complaints is None:
+            print("%s: left out, only for the in-memory driver" % name)
+            self.skipped += 1
+        elif complaints:
+            print("\n".join(complaints), flush=True)
+            self.failed += 1
+        else:
+            self.passed += 1
+
+
 def main(arguments):
     options = parse(arguments)
-    real = options.compare or options.real_windows
-    passed = failed = skipped = 0
     scenarios = find_scenarios(options.folder, options.only)
-
-    def run_one(name):
-        path = options.folder / name
-        if real and is_only_in_memory(path):
-            if not options.compare:
-                return None
-            return run_file(path, name, options.drivers[:1], options.timeout)
-        return run_file(path, name, options.drivers, options.timeout)
-
-    # Real windows share one keyboard and one foreground.
-    with concurrent.futures.ThreadPoolExecutor(1 if real else os.cpu_count()) as pool:
-        for name, complaints in zip(scenarios, pool.map(run_one, scenarios)):
-            if complaints is None:
-                print("%s: left out, only for the in-memory driver" % name)
-                skipped += 1
-            elif complaints:
-                print("\n".join(complaints), flush=True)
-                failed += 1
-            else:
-                passed += 1
+    run = Run(options)
+    run.run(scenarios)
     if not scenarios:
         print("There are no scenario files in %s" % options.folder)
-        failed = 1
-    print("%d passed, %d failed" % (passed, failed) + (", %d skipped" % skipped if skipped else ""))
-    return 1 if failed else 0
+        run.failed = 1
+    print("%d passed, %d failed" % (run.passed, run.failed)
+          + (", %d skipped" % run.skipped if run.skipped else ""))
+    return 1 if run.failed else 0
 
 
 if __name__ == "__main__":
