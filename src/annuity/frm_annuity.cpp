@@ -1,6 +1,5 @@
 #include "annuity/frm_annuity.h"
 
-#include <algorithm>
 #include <cmath>
 #include <limits>
 
@@ -21,13 +20,10 @@ constexpr std::string_view kSection = "Annuity";
 // A first window opens below the corner of the main window, at its right.
 constexpr Twips kBesideMainWindow = 400;
 
-// No screen reaches further than a 16-bit number of pixels.
-constexpr double kFarthest = 32767 * 15;
-
 // The place that a setting gives; where it is no single-precision number, the one `designed`.
 Twips placeOf(double stored, Twips designed) {
   if (std::abs(stored) > std::numeric_limits<float>::max()) return designed;
-  return static_cast<Twips>(std::lround(std::clamp(stored, -kFarthest, kFarthest)));
+  return controls::clampedTwips(stored);
 }
 
 }  // namespace

@@ -5,6 +5,9 @@
 
 namespace common {
 
+/// A whole number grouped by thousands.
+inline constexpr std::string_view kWholePattern = "###,###,###,###,##0";
+
 /// Formats a number with a pattern: "#" is an optional digit, "0" a required one, "," in the
 /// integer part groups by thousands, "." is the decimal point (printed even when no decimal
 /// follows), "%" multiplies by 100 and is printed, any other character is literal. Works on the

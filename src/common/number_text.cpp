@@ -71,10 +71,6 @@ std::string_view trimmed(std::string_view text) {
   return text;
 }
 
-[[noreturn]] void mismatch() {
-  throw RunTimeError(kTypeMismatch);
-}
-
 // The sign and the "$", in either order.
 void readFront(std::string_view& rest, Written& written) {
   written.sign = takeSign(rest);
@@ -84,50 +80,55 @@ void readFront(std::string_view& rest, Written& written) {
   if (!written.sign) written.sign = takeSign(rest);
 }
 
-void readExponent(std::string_view& rest, Written& written) {
-  if (!take(rest, 'E') && !take(rest, 'e')) return;
+// False for an exponent without digits.
+bool readExponent(std::string_view& rest, Written& written) {
+  if (!take(rest, 'E') && !take(rest, 'e')) return true;
   written.hasExponent = true;
   written.plain = false;
   const bool negative = takeSign(rest) == '-';
   const std::string_view digits = takeWhile(rest, isDigit);
-  if (digits.empty()) mismatch();
   for (const char digit : digits) {
     if (written.exponent < kExponentLimit) {
       written.exponent = written.exponent * 10 + (digit - '0');
     }
   }
   if (negative) written.exponent = -written.exponent;
+  return !digits.empty();
 }
 
-void readDigits(std::string_view& rest, Written& written) {
+// False where no digit stands on the side of the point that must have one.
+bool readDigits(std::string_view& rest, Written& written) {
   written.integer = takeWhile(rest, isDigitOrComma);
   written.hasPoint = take(rest, '.');
   if (written.hasPoint) written.fraction = takeWhile(rest, isDigit);
-  if (written.integer.empty()) {
-    if (written.fraction.empty()) mismatch();
-    written.plain = false;
-  } else if (written.integer.find_first_not_of(',') == std::string_view::npos) {
-    mismatch();
-  }
-  readExponent(rest, written);
+  if (!written.integer.empty())
+    return written.integer.find_first_not_of(',') != std::string_view::npos;
+  written.plain = false;
+  return !written.fraction.empty();
 }
 
-Written read(std::string_view text) {
+// False for a second sign, and for a parenthesis that does not close.
+bool readBack(std::string_view& rest, bool parentheses, Written& written) {
+  if (parentheses) {
+    if (written.sign || !take(rest, ')')) return false;
+  } else if (written.sign || written.hasExponent || !take(rest, '-')) {
+    return true;
+  }
+  written.sign = '-';
+  written.plain = false;
+  return true;
+}
+
+// Nothing for a text that is no number.
+std::optional<Written> read(std::string_view text) {
   std::string_view rest = trimmed(text);
   Written written;
   written.plain = rest.size() == text.size();
   const bool parentheses = take(rest, '(');
   readFront(rest, written);
-  readDigits(rest, written);
-  if (parentheses) {
-    if (written.sign || !take(rest, ')')) mismatch();
-    written.sign = '-';
-    written.plain = false;
-  } else if (!written.sign && !written.hasExponent && take(rest, '-')) {
-    written.sign = '-';
-    written.plain = false;
-  }
-  if (!rest.empty()) mismatch();
+  const bool isNumber = readDigits(rest, written) && readExponent(rest, written) &&
+                        readBack(rest, parentheses, written) && rest.empty();
+  if (!isNumber) return {};
   return written;
 }
 
@@ -153,17 +154,30 @@ Significand significandOf(const Written& written) {
   return significand;
 }
 
-// The size of the number. Raises the overflow error.
-double magnitudeOf(const Significand& significand) {
+// The size of the number; nothing beyond the range of a double.
+std::optional<double> magnitudeOf(const Significand& significand) {
   if (significand.digits.empty() || significand.point < kSmallestPoint) return 0;
-  if (significand.point > kLargestPoint) throw RunTimeError(kOverflow);
+  if (significand.point > kLargestPoint) return {};
   const std::string text = "0." + significand.digits + "e" + std::to_string(significand.point);
   double value = 0;
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
   const bool outOfRange = error == std::errc::result_out_of_range || std::isinf(value);
   if (!outOfRange) return value;
-  if (significand.point > 0) throw RunTimeError(kOverflow);
+  if (significand.point > 0) return {};
   return 0;
+}
+
+std::optional<double> valueOf(const Written& written) {
+  const auto magnitude = magnitudeOf(significandOf(written));
+  if (!magnitude) return {};
+  return written.sign == '-' && *magnitude != 0 ? -*magnitude : *magnitude;
+}
+
+// What a reading gave. Where it gave nothing, that is the run-time error `number`.
+template <class Value>
+const Value& orError(const std::optional<Value>& given, int number) {
+  if (!given) throw RunTimeError(number);
+  return *given;
 }
 
 // Appends fixed notation of 0.DIGITS times ten to the power of `point`.
@@ -199,18 +213,14 @@ void appendScientific(std::string& text, std::string_view digits, int point) {
 
 }  // namespace
 
-double toNumber(std::string_view text) {
-  const Written written = read(text);
-  const double magnitude = magnitudeOf(significandOf(written));
-  return written.sign == '-' && magnitude != 0 ? -magnitude : magnitude;
+std::optional<double> tryNumber(std::string_view text) {
+  const auto written = read(text);
+  return written ? valueOf(*written) : std::nullopt;
 }
 
-std::optional<double> tryNumber(std::string_view text) {
-  try {
-    return toNumber(text);
-  } catch (const RunTimeError&) {
-    return std::nullopt;
-  }
+double toNumber(std::string_view text) {
+  const auto written = read(text);
+  return orError(valueOf(orError(written, kTypeMismatch)), kOverflow);
 }
 
 DecimalDigits toDigits(double value) {
@@ -250,9 +260,10 @@ std::string toText(double value) {
 }
 
 std::string toPlainText(std::string_view text) {
-  const Written written = read(text);
+  const auto reading = read(text);
+  const Written& written = orError(reading, kTypeMismatch);
   const Significand significand = significandOf(written);
-  const double magnitude = magnitudeOf(significand);
+  const double magnitude = orError(magnitudeOf(significand), kOverflow);
   if (written.plain) return std::string(text);
   std::string plain;
   if (written.sign) plain += written.sign;

@@ -8,11 +8,11 @@ namespace common {
 
 /// The number that a text stands for. Accepted: blanks and tabs around; one sign in front or a
 /// minus behind; "$"; parentheses for a negative; digits with "," anywhere in the integer part; a
-/// "." ; an exponent. Raises error 13 on any other text, error 6 beyond the range of a double.
-double toNumber(std::string_view text);
-
-/// As toNumber, with nothing in the place of either error.
+/// "." ; an exponent. Nothing for any other text, and beyond the range of a double.
 std::optional<double> tryNumber(std::string_view text);
+
+/// As tryNumber, but raises error 13 for a text that is no number, error 6 beyond the range.
+double toNumber(std::string_view text);
 
 /// The shortest general text of a finite number: at most 15 significant digits, correctly rounded,
 /// an exponent ("1E+15", "3.33333333333333E-06") only where fixed notation needs more than 15

@@ -1,5 +1,7 @@
 #include "common/run_time_error.h"
 
+#include <cmath>
+
 namespace common {
 
 std::string_view standardDescription(int number) {
@@ -23,6 +25,11 @@ std::string errorText(int number) {
   if (number == kWindowUnusable || number == kWindowOutdated)
     text += "\rPlease close this window and reload this form.";
   return text;
+}
+
+double finite(double value) {
+  if (!std::isfinite(value)) throw RunTimeError(kOverflow);
+  return value;
 }
 
 }  // namespace common

@@ -34,6 +34,9 @@ std::string_view standardDescription(int number);
 /// a second line advises a fresh one.
 std::string errorText(int number);
 
+/// The result of an operation. Raises error 6 where it has overflowed.
+double finite(double value);
+
 /// Runs `body`; a run-time error ends it and goes to `report`. False when there was one.
 template <class Body, class Reporter>
 bool trap(Body&& body, Reporter&& report) {

@@ -1,9 +1,19 @@
 #pragma once
 
+#include <algorithm>
+#include <cmath>
+
 namespace controls {
 
 /// A twentieth of a point: 1440 to the inch, 15 to a pixel at 100 percent scaling.
 using Twips = int;
+
+/// A stored place or size as one that a window can have: no screen reaches farther than a 16-bit
+/// number of pixels.
+inline Twips clampedTwips(double stored) {
+  constexpr double kFarthest = 32767 * 15;
+  return static_cast<Twips>(std::lround(std::clamp(stored, -kFarthest, kFarthest)));
+}
 
 /// A place and a size, in twips.
 struct Rect {

@@ -10,6 +10,7 @@
 namespace engine {
 
 using common::formatText;
+using common::kWholePattern;
 
 namespace {
 

@@ -1,6 +1,3 @@
-#include <algorithm>
-#include <cmath>
-
 #include "common/number_text.h"
 #include "shell/frm_calc.h"
 
@@ -12,9 +9,6 @@ namespace {
 
 constexpr std::string_view kSection = "Settings";
 constexpr std::uint32_t kDefaultTextBackColor = 16777088;
-
-// No screen reaches further than a 16-bit number of pixels.
-constexpr double kFarthest = 32767 * 15;
 
 std::string chooseHelpFile(controls::Desktop& desktop) {
   const std::string folder = desktop.programFolder();
@@ -32,8 +26,7 @@ double frmCalc::storedNumber(const std::string& key, double fallback) const {
 }
 
 Twips frmCalc::storedTwips(const std::string& key, Twips fallback) const {
-  const double stored = storedNumber(key, fallback);
-  return static_cast<Twips>(std::lround(std::clamp(stored, -kFarthest, kFarthest)));
+  return controls::clampedTwips(storedNumber(key, fallback));
 }
 
 bool frmCalc::storedTruth(const std::string& key) const {

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <stdexcept>
 
 namespace common {
@@ -50,6 +51,18 @@ TEST(Trap, EndsTheBodyAtItsErrorAndReportsItOnce) {
 TEST(Trap, LetsOtherExceptionsPass) {
   const auto report = [](const RunTimeError&) { FAIL(); };
   EXPECT_THROW(trap([] { throw std::logic_error("other"); }, report), std::logic_error);
+}
+
+TEST(Finite, LetsANumberPass) {
+  EXPECT_EQ(finite(-1.5e308), -1.5e308);
+}
+
+TEST(Finite, RaisesAnOverflowOtherwise) {
+  for (const double value : {HUGE_VAL, -HUGE_VAL, std::nan("")}) {
+    int raised = 0;
+    trap([&] { finite(value); }, [&](const RunTimeError& error) { raised = error.number(); });
+    EXPECT_EQ(raised, 6);
+  }
 }
 
 }  // namespace
