@@ -5,13 +5,14 @@
 #include <cassert>
 
 namespace annuity {
+
+using common::AnnuityKind;
+
 namespace {
 
 constexpr std::array kConfigurations = {
     Configuration{
-        .code = kInvestment,
-        .nextCode = kStandard,
-        .menuRequest = 2,
+        .kind = AnnuityKind::Investment,
         .windowCaption = "Investment Annuities",
         .termLabel = "Length of &Time:",
         .paymentLabel = "Monthly &Investment:",
@@ -33,9 +34,7 @@ constexpr std::array kConfigurations = {
                 "Do you wish to see this message again?",
     },
     Configuration{
-        .code = kStandard,
-        .nextCode = kLoan,
-        .menuRequest = 3,
+        .kind = AnnuityKind::Standard,
         .windowCaption = "Standard Annuity Calc",
         .termLabel = "&Term:",
         .paymentLabel = "Monthly P&ayment:",
@@ -61,9 +60,7 @@ constexpr std::array kConfigurations = {
                 "Do you wish to see this message again?",
     },
     Configuration{
-        .code = kLoan,
-        .nextCode = kInvestment,
-        .menuRequest = 1,
+        .kind = AnnuityKind::Loan,
         .windowCaption = "Loan Annuities",
         .termLabel = "Length of &Time:",
         .paymentLabel = "Monthly P&ayment:",
@@ -86,25 +83,17 @@ constexpr std::array kConfigurations = {
     },
 };
 
-const Configuration& find(int Configuration::*member, int value) {
-  const auto found = std::ranges::find(kConfigurations, value, member);
+}  // namespace
+
+const Configuration& configurationOf(AnnuityKind kind) {
+  const auto found = std::ranges::find(kConfigurations, kind, &Configuration::kind);
   assert(found != kConfigurations.end());
   return *found;
 }
 
-}  // namespace
-
-const Configuration& configurationOf(int code) {
-  return find(&Configuration::code, code);
-}
-
-const Configuration& requestedConfiguration(int menuRequest) {
-  const auto found = std::ranges::find(kConfigurations, menuRequest, &Configuration::menuRequest);
-  return found == kConfigurations.end() ? kConfigurations.front() : *found;
-}
-
-const Configuration& configurationBefore(int nextCode) {
-  return find(&Configuration::nextCode, nextCode);
+const Configuration& nextConfiguration(const Configuration& configuration) {
+  const bool last = &configuration == &kConfigurations.back();
+  return last ? kConfigurations.front() : *(&configuration + 1);
 }
 
 }  // namespace annuity

@@ -2,21 +2,13 @@
 
 #include <string_view>
 
+#include "common/annuity_kind.h"
+
 namespace annuity {
 
-/// The codes of the configurations, in the order in which they follow each other.
-inline constexpr int kInvestment = 1;
-inline constexpr int kStandard = 2;
-inline constexpr int kLoan = 3;
-
-/// One of the three problems that the window is made for: what it says, and which amounts it
-/// negates before solving.
+/// What the window says of one kind of problem, and which amounts it negates before solving.
 struct Configuration {
-  int code;
-  /// The code of the one that follows it.
-  int nextCode;
-  /// The request of the menu item that opens the window with it.
-  int menuRequest;
+  common::AnnuityKind kind;
 
   std::string_view windowCaption;
   std::string_view termLabel;
@@ -26,9 +18,9 @@ struct Configuration {
   /// Whether the hint about the balloon payment shows.
   bool hintsAtBalloon;
 
-  float signPV;
-  float signPmt;
-  float signFV;
+  int signPV;
+  int signPmt;
+  int signFV;
 
   std::string_view termResult;
   std::string_view paymentResult;
@@ -41,11 +33,8 @@ struct Configuration {
   std::string_view note;
 };
 
-/// The configuration of that code.
-const Configuration& configurationOf(int code);
-/// The configuration that a menu item has requested; Investment without a request.
-const Configuration& requestedConfiguration(int menuRequest);
-/// The configuration that is followed by the one of that code.
-const Configuration& configurationBefore(int nextCode);
+const Configuration& configurationOf(common::AnnuityKind kind);
+/// The one that the window turns to from `configuration`, round and round.
+const Configuration& nextConfiguration(const Configuration& configuration);
 
 }  // namespace annuity

@@ -1,14 +1,12 @@
 #pragma once
 
 #include <array>
-#include <cstdint>
 #include <memory>
 #include <string>
 
 #include "annuity/configurations.h"
-#include "common/run_time_error.h"
+#include "annuity/problem.h"
 #include "controls/desktop.h"
-#include "shell/globals.h"
 
 namespace annuity {
 
@@ -18,6 +16,11 @@ class Program {
   virtual ~Program() = default;
   /// The place of the main window, which is loaded.
   virtual controls::Rect mainWindowPlace() const = 0;
+  /// The main window is loaded, and has been shown.
+  virtual bool mainWindowIsUp() const = 0;
+  /// The background of the text box that has the focus.
+  virtual controls::Color focusColor() const = 0;
+  virtual std::string helpFile() const = 0;
   /// Shows the main window, loading it where it is not loaded.
   virtual void showMainWindow() = 0;
   /// Appends lines to the tape of the main window and makes that window `width` wide. It is loaded,
@@ -31,78 +34,59 @@ class Program {
 /// blank, and it computes that one.
 class frmAnnuity {
  public:
-  frmAnnuity(controls::Desktop& desktop, const shell::Globals& globals, Program& program);
+  frmAnnuity(controls::Desktop& desktop, Program& program);
   frmAnnuity(const frmAnnuity&) = delete;
   frmAnnuity& operator=(const frmAnnuity&) = delete;
 
   controls::Window& window() { return *window_; }
+  /// Prepares the window for one kind of problem, with its note in front, and restores its place
+  /// and its fields.
+  void load(common::AnnuityKind kind);
   void show() { window_->show(); }
   /// Saves its place and its fields, and goes.
   void unload();
 
  private:
   void wireFields();
+  void wireMoneyField(controls::TextBox& field);
   void wireButtons();
+  void writeCaptions();
 
-  void Form_Load();
-  void RestorePlace();
-  void RestoreFields();
-  void Form_Unload();
-  void cmdClearAll_Click();
-  void cmdHelp_Click();
+  void restorePlace();
+  void restoreFields();
+  void save();
 
-  void cmdRotateLabels_Click();
-  void ShowNote(const Configuration& configuration);
-  const Configuration& showing() const { return configurationBefore(mintNextConfig); }
+  void applyConfiguration(const Configuration& configuration);
+  void showNote();
 
-  void cmdCalculate_Click();
-  void Calculate();
-  void CalcFutureValue();
-  void SolveFutureValue();
-  void SolvePayment();
-  void SolveRate();
-  void SolveTerm();
-  void SolvePresentValue();
-  void ReportAnnuityError(const common::RunTimeError& error);
-  int blankFields() const;
-  bool zeroWhenBlank(controls::TextBox& field);
-  double monthlyRate() const;
-  double months() const;
-  void showAnswer(std::string_view answer, std::string_view resultType);
-  void showMessage(std::string_view text);
+  void calculate();
+  AnnuityProblem problem() const;
+  void showAnswer(const Answer& answer);
+  void showRefusal(Refusal refusal);
+  void reportError(const common::RunTimeError& error);
+  void clearAll();
+  void showHelp();
 
-  void Field_GotFocus(controls::TextBox& field);
-  void Field_KeyPress(controls::TextBox& field, controls::KeyAscii& key);
-  void MoneyField_KeyPress(controls::TextBox& field, controls::KeyAscii& key);
-  void MoneyField_KeyUp(controls::TextBox& field, controls::KeyCode key);
-  bool EnterAsTab(controls::KeyAscii& key);
-  void optDue_Click(int index);
-  void WithdrawPrint();
+  void enterField(controls::TextBox& field);
+  void takeKey(controls::TextBox& field, controls::KeyAscii& key);
+  bool takeEnterAsTab(controls::KeyAscii& key);
+  void withdrawPrint();
 
-  void cmdPrintToTape_Click();
+  void print();
   std::string record() const;
 
   controls::Desktop& desktop_;
-  const shell::Globals& globals_;
   Program& program_;
   std::unique_ptr<controls::Window> window_;
-
-  controls::TextBox& txtNper;
-  controls::TextBox& txtRate;
-  controls::TextBox& txtPmt;
-  controls::TextBox& txtPV;
-  controls::TextBox& txtFV;
+  PerQuantity<controls::TextBox*> fields_;
   std::array<controls::OptionButton*, 2> optNper;
+  controls::OptionButton& optDueAtBeginning;
   controls::Button& cmdPrintToTape;
   controls::Control& lblResultType;
   controls::Control& lblAnswer;
 
-  /// The code of the configuration that the next rotation applies; 0 before the first.
-  std::int16_t mintNextConfig = 0;
-  float msngSignPV = 0;
-  float msngSignPmt = 0;
-  float msngSignFV = 0;
-  std::int16_t mintDueBegin = 0;
+  /// The configuration that shows; none before the window is loaded.
+  const Configuration* showing_ = nullptr;
 };
 
 }  // namespace annuity

@@ -3,16 +3,17 @@
 
 namespace annuity {
 
-using controls::TextBox;
-
 namespace {
 
 constexpr controls::Twips kWidthWithTape = 7600;
 
+constexpr PerQuantity<std::string_view> kLabels = {"Label2", "Label3", "Label4", "Label5",
+                                                   "Label6"};
+
 }  // namespace
 
-void frmAnnuity::cmdPrintToTape_Click() {
-  if (!globals_.gblnCalcLoaded) {
+void frmAnnuity::print() {
+  if (!program_.mainWindowIsUp()) {
     const int answer = desktop_.showMessage(
         {.text = "For this action to work correctly you must first reload Tallyrex then execute "
                  "this again.  Do you wish to reload Tallyrex?",
@@ -25,17 +26,16 @@ void frmAnnuity::cmdPrintToTape_Click() {
 
 // What is printed is what the user sees: no sign is changed.
 std::string frmAnnuity::record() const {
-  const auto caption = [this](std::string_view label) { return window_->control(label).caption(); };
-  std::vector<TapeEntry> fields;
-  const auto add = [&](const TextBox& field, std::string_view label, const std::string& value) {
-    if (field.length() > 0) fields.push_back({caption(label), value});
+  const auto valueOnTape = [this](Quantity quantity) {
+    const std::string text = fields_[quantity]->text();
+    if (quantity == Quantity::Term) return termOnTape(text, optNper[0]->value());
+    return quantity == Quantity::Rate ? rateOnTape(text) : moneyOnTape(text);
   };
-  add(txtNper, "Label2", termOnTape(txtNper.text(), optNper[0]->value()));
-  add(txtRate, "Label3", rateOnTape(txtRate.text()));
-  add(txtPmt, "Label4", moneyOnTape(txtPmt.text()));
-  add(txtPV, "Label5", moneyOnTape(txtPV.text()));
-  add(txtFV, "Label6", moneyOnTape(txtFV.text()));
-  return tapeRecord(fields, {lblResultType.caption(), answerOnTape(lblAnswer.caption())});
+  std::vector<TapeEntry> entries;
+  for (const Quantity quantity : kQuantities)
+    if (fields_[quantity]->length() > 0)
+      entries.push_back({window_->control(kLabels[quantity]).caption(), valueOnTape(quantity)});
+  return tapeRecord(entries, {lblResultType.caption(), answerOnTape(lblAnswer.caption())});
 }
 
 }  // namespace annuity

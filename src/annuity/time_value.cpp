@@ -47,8 +47,7 @@ Factors usableFactors(double rate, double nper, int due) {
 
 /// `value` as an answer, never -0. Error 6 when it has overflowed.
 double answer(double value) {
-  if (!std::isfinite(value)) throw RunTimeError(kOverflow);
-  return value == 0 ? 0 : value;
+  return common::finite(value) == 0 ? 0 : value;
 }
 
 /// Whether the flows balance but for `share` of their size.
@@ -104,26 +103,26 @@ Point balanceAt(const Factors& factors, const Factors& slopes, double pmt, doubl
 
 }  // namespace
 
-double Pmt(double rate, double nper, double pv, double fv, int due) {
+double pmt(double rate, double nper, double pv, double fv, int due) {
   if (nper == 0) throw RunTimeError(kInvalidProcedureCall);
   const Factors factors = usableFactors(rate, nper, due);
   if (factors.s == 0) throw RunTimeError(kInvalidProcedureCall);
   return answer(-(fv + pv * factors.q) / factors.s);
 }
 
-double PV(double rate, double nper, double pmt, double fv, int due) {
+double pv(double rate, double nper, double pmt, double fv, int due) {
   const Factors factors = usableFactors(rate, nper, due);
   // At -1 and below nothing is left to divide by; above it q only became too small for a double.
   if (factors.q == 0) throw RunTimeError(rate <= -1 ? kInvalidProcedureCall : kOverflow);
   return answer(-(fv + pmt * factors.s) / factors.q);
 }
 
-double FV(double rate, double nper, double pmt, double pv, int due) {
+double fv(double rate, double nper, double pmt, double pv, int due) {
   const Factors factors = usableFactors(rate, nper, due);
   return answer(-(pv * factors.q + pmt * factors.s));
 }
 
-double NPer(double rate, double pmt, double pv, double fv, int due) {
+double nper(double rate, double pmt, double pv, double fv, int due) {
   if (rate <= -1) throw RunTimeError(kInvalidProcedureCall);
   if (!bearsInterest(rate)) {
     if (pmt == 0) throw RunTimeError(kInvalidProcedureCall);
@@ -139,7 +138,7 @@ double NPer(double rate, double pmt, double pv, double fv, int due) {
   return wholeTerm(answer(logarithm / std::log1p(rate)), rate, pmt, pv, fv, due);
 }
 
-double Rate(double nper, double pmt, double pv, double fv, int due, double guess) {
+double rate(double nper, double pmt, double pv, double fv, int due, double guess) {
   constexpr int kMostSteps = 20;
   constexpr double kClose = 1e-7;
   if (!(nper > 0) || !(guess > -1)) throw RunTimeError(kInvalidProcedureCall);

@@ -15,20 +15,20 @@ namespace annuity {
 // answer it raises common::RunTimeError, 6 when a value on the way overflows, else 5.
 
 /// The payment per period. Error 5 when nper is 0.
-double Pmt(double rate, double nper, double pv, double fv, int due);
+double pmt(double rate, double nper, double pv, double fv, int due);
 
 /// The present value.
-double PV(double rate, double nper, double pmt, double fv, int due);
+double pv(double rate, double nper, double pmt, double fv, int due);
 
 /// The future value.
-double FV(double rate, double nper, double pmt, double pv, int due);
+double fv(double rate, double nper, double pmt, double pv, int due);
 
 /// The number of periods, whole where a whole number balances the flows as well as doubles can
 /// tell; otherwise fractional, and negative where only the past balances. Error 5 when no term
 /// does.
-double NPer(double rate, double pmt, double pv, double fv, int due);
+double nper(double rate, double pmt, double pv, double fv, int due);
 
 /// The rate per period, found by iteration from `guess`. Error 5 when it finds none in 20 steps.
-double Rate(double nper, double pmt, double pv, double fv, int due, double guess = 0.1);
+double rate(double nper, double pmt, double pv, double fv, int due, double guess = 0.1);
 
 }  // namespace annuity

@@ -19,10 +19,11 @@ controls::Window* Application::findWindow(std::string_view name) const {
 }
 
 // One that is open goes first, so that it opens afresh in the configuration requested.
-void Application::openFinancialCalc() {
+void Application::openFinancialCalc(common::AnnuityKind kind) {
   if (annuity_) annuity_->unload();
   annuity::Program& program = *this;
-  annuity_ = std::make_unique<annuity::frmAnnuity>(desktop_, globals_, program);
+  annuity_ = std::make_unique<annuity::frmAnnuity>(desktop_, program);
+  annuity_->load(kind);
   annuity_->show();
 }
 
@@ -58,6 +59,10 @@ void Application::unloadCalc() {
 
 controls::Rect Application::mainWindowPlace() const {
   return calc_->window().bounds();
+}
+
+controls::Color Application::focusColor() const {
+  return controls::Color::rgb(globals_.glngTextBackColor);
 }
 
 void Application::showMainWindow() {

@@ -28,11 +28,14 @@ class Application : private shell::Program, private annuity::Program {
   controls::Window* findWindow(std::string_view name) const;
 
  private:
-  void openFinancialCalc() override;
+  void openFinancialCalc(common::AnnuityKind kind) override;
   void showAbout(std::function<void()> closed) override;
   void unloadCalc() override;
 
   controls::Rect mainWindowPlace() const override;
+  bool mainWindowIsUp() const override { return globals_.gblnCalcLoaded; }
+  controls::Color focusColor() const override;
+  std::string helpFile() const override { return globals_.helpFile; }
   void showMainWindow() override;
   void printToTape(const std::string& lines, controls::Twips width) override;
   void unloadAnnuity() override;

@@ -124,6 +124,7 @@ void frmCalc::wireFileAndEditMenu() {
 }
 
 void frmCalc::wireWinAndHelpMenu() {
+  using common::AnnuityKind;
   const auto item = [this](std::string_view name) -> std::function<void()>& {
     return window_->menuItem(name).onClick;
   };
@@ -131,9 +132,9 @@ void frmCalc::wireWinAndHelpMenu() {
   item("mnuWinMicroWindow") = [this] { mnuWinMicroWindow_Click(); };
   item("mnuWinMode(0)") = [this] { mnuWinMode_Click(engine::kAddMode); };
   item("mnuWinMode(1)") = [this] { mnuWinMode_Click(engine::kCalculatorMode); };
-  item("mnuWinFinCalcLoan") = [this] { OpenFinancialCalc(1); };
-  item("mnuWinFinCalcInv") = [this] { OpenFinancialCalc(2); };
-  item("mnuFinCalcStandard") = [this] { OpenFinancialCalc(3); };
+  item("mnuWinFinCalcLoan") = [this] { OpenFinancialCalc(AnnuityKind::Loan); };
+  item("mnuWinFinCalcInv") = [this] { OpenFinancialCalc(AnnuityKind::Investment); };
+  item("mnuFinCalcStandard") = [this] { OpenFinancialCalc(AnnuityKind::Standard); };
   item("mnuWinPadTape") = [this] { mnuWinPadTape_Click(); };
   item("mnuWinTapeOff") = [this] { mnuWinTapeOff_Click(); };
   item("mnuHelpContents") = [this] { mnuHelpContents_Click(); };

@@ -4,6 +4,7 @@
 #include <memory>
 #include <string>
 
+#include "common/annuity_kind.h"
 #include "controls/desktop.h"
 #include "engine/engine.h"
 #include "shell/globals.h"
@@ -14,8 +15,8 @@ namespace shell {
 class Program {
  public:
   virtual ~Program() = default;
-  /// Opens the financial calculator afresh, in the configuration requested.
-  virtual void openFinancialCalc() = 0;
+  /// Opens the financial calculator afresh, for one kind of problem.
+  virtual void openFinancialCalc(common::AnnuityKind kind) = 0;
   /// Shows the About box in front of everything; `closed` runs when it has been closed.
   virtual void showAbout(std::function<void()> closed) = 0;
   /// The main window goes, once the running handler has ended.
@@ -72,7 +73,7 @@ class frmCalc {
   void mnuWinMode_Click(int index);
   void mnuWinPadTape_Click();
   void mnuWinTapeOff_Click();
-  void OpenFinancialCalc(int request);
+  void OpenFinancialCalc(common::AnnuityKind kind);
   void mnuHelpContents_Click();
   void mnuHelpAbout_Click();
 

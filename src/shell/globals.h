@@ -9,8 +9,6 @@ namespace shell {
 struct Globals {
   /// The background of the text box that has the focus: red + 256 x green + 65536 x blue.
   std::uint32_t glngTextBackColor = 16777088;
-  /// The configuration in which the financial calculator opens: 1 Loan, 2 Investment, 3 Standard.
-  int gintFinCalcRequest = 0;
   /// The main window is loaded, and has been shown.
   bool gblnCalcLoaded = false;
   /// The help file, chosen when the main window is loaded.

@@ -21,14 +21,13 @@ void frmCalc::mnuEditStationaryDecimal_Click() {
   chkShiftDec.setValue(1 - chkShiftDec.value());
 }
 
-void frmCalc::OpenFinancialCalc(int request) {
+void frmCalc::OpenFinancialCalc(common::AnnuityKind kind) {
   common::trap(
       [&] {
         if (mnuWinAlwaysOnTop.checked())
           desktop_.showMessage({.text = "You may want to turn off the \"Always on Top\" since this "
                                         "next screen is run independently."});
-        globals_.gintFinCalcRequest = request;
-        program_.openFinancialCalc();
+        program_.openFinancialCalc(kind);
       },
       [this](const common::RunTimeError& error) { engine_.ShowError(error); });
 }

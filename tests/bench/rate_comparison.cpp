@@ -18,7 +18,7 @@ namespace {
 
 std::optional<double> ours(const RateProblem& p) {
   try {
-    return Rate(p.nper, p.pmt, p.pv, p.fv, p.due);
+    return annuity::rate(p.nper, p.pmt, p.pv, p.fv, p.due);
   } catch (const common::RunTimeError&) {
     return std::nullopt;
   }

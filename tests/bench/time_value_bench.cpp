@@ -23,22 +23,22 @@ void solve(benchmark::State& state, Solve function) {
 }
 
 void BM_Pmt(benchmark::State& state) {
-  solve(state, [] { return Pmt(rate, nper, pv, fv, 0); });
+  solve(state, [] { return annuity::pmt(rate, nper, pv, fv, 0); });
 }
 void BM_PV(benchmark::State& state) {
-  solve(state, [] { return PV(rate, nper, pmt, fv, 0); });
+  solve(state, [] { return annuity::pv(rate, nper, pmt, fv, 0); });
 }
 void BM_FV(benchmark::State& state) {
-  solve(state, [] { return FV(rate, nper, pmt, pv, 0); });
+  solve(state, [] { return annuity::fv(rate, nper, pmt, pv, 0); });
 }
 void BM_NPer(benchmark::State& state) {
-  solve(state, [] { return NPer(rate, pmt, pv, fv, 0); });
+  solve(state, [] { return annuity::nper(rate, pmt, pv, fv, 0); });
 }
 void BM_RateOfALoan(benchmark::State& state) {
-  solve(state, [] { return Rate(nper, pmt, pv, fv, 0); });
+  solve(state, [] { return annuity::rate(nper, pmt, pv, fv, 0); });
 }
 void BM_RateOfSavings(benchmark::State& state) {
-  solve(state, [] { return Rate(nper, -100, 0, 134270.4, 0); });
+  solve(state, [] { return annuity::rate(nper, -100, 0, 134270.4, 0); });
 }
 
 BENCHMARK(BM_Pmt);

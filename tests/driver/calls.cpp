@@ -39,8 +39,8 @@ double callRate(const std::vector<Json>& a) {
   expect(a, 5, 6);
   const int due = static_cast<int>(number(a, 4));
   if (a.size() == 5)
-    return annuity::Rate(number(a, 0), number(a, 1), number(a, 2), number(a, 3), due);
-  return annuity::Rate(number(a, 0), number(a, 1), number(a, 2), number(a, 3), due, number(a, 5));
+    return annuity::rate(number(a, 0), number(a, 1), number(a, 2), number(a, 3), due);
+  return annuity::rate(number(a, 0), number(a, 1), number(a, 2), number(a, 3), due, number(a, 5));
 }
 
 std::string callFormat(const std::vector<Json>& a) {
@@ -50,10 +50,10 @@ std::string callFormat(const std::vector<Json>& a) {
 }
 
 Json valueOf(const std::string& name, const std::vector<Json>& a) {
-  if (name == "Pmt") return callTimeValue(annuity::Pmt, a);
-  if (name == "PV") return callTimeValue(annuity::PV, a);
-  if (name == "FV") return callTimeValue(annuity::FV, a);
-  if (name == "NPer") return callTimeValue(annuity::NPer, a);
+  if (name == "Pmt") return callTimeValue(annuity::pmt, a);
+  if (name == "PV") return callTimeValue(annuity::pv, a);
+  if (name == "FV") return callTimeValue(annuity::fv, a);
+  if (name == "NPer") return callTimeValue(annuity::nper, a);
   if (name == "Rate") return callRate(a);
   if (name == "Format") return callFormat(a);
   if (name == "Value") {

@@ -36,11 +36,11 @@ int errorOf(const std::function<double()>& call) {
 /// Calls one of the five functions by its name, as the reference cases write it.
 double callByName(const std::string& name, const std::vector<double>& a) {
   const int due = static_cast<int>(a.at(4));
-  if (name == "Pmt") return Pmt(a[0], a[1], a[2], a[3], due);
-  if (name == "PV") return PV(a[0], a[1], a[2], a[3], due);
-  if (name == "FV") return FV(a[0], a[1], a[2], a[3], due);
-  if (name == "NPer") return NPer(a[0], a[1], a[2], a[3], due);
-  if (name == "Rate") return Rate(a[0], a[1], a[2], a[3], due);
+  if (name == "Pmt") return annuity::pmt(a[0], a[1], a[2], a[3], due);
+  if (name == "PV") return annuity::pv(a[0], a[1], a[2], a[3], due);
+  if (name == "FV") return annuity::fv(a[0], a[1], a[2], a[3], due);
+  if (name == "NPer") return annuity::nper(a[0], a[1], a[2], a[3], due);
+  if (name == "Rate") return annuity::rate(a[0], a[1], a[2], a[3], due);
   throw std::invalid_argument(name);
 }
 
@@ -89,40 +89,43 @@ INSTANTIATE_TEST_SUITE_P(Functions, TimeValueReference,
                          [](const auto& each) { return std::string(each.param); });
 
 TEST(TimeValue, RateZeroNeedsNoPowers) {
-  EXPECT_EQ(FV(0, 12, -100, 0, 0), 1200);
-  EXPECT_EQ(PV(0, 12, -100, 0, 1), 1200);
-  EXPECT_EQ(Pmt(0, 12, 1200, 0, 0), -100);
-  EXPECT_EQ(NPer(0, -100, 1200, 0, 0), 12);
-  EXPECT_NEAR(Rate(12, -100, 1200, 0, 0), 0, 1e-12);
-  EXPECT_NEAR(Rate(12, -100, 1200, 0, 0, 0), 0, 1e-12);
+  EXPECT_EQ(annuity::fv(0, 12, -100, 0, 0), 1200);
+  EXPECT_EQ(annuity::pv(0, 12, -100, 0, 1), 1200);
+  EXPECT_EQ(annuity::pmt(0, 12, 1200, 0, 0), -100);
+  EXPECT_EQ(annuity::nper(0, -100, 1200, 0, 0), 12);
+  EXPECT_NEAR(annuity::rate(12, -100, 1200, 0, 0), 0, 1e-12);
+  EXPECT_NEAR(annuity::rate(12, -100, 1200, 0, 0, 0), 0, 1e-12);
 }
 
 TEST(TimeValue, APaymentAtTheBeginningBearsOnePeriodLess) {
-  EXPECT_NEAR(Pmt(0.00625, 360, 100000, 0, 0), -699.2145085527792, 4e-13);
-  EXPECT_NEAR(Pmt(0.00625, 360, 100000, 0, 1), -694.8715612946874, 4e-13);
-  EXPECT_NEAR(FV(0.005, 120, -100, 0, 1), FV(0.005, 120, -100, 0, 0) * 1.005, 1e-10);
+  EXPECT_NEAR(annuity::pmt(0.00625, 360, 100000, 0, 0), -699.2145085527792, 4e-13);
+  EXPECT_NEAR(annuity::pmt(0.00625, 360, 100000, 0, 1), -694.8715612946874, 4e-13);
+  EXPECT_NEAR(annuity::fv(0.005, 120, -100, 0, 1), annuity::fv(0.005, 120, -100, 0, 0) * 1.005,
+              1e-10);
 }
 
 TEST(TimeValue, AtRateMinusOneOnlyTheLastPaymentIsLeft) {
-  EXPECT_EQ(FV(-1, 0, -100, 50, 0), -50);
-  EXPECT_EQ(FV(-1, 12, -100, 50, 0), 100);
-  EXPECT_EQ(Pmt(-1, 12, 1000, -70, 0), 70);
+  EXPECT_EQ(annuity::fv(-1, 0, -100, 50, 0), -50);
+  EXPECT_EQ(annuity::fv(-1, 12, -100, 50, 0), 100);
+  EXPECT_EQ(annuity::pmt(-1, 12, 1000, -70, 0), 70);
 }
 
 TEST(TimeValue, ZeroHasNoSign) {
-  EXPECT_FALSE(std::signbit(FV(0, 12, 0, 0, 0)));
-  EXPECT_FALSE(std::signbit(PV(0.01, 12, 0, 0, 1)));
-  EXPECT_FALSE(std::signbit(Pmt(0.01, 12, 0, 0, 0)));
+  EXPECT_FALSE(std::signbit(annuity::fv(0, 12, 0, 0, 0)));
+  EXPECT_FALSE(std::signbit(annuity::pv(0.01, 12, 0, 0, 1)));
+  EXPECT_FALSE(std::signbit(annuity::pmt(0.01, 12, 0, 0, 0)));
 }
 
 TEST(NPer, IsWholeWhereAWholeTermBalances) {
-  EXPECT_EQ(NPer(0.00625, -699.2145085527766, 100000, 0, 0), 360);
-  EXPECT_EQ(NPer(0, -0.1, 0.3, 0, 0), 3);
+  EXPECT_EQ(annuity::nper(0.00625, -699.2145085527766, 100000, 0, 0), 360);
+  EXPECT_EQ(annuity::nper(0, -0.1, 0.3, 0, 0), 3);
   int whole = 0;
   for (int nper = 1; nper <= 480; ++nper) {
     for (double percent = 0.25; percent <= 30; percent += 1.75, ++whole) {
       const double rate = percent / 100 / 12;
-      EXPECT_EQ(NPer(rate, Pmt(rate, nper, 100000, -5000, nper % 2), 100000, -5000, nper % 2), nper)
+      EXPECT_EQ(annuity::nper(rate, annuity::pmt(rate, nper, 100000, -5000, nper % 2), 100000,
+                              -5000, nper % 2),
+                nper)
           << percent;
     }
   }
@@ -130,9 +133,9 @@ TEST(NPer, IsWholeWhereAWholeTermBalances) {
 }
 
 TEST(NPer, KeepsATermThatIsNotQuiteWhole) {
-  EXPECT_EQ(NPer(0, -100, 150, 0, 0), 1.5);
-  EXPECT_NEAR(NPer(0, -100, 35999.9, 0, 0), 359.999, 1e-12);
-  const double withinACent = NPer(0.00625, -699.21, 100000, 0, 0);
+  EXPECT_EQ(annuity::nper(0, -100, 150, 0, 0), 1.5);
+  EXPECT_NEAR(annuity::nper(0, -100, 35999.9, 0, 0), 359.999, 1e-12);
+  const double withinACent = annuity::nper(0.00625, -699.21, 100000, 0, 0);
   EXPECT_NE(withinACent, 360);
   EXPECT_NEAR(withinACent, 360, 0.02);
 }
@@ -146,29 +149,29 @@ double lastDigitsAbove(double value, int steps) {
 // The arithmetic is trusted with 16 units of the last place of what flows, and 4 more for each
 // unit of the exponent: here 35 and 70 steps of an amount are within, 45 and 90 are beyond.
 TEST(NPer, IsWholeOnlyWhereTheLastDigitsMayPartIt) {
-  EXPECT_EQ(NPer(0, -100, lastDigitsAbove(1200, 35), 0, 0), 12);
-  EXPECT_NE(NPer(0, -100, lastDigitsAbove(1200, 45), 0, 0), 12);
-  EXPECT_EQ(NPer(0.00625, -699.2145085527792, lastDigitsAbove(100000, 70), 0, 0), 360);
-  EXPECT_NE(NPer(0.00625, -699.2145085527792, lastDigitsAbove(100000, 90), 0, 0), 360);
+  EXPECT_EQ(annuity::nper(0, -100, lastDigitsAbove(1200, 35), 0, 0), 12);
+  EXPECT_NE(annuity::nper(0, -100, lastDigitsAbove(1200, 45), 0, 0), 12);
+  EXPECT_EQ(annuity::nper(0.00625, -699.2145085527792, lastDigitsAbove(100000, 70), 0, 0), 360);
+  EXPECT_NE(annuity::nper(0.00625, -699.2145085527792, lastDigitsAbove(100000, 90), 0, 0), 360);
 }
 
 // Two payments of 10 grow to 10 (2 + rate).
 TEST(Rate, TakesMoreStepsWhereTheRootIsFarAway) {
-  EXPECT_NEAR(Rate(2, -10, 0, 1500, 0), 148, 1e-9);
-  EXPECT_NEAR(Rate(2, -10, 0, 10000, 0), 998, 1e-9);
+  EXPECT_NEAR(annuity::rate(2, -10, 0, 1500, 0), 148, 1e-9);
+  EXPECT_NEAR(annuity::rate(2, -10, 0, 10000, 0), 998, 1e-9);
 }
 
 TEST(Rate, StartsFromTheGuess) {
   // Two rates balance a loan that ends with money back; the guess tells which is meant.
-  EXPECT_NEAR(Rate(208, -700, 137600, 8000, 0, 0.001), 0, 1e-9);
-  EXPECT_NEAR(Rate(208, -700, 137600, 8000, 0, -0.08), -0.08749999147846454, 1e-9);
-  EXPECT_EQ(errorOf([] { return Rate(360, -699.21, 100000, 0, 0, -1); }), 5);
-  EXPECT_EQ(errorOf([] { return Rate(45, -790, 4105, 0, 0, -3.8092); }), 5);
+  EXPECT_NEAR(annuity::rate(208, -700, 137600, 8000, 0, 0.001), 0, 1e-9);
+  EXPECT_NEAR(annuity::rate(208, -700, 137600, 8000, 0, -0.08), -0.08749999147846454, 1e-9);
+  EXPECT_EQ(errorOf([] { return annuity::rate(360, -699.21, 100000, 0, 0, -1); }), 5);
+  EXPECT_EQ(errorOf([] { return annuity::rate(45, -790, 4105, 0, 0, -3.8092); }), 5);
 }
 
 void checkRate(const RateProblem& p) {
   double found = 0;
-  EXPECT_EQ(errorOf([&] { return found = Rate(p.nper, p.pmt, p.pv, p.fv, p.due); }), 0);
+  EXPECT_EQ(errorOf([&] { return found = annuity::rate(p.nper, p.pmt, p.pv, p.fv, p.due); }), 0);
   // The payment or the value that the found rate asks for is the one given, and so rounds to it.
   const Plan& plan = *p.plan;
   const double asked = plan.computed(found, p.nper, p.due);
@@ -250,9 +253,10 @@ TEST(Rate, NeverAnswersWhatDoesNotBalance) {
     const double pv = uniform(-1e5, 1e5), fv = uniform(-1e5, 1e5);
     const int due = round % 2;
     double rate = 0;
-    if (errorOf([&] { return rate = Rate(nper, pmt, pv, fv, due); }) != 0) continue;
+    if (errorOf([&] { return rate = annuity::rate(nper, pmt, pv, fv, due); }) != 0) continue;
     ++answers;
-    const double grown = FV(rate, nper, 0, pv, due), paid = FV(rate, nper, pmt, 0, due);
+    const double grown = annuity::fv(rate, nper, 0, pv, due),
+                 paid = annuity::fv(rate, nper, pmt, 0, due);
     EXPECT_NEAR(grown + paid, fv, 1.001e-7 * (std::abs(grown) + std::abs(paid) + std::abs(fv)))
         << nper << ' ' << pmt << ' ' << pv << ' ' << fv << ' ' << due;
   }

@@ -15,7 +15,8 @@ struct Plan {
 
   /// What the bank computes for a rate per month.
   double computed(double rate, double nper, int due) const {
-    return computesPayment ? Pmt(rate, nper, pv, fv, due) : FV(rate, nper, pmt, pv, due);
+    return computesPayment ? annuity::pmt(rate, nper, pv, fv, due)
+                           : annuity::fv(rate, nper, pmt, pv, due);
   }
 };
 

@@ -22,7 +22,7 @@ class DesktopWithALockedClipboard : public inmemory::Desktop {
 
 class NothingAround : public Program {
  public:
-  void openFinancialCalc() override {}
+  void openFinancialCalc(common::AnnuityKind) override {}
   void showAbout(std::function<void()>) override {}
   void unloadCalc() override {}
 };

@@ -1,0 +1,30 @@
+#include "annuity/frm_annuity.h"
+#include "common/number_text.h"
+
+namespace annuity {
+
+void frmAnnuity::applyConfiguration(const Configuration& configuration) {
+  withdrawPrint();
+  showing_ = &configuration;
+  window_->setCaption(configuration.windowCaption);
+  window_->control("Label2").setCaption(configuration.termLabel);
+  window_->control("Label4").setCaption(configuration.paymentLabel);
+  window_->control("Label5").setCaption(configuration.presentValueLabel);
+  window_->control("Label6").setCaption(configuration.futureValueLabel);
+  window_->control("Label8").setVisible(configuration.hintsAtBalloon);
+  showNote();
+}
+
+// A stored answer other than 6, Yes, keeps the note away; so does one that is no number.
+void frmAnnuity::showNote() {
+  common::SettingsStore& settings = desktop_.settings();
+  const auto stored = settings.read("Annuity", showing_->noteKey);
+  if (stored && common::tryNumber(*stored) != controls::kAnswerYes) return;
+  const int answer = desktop_.showMessage({.text = std::string(showing_->note),
+                                           .buttons = controls::Buttons::YesNo,
+                                           .title = std::string(showing_->noteTitle)});
+  if (answer == controls::kAnswerNo)
+    settings.write("Annuity", showing_->noteKey, common::toText(answer));
+}
+
+}  // namespace annuity

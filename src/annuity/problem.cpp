@@ -1,0 +1,114 @@
+#include "annuity/problem.h"
+
+#include <algorithm>
+
+#include "annuity/answer_text.h"
+#include "annuity/time_value.h"
+#include "common/number_text.h"
+
+namespace annuity {
+
+namespace {
+
+/// The quantities as the time-value functions take them; the unknown is left at 0.
+struct Flows {
+  double rate = 0;
+  double nper = 0;
+  double pmt = 0;
+  double pv = 0;
+  double fv = 0;
+  int due = 0;
+};
+
+// The rate is a year's, in percent; a period is a month, whatever the unit of the term.
+Flows flowsOf(const AnnuityProblem& problem, Quantity unknown, const Configuration& configuration) {
+  const auto number = [&](Quantity quantity) {
+    return quantity == unknown ? 0 : common::toNumber(problem.texts[quantity]);
+  };
+  Flows flows;
+  flows.rate = number(Quantity::Rate) * 0.01 / 12;
+  flows.nper = common::finite(number(Quantity::Term) * (problem.termInMonths ? 1 : 12));
+  flows.pmt = number(Quantity::Payment) * configuration.signPmt;
+  flows.pv = number(Quantity::PresentValue) * configuration.signPV;
+  flows.fv = number(Quantity::FutureValue) * configuration.signFV;
+  flows.due = problem.dueAtBeginning ? 1 : 0;
+  return flows;
+}
+
+std::string termAnswer(double months, bool inMonths) {
+  return inMonths ? termInMonths(months) : termInYears(months);
+}
+
+Answer answerTo(const AnnuityProblem& problem, Quantity unknown, const Configuration& asked) {
+  const auto [rate, nper, pmt, pv, fv, due] = flowsOf(problem, unknown, asked);
+  switch (unknown) {
+    case Quantity::Term:
+      return {termAnswer(annuity::nper(rate, pmt, pv, fv, due), problem.termInMonths),
+              asked.termResult};
+    case Quantity::Rate:
+      return {rateAnswer(common::finite(annuity::rate(nper, pmt, pv, fv, due) * 12)),
+              "Interest Rate equals:"};
+    case Quantity::Payment:
+      return {moneyAnswer(annuity::pmt(rate, nper, pv, fv, due) * asked.signPmt),
+              asked.paymentResult};
+    case Quantity::PresentValue:
+      return {moneyAnswer(annuity::pv(rate, nper, pmt, fv, due) * asked.signPV),
+              asked.presentValueResult};
+    default:
+      return {moneyAnswer(annuity::fv(rate, nper, pmt, pv, due) * asked.signFV),
+              asked.futureValueResult};
+  }
+}
+
+std::vector<Quantity> blanksOf(const PerQuantity<std::string>& texts) {
+  std::vector<Quantity> blanks;
+  std::ranges::copy_if(kQuantities, std::back_inserter(blanks),
+                       [&](Quantity quantity) { return texts[quantity].empty(); });
+  return blanks;
+}
+
+/// Which quantity is asked for, and what the fields hold then.
+std::variant<Quantity, Refusal> unknownOf(AnnuityProblem& problem,
+                                          std::vector<WrittenField>& written) {
+  auto& texts = problem.texts;
+  if (texts[Quantity::FutureValue].empty()) {
+    if (blanksOf(texts).size() > 1) return Refusal::OneMustBeBlank;
+    for (const Quantity amount : {Quantity::Payment, Quantity::PresentValue})
+      if (texts[amount] == "0") written.push_back({amount, "0"});
+    if (written.size() == 2) return Refusal::AmountIsNeeded;
+    return Quantity::FutureValue;
+  }
+  // A payment of 0 asks for the payment.
+  if (texts[Quantity::Payment] == "0") {
+    texts[Quantity::Payment].clear();
+    written.push_back({Quantity::Payment, ""});
+  }
+  const auto blanks = blanksOf(texts);
+  if (blanks.size() != 1) return Refusal::OneMustBeBlank;
+  return blanks.front();
+}
+
+}  // namespace
+
+Outcome solve(const AnnuityProblem& problem, const Configuration& configuration) {
+  Outcome outcome;
+  AnnuityProblem asked = problem;
+  const auto unknown = unknownOf(asked, outcome.written);
+  if (const auto* refusal = std::get_if<Refusal>(&unknown)) {
+    outcome.result = *refusal;
+    return outcome;
+  }
+  common::trap(
+      [&] { outcome.result = answerTo(asked, std::get<Quantity>(unknown), configuration); },
+      [&](const common::RunTimeError& error) { outcome.result = error; });
+  return outcome;
+}
+
+std::string_view refusalText(Refusal refusal) {
+  if (refusal == Refusal::OneMustBeBlank)
+    return "One of the boxes must be left blank while the others must contain numbers.";
+  return "Either the Payment or Present Value must contain a number for this calculation and zero "
+         "is allowed for one or the other but not both. ";
+}
+
+}  // namespace annuity
