@@ -64,6 +64,9 @@ struct WindowLayout {
   std::span<const ControlLayout> controls;
   std::span<const MenuItemLayout> menu = {};
   bool resizable = false;
+  /// The user cannot drag the window smaller.
+  Twips smallestWidth = kFrameWidth;
+  Twips smallestHeight = kFrameHeight;
 
   /// What the window is higher than its client area.
   Twips frameHeight() const { return menu.empty() ? kFrameHeight : kFrameHeightWithMenu; }

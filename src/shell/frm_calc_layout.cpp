@@ -357,7 +357,9 @@ constexpr controls::WindowLayout kLayout = {.name = "frmCalc",
                                             .place = {500, 500, 6690, 3525},
                                             .controls = kControls,
                                             .menu = kMenu,
-                                            .resizable = true};
+                                            .resizable = true,
+                                            .smallestWidth = kMicroWidth,
+                                            .smallestHeight = kMicroHeight};
 
 }  // namespace
 

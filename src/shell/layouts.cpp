@@ -3,6 +3,7 @@
 #include "common/number_text.h"
 #include "engine/tape_line.h"
 #include "shell/frm_calc.h"
+#include "shell/frm_calc_layout.h"
 
 namespace shell {
 
@@ -18,7 +19,7 @@ constexpr Twips kSmallestTapeHeight = 350;
 constexpr Twips kSmallestTapeWidth = 1715;
 
 constexpr Rect kNormalGeometry = {0, 0, 6690, 3525};
-constexpr Rect kMicroGeometry = {0, 0, 2280, 1095};
+constexpr Rect kMicroGeometry = {0, 0, kMicroWidth, kMicroHeight};
 
 }  // namespace
 

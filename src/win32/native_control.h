@@ -44,6 +44,8 @@ class NativeControl {
   HBRUSH prepareColors(HDC context);
   /// The resolution or the system's colours have changed.
   virtual void refresh();
+  /// The window has another size.
+  virtual void frameSized() {}
 
  protected:
   /// What the control does with a message; nothing leaves it to the native control.

@@ -42,19 +42,22 @@ class Window : public controls::Window {
   void showFocus(controls::Control& control) override;
 
  private:
-  // Where the window stands, in pixels: its frame's corner and the size of its client area.
+  // Where the window stands, in pixels of a resolution: its frame's corner and the size of its
+  // client area.
   struct Placement {
     LONG left = 0;
     LONG top = 0;
     LONG width = 0;
     LONG height = 0;
+    int dpi = 0;
 
     bool operator==(const Placement&) const = default;
   };
 
-  struct Normal {
+  // What was asked for, and what the system made of it.
+  struct Placed {
     controls::Rect bounds;
-    Placement placed;
+    Placement placement;
   };
 
   static LRESULT CALLBACK receive(HWND handle, UINT id, WPARAM wParam, LPARAM lParam);
@@ -69,11 +72,14 @@ class Window : public controls::Window {
   LRESULT passOn(const Message& message);
 
   void focusNative();
-  SIZE clientSize() const;
+  LRESULT takeSystemCommand(const Message& message);
+  void limitDragging(MINMAXINFO& limits) const;
+  SIZE clientSize(controls::Twips width, controls::Twips height) const;
   SIZE frameSize() const;
   void place();
   Placement measure() const;
   void noteGeometry();
+  void notePlacement(const Placed& before);
   void noteShownState();
   void takeResolution(const Message& message);
   void refreshControls();
@@ -91,8 +97,10 @@ class Window : public controls::Window {
   // As it was last placed or seen.
   Placement placed_;
   // As it stood before it was maximized.
-  Normal normal_;
+  Placed normal_;
   bool maximized_ = false;
+  // The user is dragging its frame.
+  bool dragging_ = false;
   bool placing_ = false;
   bool placeWhenRestored_ = false;
 };

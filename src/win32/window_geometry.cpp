@@ -2,13 +2,15 @@
 
 #include <utility>
 
+#include "win32/native_control.h"
+
 namespace win32 {
 
 using controls::WindowState;
 
-SIZE Window::clientSize() const {
-  return {scale_.toPixels(bounds().width - controls::kFrameWidth),
-          scale_.toPixels(bounds().height - layout().frameHeight())};
+SIZE Window::clientSize(controls::Twips width, controls::Twips height) const {
+  return {scale_.toPixels(width - controls::kFrameWidth),
+          scale_.toPixels(height - layout().frameHeight())};
 }
 
 SIZE Window::frameSize() const {
@@ -27,7 +29,7 @@ void Window::place() {
   SIZE frame = frameSize();
   for (int attempt = 0; attempt < kAttempts; ++attempt) {
     const int dpi = scale_.dpi();
-    const SIZE wanted = clientSize();
+    const SIZE wanted = clientSize(bounds().width, bounds().height);
     SetWindowPos(handle_, nullptr, screenScale_.toPixels(bounds().left),
                  screenScale_.toPixels(bounds().top), wanted.cx + frame.cx, wanted.cy + frame.cy,
                  SWP_NOZORDER | SWP_NOACTIVATE);
@@ -71,7 +73,7 @@ Window::Placement Window::measure() const {
   RECT client;
   GetWindowRect(handle_, &frame);
   GetClientRect(handle_, &client);
-  return {frame.left, frame.top, client.right, client.bottom};
+  return {frame.left, frame.top, client.right, client.bottom, scale_.dpi()};
 }
 
 std::optional<LRESULT> Window::takeGeometry(const Message& message) {
@@ -79,17 +81,35 @@ std::optional<LRESULT> Window::takeGeometry(const Message& message) {
     takeResolution(message);
     return 0;
   }
+  if (message.id == WM_SYSCOMMAND) return takeSystemCommand(message);
   if (message.id == WM_GETMINMAXINFO) {
-    // A stored size is applied as it stands, and the micro window is smaller than the system likes.
-    constexpr LONG kLargest = 32767;
-    auto& limits = *reinterpret_cast<MINMAXINFO*>(message.lParam);
-    limits.ptMinTrackSize = {0, 0};
-    limits.ptMaxTrackSize = {kLargest, kLargest};
+    limitDragging(*reinterpret_cast<MINMAXINFO*>(message.lParam));
     return 0;
   }
   const LRESULT result = passOn(message);
+  for (const auto& control : controls()) NativeControl::of(*control).frameSized();
   if (!placing_) noteGeometry();
   return result;
+}
+
+// The system comes back when the user has let go of the frame.
+LRESULT Window::takeSystemCommand(const Message& message) {
+  constexpr WPARAM kCommand = 0xFFF0;
+  const bool before = std::exchange(dragging_, (message.wParam & kCommand) == SC_SIZE);
+  const LRESULT result = passOn(message);
+  dragging_ = before;
+  return result;
+}
+
+// A stored size is applied as it stands, even one smaller than the system likes.
+void Window::limitDragging(MINMAXINFO& limits) const {
+  constexpr LONG kLargest = 32767;
+  limits.ptMinTrackSize = {0, 0};
+  limits.ptMaxTrackSize = {kLargest, kLargest};
+  if (!dragging_) return;
+  const SIZE frame = frameSize();
+  const SIZE smallest = clientSize(layout().smallestWidth, layout().smallestHeight);
+  limits.ptMinTrackSize = {smallest.cx + frame.cx, smallest.cy + frame.cy};
 }
 
 void Window::noteGeometry() {
@@ -97,39 +117,53 @@ void Window::noteGeometry() {
     noteState(WindowState::Minimized);
     return;
   }
-  const bool maximized = IsZoomed(handle_);
-  if (maximized && !maximized_) normal_ = {bounds(), placed_};
-  maximized_ = maximized;
-  noteState(maximized ? WindowState::Maximized : WindowState::Normal);
+  const Placed before = {bounds(), placed_};
+  const bool restored = maximized_ && !IsZoomed(handle_);
+  if (!maximized_ && IsZoomed(handle_)) normal_ = before;
+  maximized_ = IsZoomed(handle_);
+  noteState(maximized_ ? WindowState::Maximized : WindowState::Normal);
   if (placeWhenRestored_) {
     placeWhenRestored_ = false;
     showBounds();
+  } else {
+    notePlacement(restored ? normal_ : before);
+  }
+}
+
+// What has not changed in pixels has not changed in twips, which are finer. The system keeps the
+// size of a window in pixels, whatever the resolution of the screen that it comes back to.
+void Window::notePlacement(const Placed& before) {
+  placed_ = measure();
+  const bool rescaled = placed_.dpi != before.placement.dpi;
+  controls::Rect seen = before.bounds;
+  if (placed_.left != before.placement.left) seen.left = screenScale_.toTwips(placed_.left);
+  if (placed_.top != before.placement.top) seen.top = screenScale_.toTwips(placed_.top);
+  if (rescaled && !maximized_) {
+    noteBounds(seen);
+    showBounds();
     return;
   }
-  const Placement now = measure();
-  if (now == placed_) return;
-  controls::Rect seen = bounds();
-  if (now == normal_.placed) {
-    seen = normal_.bounds;
-  } else {
-    // What has not changed in pixels has not changed in twips, which are finer.
-    if (now.left != placed_.left) seen.left = screenScale_.toTwips(now.left);
-    if (now.top != placed_.top) seen.top = screenScale_.toTwips(now.top);
-    if (now.width != placed_.width) seen.width = scale_.toTwips(now.width) + controls::kFrameWidth;
-    if (now.height != placed_.height)
-      seen.height = scale_.toTwips(now.height) + layout().frameHeight();
-  }
-  placed_ = now;
+  if (rescaled || placed_.width != before.placement.width)
+    seen.width = scale_.toTwips(placed_.width) + controls::kFrameWidth;
+  if (rescaled || placed_.height != before.placement.height)
+    seen.height = scale_.toTwips(placed_.height) + layout().frameHeight();
   noteBounds(seen);
 }
 
-// The window keeps its size in twips on the new monitor, and everything in it with it.
+// The window keeps its size in twips on the new monitor, and everything in it with it; a maximized
+// one goes on filling its screen, and one that is an icon is put right when it is restored.
 void Window::takeResolution(const Message& message) {
   scale_ = Scale(LOWORD(message.wParam));
   const Fonts before = std::exchange(fonts_, Fonts(scale_));
   refreshControls();
-  if (placing_) return;
+  if (placing_ || IsIconic(handle_)) return;
   const auto& suggested = *reinterpret_cast<const RECT*>(message.lParam);
+  if (IsZoomed(handle_)) {
+    SetWindowPos(handle_, nullptr, suggested.left, suggested.top, suggested.right - suggested.left,
+                 suggested.bottom - suggested.top, SWP_NOZORDER | SWP_NOACTIVATE);
+    noteGeometry();
+    return;
+  }
   controls::Rect seen = bounds();
   seen.left = screenScale_.toTwips(suggested.left);
   seen.top = screenScale_.toTwips(suggested.top);

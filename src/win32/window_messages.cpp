@@ -25,6 +25,7 @@ std::optional<LRESULT> Window::take(const Message& message) {
     case WM_ACTIVATE:
     case WM_SETFOCUS:
       return takeFocus(message);
+    case WM_SYSCOMMAND:
     case WM_GETMINMAXINFO:
     case WM_WINDOWPOSCHANGED:
     case WM_DPICHANGED:

@@ -66,6 +66,30 @@ TEST_F(WindowTest, DraggingItsCornerSizesItAndTheTape) {
   EXPECT_EQ(tell("get txtTape Width")["value"], tapeWidth + twips(kPixels));
 }
 
+TEST_F(WindowTest, DraggingItsCornerLeavesAtLeastTheMicroWindow) {
+  tell("move frmCalc 1500 1500");
+  RECT frame = {};
+  GetWindowRect(mainWindow(), &frame);
+  stage().drag({frame.right - 2, frame.bottom - 2}, {frame.left + 10, frame.top + 10});
+  EXPECT_EQ(tell("get frmCalc Width")["value"], 2280);
+  EXPECT_EQ(tell("get frmCalc Height")["value"], 1095);
+  GetWindowRect(mainWindow(), &frame);
+  stage().drag({frame.left + 1, frame.top + 1}, {frame.right + 300, frame.bottom + 300});
+  // The system may stop a pixel before.
+  const int pixel = twips(1);
+  EXPECT_NEAR(tell("get frmCalc Width")["value"].get<int>(), 2280, pixel);
+  EXPECT_NEAR(tell("get frmCalc Height")["value"].get<int>(), 1095, pixel);
+}
+
+TEST_F(WindowTest, SmallerSizesThatWereStoredAreAppliedAsTheyStand) {
+  tell("close frmCalc");
+  tell("store set Settings frmCalcAtUnloadWidth \"1500\"");
+  tell("store set Settings frmCalcAtUnloadHeight \"900\"");
+  tell("start");
+  EXPECT_EQ(tell("get frmCalc Width")["value"], 1500);
+  EXPECT_EQ(tell("get frmCalc Height")["value"], 900);
+}
+
 TEST_F(WindowTest, DraggingItsTitleMovesIt) {
   constexpr int kPixels = 60;
   const int width = tell("get frmCalc Width")["value"];

@@ -1,0 +1,142 @@
+#include "looks/looks_test_base.h"
+
+// The screen changes while the window fills it, or lies on the taskbar.
+namespace looks {
+namespace {
+
+class MaximizedTest : public LooksTest {
+ protected:
+  void SetUp() override {
+    LooksTest::SetUp();
+    tell("move frmCalc 1500 900");
+    window_ = window("frmCalc");
+    normal_ = placeOf(window_);
+    client_ = clientSize(window_);
+    width_ = tell("get frmCalc Width")["value"];
+    height_ = tell("get frmCalc Height")["value"];
+  }
+
+  /// The system moves a window that fills its screen to another screen, or makes it as large as its
+  /// screen has become.
+  void fillScreen(const RECT& place) {
+    SetWindowPos(window_, nullptr, place.left, place.top, place.right - place.left,
+                 place.bottom - place.top, SWP_NOZORDER | SWP_NOACTIVATE);
+  }
+
+  /// Where the system would bring the window back to.
+  void setNormalPlace(const RECT& place) {
+    WINDOWPLACEMENT placement = {};
+    placement.length = sizeof placement;
+    GetWindowPlacement(window_, &placement);
+    placement.rcNormalPosition = place;
+    SetWindowPlacement(window_, &placement);
+  }
+
+  void expectFills(const RECT& place) {
+    EXPECT_TRUE(IsZoomed(window_));
+    EXPECT_EQ(tell("get frmCalc WindowState")["value"], "maximized");
+    const RECT seen = placeOf(window_);
+    EXPECT_TRUE(EqualRect(&seen, &place))
+        << seen.right - seen.left << " by " << seen.bottom - seen.top << " pixels at " << seen.left
+        << ", " << seen.top;
+  }
+
+  void expectRestored(LONG left, LONG top, int dpi) {
+    EXPECT_EQ(tell("get frmCalc WindowState")["value"], "normal");
+    EXPECT_EQ(placeOf(window_).left, left);
+    EXPECT_EQ(placeOf(window_).top, top);
+    EXPECT_NEAR(clientSize(window_).cx, MulDiv(client_.cx, dpi, 96), 1);
+    EXPECT_NEAR(clientSize(window_).cy, MulDiv(client_.cy, dpi, 96), 1);
+    EXPECT_EQ(tell("get frmCalc Width")["value"], width_);
+    EXPECT_EQ(tell("get frmCalc Height")["value"], height_);
+  }
+
+  HWND window_ = nullptr;
+  RECT normal_ = {};
+  SIZE client_ = {};
+  int width_ = 0;
+  int height_ = 0;
+};
+
+TEST_F(MaximizedTest, FillsAScreenWhoseScalingChanges) {
+  tell("maximize frmCalc");
+  const RECT screen = placeOf(window_);
+  setResolution(window_, 144, screen);
+  expectFills(screen);
+  tell("restore frmCalc");
+  expectRestored(normal_.left, normal_.top, 144);
+}
+
+TEST_F(MaximizedTest, ComesBackExactlyWhenTheScalingDid) {
+  tell("maximize frmCalc");
+  const RECT screen = placeOf(window_);
+  setResolution(window_, 144, screen);
+  setResolution(window_, 96, screen);
+  expectFills(screen);
+  tell("restore frmCalc");
+  EXPECT_EQ(tell("get frmCalc Left")["value"], 1500);
+  EXPECT_EQ(tell("get frmCalc Top")["value"], 900);
+  expectRestored(normal_.left, normal_.top, 96);
+}
+
+TEST_F(MaximizedTest, FillsTheOtherScreenThatItIsSentTo) {
+  tell("maximize frmCalc");
+  const RECT other = {300, 100, 1100, 700};
+  fillScreen(other);
+  setResolution(window_, 144, other);
+  expectFills(other);
+  const RECT there = {400, 150, 400 + normal_.right - normal_.left,
+                      150 + normal_.bottom - normal_.top};
+  setNormalPlace(there);
+  expectFills(other);
+  tell("restore frmCalc");
+  expectRestored(there.left, there.top, 144);
+}
+
+TEST_F(MaximizedTest, KeepsItsSizeToTheTwipWhenItsScreenIsUnplugged) {
+  tell("resize frmCalc 7001 4001");
+  client_ = clientSize(window_);
+  width_ = 7001;
+  height_ = 4001;
+  normal_ = placeOf(window_);
+  tell("maximize frmCalc");
+  const RECT smaller = {0, 0, 808, 608};
+  fillScreen(smaller);
+  RECT there = normal_;
+  OffsetRect(&there, 30, 20);
+  setNormalPlace(there);
+  expectFills(smaller);
+  tell("restore frmCalc");
+  expectRestored(there.left, there.top, 96);
+}
+
+TEST_F(MaximizedTest, MinimizedItComesUpInTheSizeForItsScreen) {
+  tell("minimize frmCalc");
+  const RECT icon = placeOf(window_);
+  setResolution(window_, 144, icon);
+  tell("restore frmCalc");
+  expectRestored(normal_.left, normal_.top, 144);
+}
+
+TEST_F(MaximizedTest, MinimizedInBetweenItFillsItsScreenAgain) {
+  tell("maximize frmCalc");
+  const RECT screen = placeOf(window_);
+  tell("minimize frmCalc");
+  setResolution(window_, 144, placeOf(window_));
+  ShowWindow(window_, SW_RESTORE);
+  expectFills(screen);
+  tell("restore frmCalc");
+  expectRestored(normal_.left, normal_.top, 144);
+}
+
+TEST_F(MaximizedTest, AScreenThatChangesLeavesAWindowInItsPlace) {
+  SendMessageW(window_, WM_DISPLAYCHANGE, 32, MAKELPARAM(800, 600));
+  expectRestored(normal_.left, normal_.top, 96);
+  tell("maximize frmCalc");
+  const RECT screen = placeOf(window_);
+  SendMessageW(window_, WM_DISPLAYCHANGE, 32, MAKELPARAM(800, 600));
+  expectFills(screen);
+}
+
+}  // namespace
+}  // namespace looks
