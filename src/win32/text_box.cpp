@@ -79,6 +79,7 @@ void TextBox::store(UINT message, WPARAM wParam, const std::wstring& text) {
   storing_ = true;
   send(message, wParam, reinterpret_cast<LPARAM>(text.c_str()));
   storing_ = false;
+  fitText();
 }
 
 void TextBox::storeText(std::string_view text) {

@@ -13,11 +13,13 @@ class TextBox : public Native<controls::TextBox> {
   TextBox(Window& frame, const controls::ControlLayout& layout);
 
   void refresh() override;
+  void frameSized() override;
 
  protected:
   std::optional<LRESULT> take(const Message& message) override;
   // The window text of a box is what is typed into it.
   void showCaption() override {}
+  void showBounds() override;
   void showEnabled() override;
   void showBackColor() override;
 
@@ -35,7 +37,9 @@ class TextBox : public Native<controls::TextBox> {
   void store(UINT message, WPARAM wParam, const std::wstring& text);
   std::optional<LRESULT> takeFrame(const Message& message);
   LRESULT placeLine(const Message& message);
-  void putLine() const;
+  void putLine();
+  void fitText();
+  LONG cutOff() const;
   void paintBesideLine();
   void repaint() const;
 
@@ -43,6 +47,8 @@ class TextBox : public Native<controls::TextBox> {
   AccessibleName name_;
   // What is within its edge, from the corner of the box.
   RECT inside_ = {};
+  // How much of its right side lies outside the window.
+  LONG cutOff_ = 0;
   // The text that is being changed is the program's doing.
   bool storing_ = false;
 };

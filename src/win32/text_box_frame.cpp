@@ -1,5 +1,6 @@
 #include <algorithm>
 
+#include "win32/fitted_text.h"
 #include "win32/ruler.h"
 #include "win32/text_box.h"
 
@@ -38,6 +39,7 @@ LRESULT TextBox::placeLine(const Message& message) {
   auto& area = *reinterpret_cast<RECT*>(message.lParam);
   const POINT corner = {area.left, area.top};
   const LRESULT result = passOn(message);
+  area.right = std::max(area.left, area.right - cutOff_);
   inside_ = area;
   OffsetRect(&inside_, -corner.x, -corner.y);
   const TEXTMETRICW metrics = metricsOf(reinterpret_cast<HFONT>(send(WM_GETFONT)));
@@ -49,8 +51,10 @@ LRESULT TextBox::placeLine(const Message& message) {
   return result;
 }
 
-// The line's place depends on the font, of which the system does not tell the frame.
-void TextBox::putLine() const {
+// The line's place depends on the font and on the window, of which the system does not tell the
+// frame.
+void TextBox::putLine() {
+  cutOff_ = cutOff();
   SetWindowPos(handle(), nullptr, 0, 0, 0, 0,
                SWP_FRAMECHANGED | SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
@@ -72,9 +76,41 @@ void TextBox::repaint() const {
   RedrawWindow(handle(), nullptr, nullptr, RDW_INVALIDATE | RDW_FRAME);
 }
 
+// A box that lies outside altogether is cut off nowhere.
+LONG TextBox::cutOff() const {
+  const RECT box = frame().scale().toPixels(bounds());
+  RECT window;
+  GetClientRect(frame().handle(), &window);
+  return box.left < window.right ? std::max(0L, box.right - window.right) : 0;
+}
+
+// Neither the sign nor the last digit of a number is ever out of sight.
+void TextBox::fitText() {
+  constexpr int kCaret = 1;
+  RECT line;
+  send(EM_GETRECT, 0, reinterpret_cast<LPARAM>(&line));
+  const HFONT font = fittedFont(frame().fonts(), frame().scale(), layout().font, wideText(),
+                                line.right - line.left - kCaret);
+  if (reinterpret_cast<HFONT>(send(WM_GETFONT)) != font)
+    send(WM_SETFONT, reinterpret_cast<WPARAM>(font), TRUE);
+}
+
+void TextBox::frameSized() {
+  if (cutOff() == cutOff_) return;
+  putLine();
+  fitText();
+}
+
+void TextBox::showBounds() {
+  Native::showBounds();
+  putLine();
+  fitText();
+}
+
 void TextBox::refresh() {
   Native::refresh();
   putLine();
+  fitText();
   repaint();
 }
 
