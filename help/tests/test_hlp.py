@@ -113,7 +113,8 @@ class HlpTest(unittest.TestCase):
         data = bytearray(write_hlp("Tallyrex Help", TOPICS))
         with self.assertRaises(ValueError):
             HlpFile(bytes(data[:-1]))
-        at = data.index(b"\x3b\x29")
+        # The head of a tree: its mark, then its flags.
+        at = data.index(b"\x3b\x29\x02\x00")
         data[at + 2] ^= 0xFF
         data[at + 34] ^= 0xFF
         with self.assertRaises(ValueError):

@@ -21,6 +21,7 @@ frmAnnuity::frmAnnuity(controls::Desktop& desktop, Program& program)
   wireFields();
   wireButtons();
   window_->onClose = [this] { unload(); };
+  window_->onHelp = [this] { showHelp(); };
 }
 
 void frmAnnuity::wireFields() {

@@ -40,6 +40,15 @@ struct HelpRequest {
 /// A value under the machine's registry root: a text, or a double word.
 using RegistryValue = std::string;
 
+/// What was found on the clipboard. While another program holds it, nobody knows what is there.
+struct Clipping {
+  enum class Found { Nothing, Text, HeldByAnother };
+  Found found = Found::Nothing;
+  std::string text;
+
+  bool operator==(const Clipping&) const = default;
+};
+
 /// Everything that the program asks of the system: one function a thing. There is one for the
 /// program, and it outlives its windows.
 class Desktop {
@@ -54,8 +63,7 @@ class Desktop {
   virtual int showMessage(const UserMessage& box) = 0;
   virtual void beep() = 0;
 
-  /// The clipboard's text; nothing when it holds none or cannot be had.
-  virtual std::optional<std::string> clipboardText() = 0;
+  virtual Clipping clipboardText() = 0;
   /// False when another program does not let go of the clipboard.
   virtual bool setClipboardText(std::string_view text) = 0;
 

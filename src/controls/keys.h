@@ -19,7 +19,9 @@ inline constexpr KeyCode kKeyLeft = 37;
 inline constexpr KeyCode kKeyUp = 38;
 inline constexpr KeyCode kKeyRight = 39;
 inline constexpr KeyCode kKeyDown = 40;
+inline constexpr KeyCode kKeyInsert = 45;
 inline constexpr KeyCode kKeyDelete = 46;
+inline constexpr KeyCode kKeyF1 = 112;
 
 /// The keys that only move the caret: End, Home and the arrows.
 constexpr bool isNavigationKey(KeyCode key) {

@@ -61,12 +61,12 @@ std::string TextBox::textWithoutSelection() const {
   return loadPart(0, selection.start) + loadPart(end, length() - end);
 }
 
-void TextBox::replaceSelection(std::string_view text) {
+bool TextBox::replaceSelection(std::string_view text) {
   const Selection selection = loadSelection();
   std::string before = loadPart(selection.start, selection.length);
   if (before == text) {
     setSelStart(selection.start + selection.length);
-    return;
+    return false;
   }
   const int behind = length() - selection.start - selection.length;
   storePart(selection.start, selection.length, text);
@@ -74,53 +74,89 @@ void TextBox::replaceSelection(std::string_view text) {
   storeSelection(end, 0);
   lastEdit_ = {selection.start, end - selection.start, std::move(before)};
   raise(onChange, ChangedBy::User);
+  return true;
 }
 
-void TextBox::backspace() {
-  const Selection selection = loadSelection();
-  if (selection.length == 0) {
-    if (selection.start == 0) return;
-    storeSelection(selection.start - 1, 1);
-  }
-  replaceSelection("");
+// Whether the two units there are one character, or a line end.
+bool TextBox::hasPairAt(int start) const {
+  if (start < 0 || start + 2 > length()) return false;
+  const std::string pair = loadPart(start, 2);
+  constexpr char kFirstOfFourBytes = '\xF0';
+  return pair == "\r\n" || (pair.size() == 4 && (pair[0] & kFirstOfFourBytes) == kFirstOfFourBytes);
 }
 
-void TextBox::deleteForward() {
-  const Selection selection = loadSelection();
-  if (selection.length == 0) {
-    if (selection.start == length()) return;
-    storeSelection(selection.start, 1);
-  }
-  replaceSelection("");
+bool TextBox::backspace() {
+  const auto [start, length] = loadSelection();
+  return takeAway(length > 0 ? start : std::max(0, start - 1), start + length);
+}
+
+bool TextBox::deleteForward() {
+  const auto [start, length] = loadSelection();
+  return takeAway(start, length > 0 ? start + length : std::min(start + 1, this->length()));
+}
+
+bool TextBox::takeAway(int start, int end) {
+  if (hasPairAt(start - 1)) --start;
+  if (hasPairAt(end - 1)) ++end;
+  storeSelection(start, end - start);
+  return replaceSelection("");
 }
 
 std::string firstLineOf(std::string_view text) {
   return std::string(text.substr(0, text.find_first_of("\r\n")));
 }
 
-void TextBox::paste(std::string text) {
+std::string withoutLineEnd(std::string text) {
+  if (text.ends_with('\n')) text.pop_back();
+  if (text.ends_with('\r')) text.pop_back();
+  return text;
+}
+
+void TextBox::paste() {
+  const Clipping clipping = window().desktop().clipboardText();
+  const bool isText = clipping.found == Clipping::Found::Text;
+  if (clipping.found == Clipping::Found::HeldByAnother) {
+    window().desktop().beep();
+  } else if (onPasteCommand) {
+    raise(onPasteCommand, isText ? std::optional(clipping.text) : std::nullopt);
+  } else if (isText) {
+    pasteText(clipping.text);
+  }
+}
+
+bool TextBox::pasteByMouse() {
+  const Clipping clipping = window().desktop().clipboardText();
+  if (clipping.found == Clipping::Found::HeldByAnother) window().desktop().beep();
+  return clipping.found == Clipping::Found::Text && pasteText(clipping.text);
+}
+
+bool TextBox::pasteText(std::string text) {
   if (onPaste) {
     raise(onPaste, text);
-    if (text.empty()) return;
+    if (text.empty()) return false;
   } else if (!layout().multiLine) {
     text = firstLineOf(text);
   }
-  replaceSelection(text);
+  return replaceSelection(text);
 }
 
 void TextBox::copy() {
-  if (selLength() > 0) window().desktop().setClipboardText(selectedText());
+  if (selLength() == 0) return;
+  if (!window().desktop().setClipboardText(selectedText())) window().desktop().beep();
 }
 
-void TextBox::cut() {
-  if (selLength() > 0 && window().desktop().setClipboardText(selectedText())) replaceSelection("");
+bool TextBox::cut() {
+  if (selLength() == 0) return false;
+  if (window().desktop().setClipboardText(selectedText())) return replaceSelection("");
+  window().desktop().beep();
+  return false;
 }
 
-void TextBox::undo() {
-  if (!lastEdit_) return;
+bool TextBox::undo() {
+  if (!lastEdit_) return false;
   const Edit edit = *std::move(lastEdit_);
   storeSelection(edit.start, edit.length);
-  replaceSelection(edit.before);
+  return replaceSelection(edit.before);
 }
 
 void TextBox::typeCharacter(KeyAscii character) {
@@ -130,19 +166,21 @@ void TextBox::typeCharacter(KeyAscii character) {
 void TextBox::actOnCharacter(KeyAscii character) {
   switch (character) {
     case kKeyBackspace:
-      return backspace();
+      backspace();
+      return;
     case kKeyEnter:
       if (layout().multiLine) replaceSelection("\r\n");
       return;
     case kCopy:
       return copy();
     case kCut:
-      return cut();
-    case kUndo:
-      return undo();
-    case kPaste:
-      if (const auto text = window().desktop().clipboardText()) paste(*text);
+      cut();
       return;
+    case kUndo:
+      undo();
+      return;
+    case kPaste:
+      return paste();
     default:
       if (character >= kKeySpace && character != kRubout) insert(character);
   }
@@ -150,6 +188,45 @@ void TextBox::actOnCharacter(KeyAscii character) {
 
 void TextBox::insert(KeyAscii character) {
   replaceSelection(common::toUtf8(static_cast<char32_t>(character)));
+}
+
+// Ctrl+Delete does nothing: what it would take away depends on the system.
+bool TextBox::takeEditKey(const KeyStroke& stroke) {
+  if (stroke.key == kKeyInsert && stroke.control && !stroke.shift) {
+    copy();
+    return true;
+  }
+  if (stroke.key != kKeyDelete) return false;
+  if (stroke.shift && !stroke.control) cut();
+  if (!stroke.shift && !stroke.control) deleteForward();
+  return true;
+}
+
+void TextBox::closeMenu(BoxCommand chosen) {
+  const MouseEdit edit = carryOut(chosen);
+  raise(onMouseUp, edit);
+}
+
+MouseEdit TextBox::carryOut(BoxCommand chosen) {
+  const auto edited = [](bool changed) { return changed ? MouseEdit::Edited : MouseEdit::None; };
+  switch (chosen) {
+    case BoxCommand::Undo:
+      return edited(undo());
+    case BoxCommand::Cut:
+      return edited(cut());
+    case BoxCommand::Delete:
+      return edited(replaceSelection(""));
+    case BoxCommand::Paste:
+      return pasteByMouse() ? MouseEdit::Pasted : MouseEdit::None;
+    case BoxCommand::Copy:
+      copy();
+      return MouseEdit::None;
+    case BoxCommand::SelectAll:
+      selectAll();
+      return MouseEdit::None;
+    default:
+      return MouseEdit::None;
+  }
 }
 
 void TextBox::setAlignment(Alignment alignment) {

@@ -11,6 +11,16 @@ namespace controls {
 
 enum class ChangedBy { Program, User };
 
+/// What the user did to the text with the mouse, by the box's own menu: he changed it as a key
+/// would, or pasted into it.
+enum class MouseEdit { None, Edited, Pasted };
+
+/// What a box's own menu offers.
+enum class BoxCommand { None, Undo, Cut, Copy, Paste, Delete, SelectAll };
+
+/// A text without the one line end behind it, with which a cell copied from a spreadsheet ends.
+std::string withoutLineEnd(std::string text);
+
 /// What of a pasted text goes into a box of one line.
 std::string firstLineOf(std::string_view text);
 
@@ -24,13 +34,16 @@ class TextBox : public Control {
 
   /// Raised when the text was assigned, or when an edit has changed it; tells whose doing it was.
   std::function<void(ChangedBy)> onChange;
-  /// A text about to be pasted by the user; the handler may change it, or empty it to discard it. A
-  /// one-line box without a handler takes the text up to its first line break.
+  /// A text about to be pasted in the place of the selection; the handler may change it, or empty
+  /// it to discard it. A one-line box without a handler takes the text up to its first line break.
   std::function<void(std::string&)> onPaste;
+  /// Takes over what a command pastes: the clipboard's text, nothing where it has none. The mouse
+  /// pastes where the caret is, with this handler too.
+  std::function<void(const std::optional<std::string>&)> onPasteCommand;
   /// The mouse button goes down in the box; it has come up, and what the mouse did to the text is
   /// done.
   std::function<void()> onMouseDown;
-  std::function<void()> onMouseUp;
+  std::function<void(MouseEdit)> onMouseUp;
 
   std::string text() const { return loadText(); }
   /// Puts the caret at 0 with nothing selected; always raises Change.
@@ -54,28 +67,38 @@ class TextBox : public Control {
   /// What stays when the selection is replaced by nothing.
   std::string textWithoutSelection() const;
 
-  /// A user's edits. Each raises Change once when it changes the text, and leaves the caret behind
-  /// what it put there.
-  void replaceSelection(std::string_view text);
-  void backspace();
-  void deleteForward();
-  /// Asks onPaste, then replaces the selection.
-  void paste(std::string text);
-  /// Puts a selection on the clipboard; cutting also takes it out of the text.
+  /// A user's edits. Each raises Change once when it changes the text, leaves the caret behind what
+  /// it put there, and tells whether it changed the text.
+  bool replaceSelection(std::string_view text);
+  /// These take whole characters away: a line end, or a character of two units, goes as one, also
+  /// with the caret inside it.
+  bool backspace();
+  bool deleteForward();
+  /// Pastes the clipboard's text by a command: the menu's, a key's, another program's. Beeps where
+  /// another program holds the clipboard.
+  void paste();
+  /// Puts a selection on the clipboard, or beeps where another program holds it; cutting also takes
+  /// it out of the text.
   void copy();
-  void cut();
+  bool cut();
   /// Takes back the user's last edit, and a second time restores it. What the program assigned is
   /// not taken back.
-  void undo();
+  bool undo();
   bool canUndo() const { return lastEdit_.has_value(); }
   /// The character takes effect when KeyPress lets it through.
   void typeCharacter(KeyAscii character) override;
+  /// A key without a character that edits: Delete, and Cut and Copy as Shift+Delete and
+  /// Ctrl+Insert. False for any other key.
+  bool takeEditKey(const KeyStroke& stroke);
 
   Alignment alignment() const { return alignment_; }
   void setAlignment(Alignment alignment);
 
   void mouseDown() { raise(onMouseDown); }
-  void mouseUp() { raise(onMouseUp); }
+  void mouseUp() { raise(onMouseUp, MouseEdit::None); }
+  /// The box's own menu, which the mouse has opened, closes: what was chosen is done, and the mouse
+  /// button is up.
+  void closeMenu(BoxCommand chosen);
 
  protected:
   struct Selection {
@@ -102,6 +125,11 @@ class TextBox : public Control {
     std::string before;
   };
 
+  bool pasteByMouse();
+  bool pasteText(std::string text);
+  bool hasPairAt(int start) const;
+  bool takeAway(int start, int end);
+  MouseEdit carryOut(BoxCommand chosen);
   void actOnCharacter(KeyAscii character);
   void insert(KeyAscii character);
 

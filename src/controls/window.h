@@ -32,6 +32,8 @@ class Window {
   std::function<void()> onActivate;
   /// The user closes the window; the program unloads it.
   std::function<void()> onClose;
+  /// The user asks for help with F1.
+  std::function<void()> onHelp;
 
   const WindowLayout& layout() const { return layout_; }
   Desktop& desktop() const { return desktop_; }
@@ -85,9 +87,9 @@ class Window {
   /// Moves the focus to the next or the previous control in tab order, as the Tab key does; of a
   /// group of option buttons the chosen one.
   void moveFocus(bool forward);
-  /// A key stroke that the window takes before a control sees it: a menu's shortcut, Tab, an access
-  /// key, Escape for the cancel button, arrows among option buttons. False when a control is to
-  /// have it.
+  /// A key stroke that the window takes before a control sees it: a menu's shortcut, Shift+Insert
+  /// for a paste into the box with the focus, F1 for help, Tab, an access key, Escape for the
+  /// cancel button, arrows among option buttons. False when a control is to have it.
   bool takeKey(const KeyStroke& stroke);
   /// A key stroke sent by the program: it takes the way of a real one, once the running handler has
   /// ended. `character` is 0 for a key without one.
@@ -125,6 +127,8 @@ class Window {
   std::vector<Control*> tabOrder() const;
   bool isTabStop(const Control& control) const;
   bool takeShortcut(const KeyStroke& stroke);
+  bool takePaste(const KeyStroke& stroke);
+  bool takeHelp(const KeyStroke& stroke);
   bool takeAccessKey(char letter);
   bool takeArrow(const KeyStroke& stroke);
   void raiseResizeIfSized(const Rect& before);

@@ -53,7 +53,7 @@ void Window::moveFocus(bool forward) {
 
 bool Window::takeKey(const KeyStroke& stroke) {
   if (stroke.alt) return takeAccessKey(static_cast<char>(stroke.key));
-  if (takeShortcut(stroke)) return true;
+  if (takeShortcut(stroke) || takePaste(stroke) || takeHelp(stroke)) return true;
   if (stroke.key == kKeyTab && !stroke.control) {
     moveFocus(!stroke.shift);
     return true;
@@ -75,6 +75,18 @@ bool Window::takeShortcut(const KeyStroke& stroke) {
     return true;
   }
   return false;
+}
+
+bool Window::takePaste(const KeyStroke& stroke) {
+  if (stroke.key != kKeyInsert || !stroke.shift || stroke.control) return false;
+  if (auto* box = dynamic_cast<TextBox*>(focusedControl_)) box->paste();
+  return true;
+}
+
+bool Window::takeHelp(const KeyStroke& stroke) {
+  if (stroke.key != kKeyF1 || stroke.shift || stroke.control) return false;
+  if (onHelp) desktop_.events().runEvent(onHelp);
+  return true;
 }
 
 // An access key of a label leads to the control behind it; any other control is clicked.

@@ -79,9 +79,9 @@ class Engine {
   /// Puts the entry in shape, unless the key just moved the caret.
   void txtEntry_KeyUp(controls::KeyCode key);
   void txtEntry_Change(controls::ChangedBy by);
-  /// Between the two the mouse may have pasted something: that must be a number.
-  void txtEntry_MouseDown();
-  void txtEntry_MouseUp();
+  /// What the mouse has pasted must be a number, with what stood there; any other edit of its own
+  /// is as one by keyboard.
+  void txtEntry_MouseUp(controls::MouseEdit edit);
   /// The clipboard's text in the place of the whole entry; nothing when the clipboard has none.
   void PasteEntry(const std::optional<std::string>& text);
   /// Puts the entry in shape after an edit of the user's.
@@ -158,7 +158,6 @@ class Engine {
   std::string mstrKey;
   std::string mstrPendingOp;
   std::string mstrErrText;
-  std::string mstrMouseDownText;
   int mintMode = kCalculatorMode;
   bool mblnTempCalc = false;
   bool mblnDecKeyed = false;

@@ -3,25 +3,11 @@
 
 namespace engine {
 
-namespace {
-
-// A cell copied from a spreadsheet ends in a line end.
-std::string withoutLineEnd(std::string text) {
-  if (text.ends_with('\n')) text.pop_back();
-  if (text.ends_with('\r')) text.pop_back();
-  return text;
-}
-
-}  // namespace
-
-void Engine::txtEntry_MouseDown() {
-  mstrMouseDownText = c_.txtEntry.text();
-}
-
 // A box that the mouse has emptied had nothing pasted into it.
-void Engine::txtEntry_MouseUp() {
+void Engine::txtEntry_MouseUp(controls::MouseEdit edit) {
   const std::string text = c_.txtEntry.text();
-  if (text != mstrMouseDownText && !text.empty()) TakePasted(text);
+  if (edit == controls::MouseEdit::Pasted && !text.empty()) TakePasted(text);
+  if (edit == controls::MouseEdit::Edited) TidyEntry();
 }
 
 void Engine::PasteEntry(const std::optional<std::string>& text) {
@@ -32,7 +18,7 @@ void Engine::TakePasted(std::string text) {
   mblnShowingResult = mblnPosted = false;
   common::trap(
       [&] {
-        ShowValue(TrimPasted(common::toPlainText(withoutLineEnd(std::move(text)))));
+        ShowValue(TrimPasted(common::toPlainText(controls::withoutLineEnd(std::move(text)))));
         mblnDecKeyed = !floatingDecimal() && c_.txtEntry.text().find('.') != std::string::npos;
         ReformatEntry();
         c_.txtEntry.moveCaretToEnd();

@@ -23,7 +23,14 @@ int Desktop::showMessage(const controls::UserMessage& box) {
   return answer;
 }
 
+controls::Clipping Desktop::clipboardText() {
+  using Found = controls::Clipping::Found;
+  if (clipboardHeld) return {Found::HeldByAnother, ""};
+  return clipboard ? controls::Clipping{Found::Text, *clipboard} : controls::Clipping{};
+}
+
 bool Desktop::setClipboardText(std::string_view text) {
+  if (clipboardHeld) return false;
   clipboard = text;
   return true;
 }

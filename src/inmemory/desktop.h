@@ -31,7 +31,7 @@ class Desktop : public controls::Desktop {
   std::unique_ptr<controls::Window> createWindow(const controls::WindowLayout& layout) override;
   int showMessage(const controls::UserMessage& box) override;
   void beep() override { ++beeps; }
-  std::optional<std::string> clipboardText() override { return clipboard; }
+  controls::Clipping clipboardText() override;
   bool setClipboardText(std::string_view text) override;
   bool startProgram(const std::string& program) override;
   bool startProgramAndPaste(const std::string& program) override;
@@ -60,6 +60,8 @@ class Desktop : public controls::Desktop {
 
   std::string name = "Tallyrex";
   std::optional<std::string> clipboard;
+  /// Another program holds the clipboard, so that nothing can be had from it or put there.
+  bool clipboardHeld = false;
   std::set<std::string> programs = {"NotePad.exe"};
   std::set<std::string> files;
   std::map<std::pair<std::string, std::string>, std::string> registry;

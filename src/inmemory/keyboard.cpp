@@ -14,7 +14,7 @@ void Keyboard::down(const controls::KeyStroke& stroke, controls::KeyAscii charac
     if (character != 0) {
       control->typeCharacter(character);
     } else if (auto* box = dynamic_cast<TextBox*>(control)) {
-      box->pressKey(stroke.key, stroke.shift);
+      box->pressKey(stroke);
     }
   });
 }

@@ -48,12 +48,9 @@ void TextBox::storePart(int start, int length, std::string_view text) {
                 common::toUtf16(text));
 }
 
-void TextBox::pressKey(KeyCode key, bool shift) {
-  if (key == controls::kKeyDelete) {
-    deleteForward();
-  } else if (controls::isNavigationKey(key)) {
-    moveCaret(caretAfter(key), shift);
-  }
+void TextBox::pressKey(const controls::KeyStroke& stroke) {
+  if (!takeEditKey(stroke) && controls::isNavigationKey(stroke.key))
+    moveCaret(caretAfter(stroke.key), stroke.shift);
 }
 
 void TextBox::moveCaret(int caret, bool extend) {

@@ -13,8 +13,8 @@ class TextBox : public controls::TextBox {
  public:
   using controls::TextBox::TextBox;
 
-  /// A key without a character: caret keys, with Shift held or not, and Delete.
-  void pressKey(controls::KeyCode key, bool shift);
+  /// A key without a character: one that edits, or moves the caret.
+  void pressKey(const controls::KeyStroke& stroke);
 
  protected:
   std::string loadText() const override;

@@ -8,30 +8,15 @@ controls::TextBox* frmCalc::focusedBox() const {
 
 void frmCalc::mnuEditCut_Click() {
   controls::TextBox* box = focusedBox();
-  if (!box || box->selLength() == 0) return;
-  if (!desktop_.setClipboardText(box->selectedText())) {
-    desktop_.beep();
-    return;
-  }
-  box->replaceSelection("");
-  if (box == &txtEntry) engine_.TidyEntry();
+  if (box && box->cut() && box == &txtEntry) engine_.TidyEntry();
 }
 
 void frmCalc::mnuEditCopy_Click() {
-  controls::TextBox* box = focusedBox();
-  if (!box || box->selLength() == 0) return;
-  if (!desktop_.setClipboardText(box->selectedText())) desktop_.beep();
+  if (controls::TextBox* box = focusedBox()) box->copy();
 }
 
 void frmCalc::mnuEditPaste_Click() {
-  controls::TextBox* box = focusedBox();
-  if (!box) return;
-  const auto text = desktop_.clipboardText();
-  if (box == &txtEntry) {
-    engine_.PasteEntry(text);
-  } else if (text) {
-    box->paste(*text);
-  }
+  if (controls::TextBox* box = focusedBox()) box->paste();
 }
 
 // Shows the selection once, and returns the user to typing.

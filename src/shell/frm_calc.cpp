@@ -50,6 +50,7 @@ frmCalc::frmCalc(controls::Desktop& desktop, Globals& globals, Program& program)
   window_->onResize = [this] { Form_Resize(); };
   window_->onActivate = [this] { Form_Activate(); };
   window_->onClose = [this] { unload(); };
+  window_->onHelp = [this] { mnuHelpContents_Click(); };
   common::trap([this] { Form_Load(); },
                [this](const common::RunTimeError& error) { engine_.ShowError(error); });
 }
@@ -89,10 +90,12 @@ void frmCalc::wireEntry() {
   txtEntry.onKeyPress = [this](controls::KeyAscii& key) { engine_.txtEntry_KeyPress(key); };
   txtEntry.onKeyUp = [this](controls::KeyCode key) { engine_.txtEntry_KeyUp(key); };
   txtEntry.onChange = [this](controls::ChangedBy by) { engine_.txtEntry_Change(by); };
-  txtEntry.onMouseDown = [this] { engine_.txtEntry_MouseDown(); };
-  txtEntry.onMouseUp = [this] { engine_.txtEntry_MouseUp(); };
-  // What is pasted here is judged as a whole, with its line breaks, when the mouse is up.
-  txtEntry.onPaste = [](std::string&) {};
+  txtEntry.onMouseUp = [this](controls::MouseEdit edit) { engine_.txtEntry_MouseUp(edit); };
+  txtEntry.onPasteCommand = [this](const std::optional<std::string>& text) {
+    engine_.PasteEntry(text);
+  };
+  // What the mouse pastes is judged with the rest of the entry, when the mouse is up.
+  txtEntry.onPaste = [](std::string& text) { text = controls::withoutLineEnd(std::move(text)); };
   txtEntry.onGotFocus = [this] { txtEntry_GotFocus(); };
 }
 

@@ -41,9 +41,9 @@ class Clipboard {
 
 }  // namespace
 
-std::optional<std::string> readClipboard() {
+controls::Clipping readClipboard() {
   const Clipboard clipboard;
-  if (!clipboard.isOpen()) return {};
+  if (!clipboard.isOpen()) return {controls::Clipping::Found::HeldByAnother, ""};
   const HANDLE data = GetClipboardData(CF_UNICODETEXT);
   if (!data) return {};
   const auto* text = static_cast<const wchar_t*>(GlobalLock(data));
@@ -51,7 +51,7 @@ std::optional<std::string> readClipboard() {
   // A program may have left out the terminating zero.
   std::wstring copy(text, wcsnlen(text, GlobalSize(data) / sizeof(wchar_t)));
   GlobalUnlock(data);
-  return narrow(copy);
+  return {controls::Clipping::Found::Text, narrow(copy)};
 }
 
 bool writeClipboard(std::string_view text) {

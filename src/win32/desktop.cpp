@@ -63,7 +63,7 @@ void Desktop::beep() {
   MessageBeep(MB_OK);
 }
 
-std::optional<std::string> Desktop::clipboardText() {
+controls::Clipping Desktop::clipboardText() {
   return readClipboard();
 }
 

@@ -20,7 +20,7 @@ class Desktop : public controls::Desktop {
   std::unique_ptr<controls::Window> createWindow(const controls::WindowLayout& layout) override;
   int showMessage(const controls::UserMessage& box) override;
   void beep() override;
-  std::optional<std::string> clipboardText() override;
+  controls::Clipping clipboardText() override;
   bool setClipboardText(std::string_view text) override;
   bool startProgram(const std::string& program) override;
   bool startProgramAndPaste(const std::string& program) override;

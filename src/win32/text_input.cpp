@@ -1,6 +1,5 @@
 #include "win32/text_input.h"
 
-#include "controls/desktop.h"
 #include "win32/handles.h"
 #include "win32/keys.h"
 #include "win32/native_control.h"
@@ -9,23 +8,24 @@
 namespace win32 {
 namespace {
 
-enum Command : UINT { kNoCommand, kUndo, kCut, kCopy, kPaste, kDelete, kSelectAll };
+using controls::BoxCommand;
 
-void addItem(HMENU menu, Command command, const wchar_t* caption, bool enabled) {
-  AppendMenuW(menu, static_cast<UINT>(enabled ? MF_ENABLED : MF_GRAYED), command, caption);
+void addItem(HMENU menu, BoxCommand command, const wchar_t* caption, bool enabled) {
+  AppendMenuW(menu, static_cast<UINT>(enabled ? MF_ENABLED : MF_GRAYED),
+              static_cast<UINT_PTR>(command), caption);
 }
 
 OwnedMenu makeMenu(const controls::TextBox& box) {
   OwnedMenu menu(CreatePopupMenu());
   const bool selected = box.selLength() > 0;
-  addItem(menu.get(), kUndo, L"&Undo", box.canUndo());
+  addItem(menu.get(), BoxCommand::Undo, L"&Undo", box.canUndo());
   AppendMenuW(menu.get(), MF_SEPARATOR, 0, nullptr);
-  addItem(menu.get(), kCut, L"Cu&t", selected);
-  addItem(menu.get(), kCopy, L"&Copy", selected);
-  addItem(menu.get(), kPaste, L"&Paste", IsClipboardFormatAvailable(CF_UNICODETEXT));
-  addItem(menu.get(), kDelete, L"&Delete", selected);
+  addItem(menu.get(), BoxCommand::Cut, L"Cu&t", selected);
+  addItem(menu.get(), BoxCommand::Copy, L"&Copy", selected);
+  addItem(menu.get(), BoxCommand::Paste, L"&Paste", IsClipboardFormatAvailable(CF_UNICODETEXT));
+  addItem(menu.get(), BoxCommand::Delete, L"&Delete", selected);
   AppendMenuW(menu.get(), MF_SEPARATOR, 0, nullptr);
-  addItem(menu.get(), kSelectAll, L"Select &All", box.selLength() < box.length());
+  addItem(menu.get(), BoxCommand::SelectAll, L"Select &All", box.selLength() < box.length());
   return menu;
 }
 
@@ -65,22 +65,10 @@ std::optional<LRESULT> TextInput::take(const Message& message) {
 }
 
 std::optional<LRESULT> TextInput::takeKey(WPARAM key) {
-  const bool shift = isDown(VK_SHIFT);
-  const bool control = isDown(VK_CONTROL);
-  if (key == VK_DELETE) {
-    if (control) return 0;
-    if (shift) {
-      box_.cut();
-    } else {
-      box_.deleteForward();
-    }
-    return 0;
-  }
-  if (key == VK_INSERT) {
-    if (control && !shift) box_.copy();
-    if (shift && !control) paste();
-    return 0;
-  }
+  const controls::KeyStroke stroke{.key = static_cast<controls::KeyCode>(key),
+                                   .shift = isDown(VK_SHIFT),
+                                   .control = isDown(VK_CONTROL)};
+  if (box_.takeEditKey(stroke)) return 0;
   // The keys that only move the caret are the native control's.
   const bool moves = (key >= VK_PRIOR && key <= VK_DOWN);
   return moves ? std::nullopt : std::optional<LRESULT>(0);
@@ -97,7 +85,6 @@ std::optional<LRESULT> TextInput::takeMouse(const Message& message) {
   // From the keyboard, the menu is to be understood as from the mouse.
   if (message.id == WM_CONTEXTMENU) box_.mouseDown();
   showMenu(menuPlace(message));
-  box_.mouseUp();
   return 0;
 }
 
@@ -115,24 +102,9 @@ POINT TextInput::menuPlace(const Message& message) const {
 
 void TextInput::showMenu(POINT screenPlace) {
   const OwnedMenu menu = makeMenu(box_);
-  const BOOL command = TrackPopupMenu(menu.get(), TPM_RETURNCMD | TPM_RIGHTBUTTON, screenPlace.x,
-                                      screenPlace.y, 0, native_.handle(), nullptr);
-  switch (command) {
-    case kUndo:
-      return box_.undo();
-    case kCut:
-      return box_.cut();
-    case kCopy:
-      return box_.copy();
-    case kPaste:
-      return paste();
-    case kDelete:
-      return box_.replaceSelection("");
-    case kSelectAll:
-      return box_.selectAll();
-    default:
-      return;
-  }
+  const BOOL chosen = TrackPopupMenu(menu.get(), TPM_RETURNCMD | TPM_RIGHTBUTTON, screenPlace.x,
+                                     screenPlace.y, 0, native_.handle(), nullptr);
+  box_.closeMenu(static_cast<BoxCommand>(chosen));
 }
 
 std::optional<LRESULT> TextInput::takeEdit(const Message& message) {
@@ -144,7 +116,7 @@ std::optional<LRESULT> TextInput::takeEdit(const Message& message) {
       box_.copy();
       return 0;
     case WM_PASTE:
-      paste();
+      box_.paste();
       return 0;
     case WM_CLEAR:
       box_.replaceSelection("");
@@ -155,10 +127,6 @@ std::optional<LRESULT> TextInput::takeEdit(const Message& message) {
       box_.undo();
       return TRUE;
   }
-}
-
-void TextInput::paste() {
-  if (const auto text = box_.window().desktop().clipboardText()) box_.paste(*text);
 }
 
 }  // namespace win32

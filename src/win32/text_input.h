@@ -23,7 +23,6 @@ class TextInput {
   std::optional<LRESULT> takeMouse(const Message& message);
   std::optional<LRESULT> takeEdit(const Message& message);
   void showMenu(POINT screenPlace);
-  void paste();
   POINT menuPlace(const Message& message) const;
 
   controls::TextBox& box_;

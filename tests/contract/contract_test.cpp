@@ -108,6 +108,11 @@ void ContractTest::pressControl(char letter) {
   kind_->press({.key = letter, .control = true}, letter - 'A' + 1);
 }
 
+void ContractTest::paste(controls::TextBox& box, std::string_view text) {
+  ASSERT_TRUE(kind_->desktop().setClipboardText(text));
+  box.paste();
+}
+
 std::vector<std::string> ContractTest::takeLog() {
   return std::exchange(log_, {});
 }

@@ -22,6 +22,8 @@ class ContractTest : public testing::Test {
   void type(std::string_view text);
   void press(controls::KeyCode key, controls::KeyAscii character = 0);
   void pressControl(char letter);
+  /// Puts a text on the clipboard and pastes it by a command.
+  void paste(controls::TextBox& box, std::string_view text);
   /// The events noted since the last call, one word each.
   std::vector<std::string> takeLog();
   void note(const std::string& event) { log_.push_back(event); }

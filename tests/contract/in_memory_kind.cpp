@@ -20,6 +20,12 @@ class InMemoryKind : public Kind {
     if (auto* clickable = dynamic_cast<controls::ClickControl*>(&control)) clickable->click();
   }
 
+  void whileClipboardIsHeld(const std::function<void()>& body) override {
+    desktop_.clipboardHeld = true;
+    body();
+    desktop_.clipboardHeld = false;
+  }
+
   void settle() override {}
 
  private:

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string_view>
 
@@ -18,6 +19,8 @@ class Kind {
   virtual void press(const controls::KeyStroke& stroke, controls::KeyAscii character) = 0;
   /// A mouse click on a control of a window that is shown.
   virtual void click(controls::Control& control) = 0;
+  /// Does something while another program holds the clipboard.
+  virtual void whileClipboardIsHeld(const std::function<void()>& body) = 0;
   /// Waits until the system has done what it was asked for.
   virtual void settle() = 0;
 };

@@ -43,6 +43,40 @@ LRESULT CALLBACK watchMessage(int code, WPARAM removed, LPARAM pointer) {
   return CallNextHookEx(nullptr, code, removed, pointer);
 }
 
+/// Another thread that has the clipboard open, as another program would.
+class ClipboardHolder {
+ public:
+  ClipboardHolder()
+      : held_(CreateEventW(nullptr, TRUE, FALSE, nullptr)),
+        done_(CreateEventW(nullptr, TRUE, FALSE, nullptr)),
+        thread_(CreateThread(nullptr, 0, hold, this, 0, nullptr)) {
+    WaitForSingleObject(held_, INFINITE);
+  }
+  ~ClipboardHolder() {
+    SetEvent(done_);
+    WaitForSingleObject(thread_, INFINITE);
+    for (const HANDLE handle : {held_, done_, thread_}) CloseHandle(handle);
+  }
+  ClipboardHolder(const ClipboardHolder&) = delete;
+  ClipboardHolder& operator=(const ClipboardHolder&) = delete;
+
+ private:
+  static DWORD WINAPI hold(void* self) {
+    const auto& holder = *static_cast<ClipboardHolder*>(self);
+    const HWND window = CreateWindowExW(0, L"STATIC", nullptr, 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr,
+                                        nullptr, nullptr);
+    OpenClipboard(window);
+    SetEvent(holder.held_);
+    WaitForSingleObject(holder.done_, INFINITE);
+    CloseClipboard();
+    return 0;
+  }
+
+  HANDLE held_;
+  HANDLE done_;
+  HANDLE thread_;
+};
+
 /// The real windows, with real key strokes and clicks.
 class NativeKind : public Kind {
  public:
@@ -71,6 +105,11 @@ class NativeKind : public Kind {
     settle();
     sendAndWait({driver::mouseButton(driver::MouseButton::Left, false, 0),
                  driver::mouseButton(driver::MouseButton::Left, true, 0)});
+  }
+
+  void whileClipboardIsHeld(const std::function<void()>& body) override {
+    const ClipboardHolder holder;
+    body();
   }
 
   void settle() override { sendAndWait({}); }

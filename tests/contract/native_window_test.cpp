@@ -186,7 +186,7 @@ TEST_F(NativeWindow, KeysOfTheClipboardWorkInEveryBox) {
     box->setFocus();
     box->select(1, 3);
     send(*box, WM_COPY);
-    EXPECT_EQ(kind_->desktop().clipboardText(), "234");
+    EXPECT_EQ(kind_->desktop().clipboardText().text, "234");
     send(*box, WM_CUT);
     EXPECT_EQ(box->text(), "15");
     send(*box, WM_PASTE);
@@ -256,31 +256,16 @@ TEST(NativeServices, SettingsHoldLongTexts) {
   RegDeleteTreeW(HKEY_CURRENT_USER, L"Software\\Tallyrex Contract Tests");
 }
 
-TEST(NativeServices, ClipboardThatIsHeldIsReportedSoon) {
+TEST_F(NativeWindow, ClipboardThatIsHeldIsReportedSoon) {
+  using Found = controls::Clipping::Found;
   ASSERT_TRUE(win32::writeClipboard("kept \xE2\x88\x9A"));
-  const HANDLE held = CreateEventW(nullptr, TRUE, FALSE, nullptr);
-  const HANDLE done = CreateEventW(nullptr, TRUE, FALSE, nullptr);
-  HANDLE events[] = {held, done};
-  const HANDLE holder = CreateThread(
-      nullptr, 0,
-      [](void* both) -> DWORD {
-        const HWND window = CreateWindowExW(0, L"STATIC", nullptr, 0, 0, 0, 0, 0, HWND_MESSAGE,
-                                            nullptr, nullptr, nullptr);
-        OpenClipboard(window);
-        SetEvent(static_cast<HANDLE*>(both)[0]);
-        WaitForSingleObject(static_cast<HANDLE*>(both)[1], INFINITE);
-        CloseClipboard();
-        return 0;
-      },
-      events, 0, nullptr);
-  WaitForSingleObject(held, INFINITE);
-  const ULONGLONG start = GetTickCount64();
-  EXPECT_FALSE(win32::writeClipboard("other"));
-  EXPECT_LT(GetTickCount64() - start, 1000u);
-  SetEvent(done);
-  WaitForSingleObject(holder, INFINITE);
-  for (const HANDLE handle : {held, done, holder}) CloseHandle(handle);
-  EXPECT_EQ(win32::readClipboard(), "kept \xE2\x88\x9A");
+  kind_->whileClipboardIsHeld([] {
+    const ULONGLONG start = GetTickCount64();
+    EXPECT_FALSE(win32::writeClipboard("other"));
+    EXPECT_EQ(win32::readClipboard().found, Found::HeldByAnother);
+    EXPECT_LT(GetTickCount64() - start, 2000u);
+  });
+  EXPECT_EQ(win32::readClipboard(), (controls::Clipping{Found::Text, "kept \xE2\x88\x9A"}));
 }
 
 TEST_F(NativeWindow, GivesBackWhatItTook) {

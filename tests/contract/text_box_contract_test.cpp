@@ -1,21 +1,8 @@
 #include <map>
 
-#include "contract/contract_test.h"
+#include "contract/text_box_contract.h"
 
 namespace contract {
-
-using controls::ChangedBy;
-
-class TextBoxContract : public ContractTest, public testing::WithParamInterface<const char*> {
- protected:
-  TextBoxContract() : box_(window_->textBox(GetParam())) {
-    box_.setFocus();
-    kind_->settle();
-    box_.onChange = [this](ChangedBy by) { note(by == ChangedBy::User ? "user" : "program"); };
-  }
-
-  controls::TextBox& box_;
-};
 
 INSTANTIATE_TEST_SUITE_P(Boxes, TextBoxContract, testing::Values("first", "tape"));
 
@@ -147,21 +134,32 @@ TEST_P(TextBoxContract, KeyPressMayAssignTheTextBeforeTheEdit) {
   EXPECT_EQ(box_.selStart(), 1);
 }
 
-TEST_P(TextBoxContract, PastedTextReplacesTheSelection) {
-  box_.setText("1995");
-  box_.select(1, 2);
-  takeLog();
-  box_.paste("23");
-  EXPECT_EQ(box_.text(), "1235");
-  EXPECT_EQ(box_.selStart(), 3);
-  EXPECT_EQ(takeLog(), Log{"user"});
+TEST_P(TextBoxContract, BackspaceAndDeleteTakeACharacterOfTwoUnitsWhole) {
+  for (const int caret : {3, 2}) {
+    box_.setText("a\xF0\x9F\x92\xB0z");
+    box_.setSelStart(caret);
+    type("\b");
+    EXPECT_EQ(box_.text(), "az") << "caret at " << caret;
+    EXPECT_EQ(box_.selStart(), 1);
+  }
+  for (const int caret : {1, 2}) {
+    box_.setText("a\xF0\x9F\x92\xB0z");
+    box_.setSelStart(caret);
+    press(controls::kKeyDelete);
+    EXPECT_EQ(box_.text(), "az") << "caret at " << caret;
+    EXPECT_EQ(box_.selStart(), 1);
+  }
 }
 
-TEST_P(TextBoxContract, PasteHandlerMayChangeOrDiscardTheText) {
-  box_.onPaste = [](std::string& text) { text = text == "drop" ? "" : "<" + text + ">"; };
-  box_.paste("a");
-  box_.paste("drop");
-  EXPECT_EQ(box_.text(), "<a>");
+TEST_P(TextBoxContract, SelectionThatEndsInsideACharacterTakesItAlong) {
+  box_.setText("a\xF0\x9F\x92\xB0\xF0\x9F\x92\xB0z");
+  box_.select(2, 2);
+  type("\b");
+  EXPECT_EQ(box_.text(), "az");
+  box_.setText("a\xF0\x9F\x92\xB0z");
+  box_.select(0, 2);
+  press(controls::kKeyDelete);
+  EXPECT_EQ(box_.text(), "z");
 }
 
 TEST_P(TextBoxContract, AppendedTextHasTheCaretBehindIt) {
@@ -193,19 +191,6 @@ TEST_P(TextBoxContract, AlignmentChangesWithoutTouchingTheText) {
   EXPECT_EQ(takeLog(), Log{});
 }
 
-class OneLineContract : public ContractTest {};
-
-TEST_F(OneLineContract, LineBreakEndsAPaste) {
-  first_.paste("12\r\n34");
-  EXPECT_EQ(first_.text(), "12");
-}
-
-TEST_F(OneLineContract, PasteHandlerDecidesAboutLineBreaks) {
-  first_.onPaste = [](std::string&) {};
-  first_.paste("12\r\n34");
-  EXPECT_EQ(first_.text(), "12\r\n34");
-}
-
 class TapeContract : public ContractTest {
  protected:
   TapeContract() {
@@ -229,6 +214,30 @@ TEST_F(TapeContract, CountsALineBreakAsTwoCharacters) {
   EXPECT_EQ(tape_.selStart(), 3);
   EXPECT_EQ(tape_.selLength(), 4);
   EXPECT_EQ(tape_.selectedText(), "b\r\nc");
+}
+
+TEST_F(TapeContract, BackspaceAndDeleteTakeALineEndWhole) {
+  for (const int caret : {3, 2}) {
+    tape_.setText("a\r\nb");
+    tape_.setSelStart(caret);
+    type("\b");
+    EXPECT_EQ(tape_.text(), "ab") << "caret at " << caret;
+    EXPECT_EQ(tape_.selStart(), 1);
+  }
+  for (const int caret : {1, 2}) {
+    tape_.setText("a\r\nb");
+    tape_.setSelStart(caret);
+    press(controls::kKeyDelete);
+    EXPECT_EQ(tape_.text(), "ab") << "caret at " << caret;
+    EXPECT_EQ(tape_.selStart(), 1);
+  }
+}
+
+TEST_F(TapeContract, LoneHalfOfALineEndIsACharacterOfItsOwn) {
+  tape_.setText("a\r\n\rb");
+  tape_.setSelStart(4);
+  type("\b");
+  EXPECT_EQ(tape_.text(), "a\r\nb");
 }
 
 TEST_F(TapeContract, HomeAndEndGoToTheEndsOfTheLine) {

@@ -192,6 +192,26 @@ TEST_F(WindowContract, AccessKeyClicksAButtonAndLeadsFromALabelToItsField) {
   EXPECT_TRUE(second_.focused());
 }
 
+TEST_F(WindowContract, F1AsksTheWindowForHelp) {
+  window_->onHelp = [this] { note("help"); };
+  first_.onKeyPress = [this](controls::KeyAscii&) { note("press"); };
+  first_.onKeyUp = [this](controls::KeyCode key) { note("up " + std::to_string(key)); };
+  press(controls::kKeyF1);
+  EXPECT_EQ(takeLog(), (Log{"help", "up 112"}));
+  kind_->press({.key = controls::kKeyF1, .control = true}, 0);
+  kind_->press({.key = controls::kKeyF1, .shift = true}, 0);
+  EXPECT_EQ(takeLog(), (Log{"up 112", "up 112"}));
+}
+
+TEST_F(WindowContract, ShiftInsertOnAButtonPastesNothing) {
+  kind_->desktop().setClipboardText("23");
+  button_.setFocus();
+  kind_->settle();
+  kind_->press({.key = controls::kKeyInsert, .shift = true}, 0);
+  EXPECT_EQ(first_.text(), "");
+  EXPECT_TRUE(button_.focused());
+}
+
 TEST_F(WindowContract, WindowWithoutMenuLeavesTheClipboardKeysToTheBox) {
   const auto plain = kind_->desktop().createWindow(plainLayout());
   plain->show();
@@ -200,7 +220,7 @@ TEST_F(WindowContract, WindowWithoutMenuLeavesTheClipboardKeysToTheBox) {
   box.setText("1234");
   box.select(0, 2);
   pressControl('C');
-  EXPECT_EQ(kind_->desktop().clipboardText(), "12");
+  EXPECT_EQ(kind_->desktop().clipboardText().text, "12");
   pressControl('X');
   EXPECT_EQ(box.text(), "34");
   pressControl('Z');

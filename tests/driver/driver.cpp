@@ -22,6 +22,9 @@ const Driver::Entry Driver::kCommands[] = {
     {"focus", &Driver::focus},
     {"select", &Driver::select},
     {"mousepaste", &Driver::mousePaste},
+    {"mousecut", &Driver::mouseCut},
+    {"mousedelete", &Driver::mouseDelete},
+    {"mouseundo", &Driver::mouseUndo},
     {"menu", &Driver::choose},
     {"resize", &Driver::resize},
     {"move", &Driver::move},
@@ -187,11 +190,25 @@ void Driver::select(Command& command) {
   stage_.select(box, start, length);
 }
 
+// What was on the clipboard before is there again afterwards.
 void Driver::mousePaste(Command& command) {
   const std::string text = command.text();
   command.end();
   auto& box = dynamic_cast<controls::TextBox&>(usableControl("txtEntry"));
-  stage_.mousePaste(box, text);
+  const auto before = stage_.clipboardText();
+  stage_.setClipboard(text);
+  try {
+    stage_.useBoxMenu(box, controls::BoxCommand::Paste);
+  } catch (const CommandError&) {
+    stage_.setClipboard(before);
+    throw;
+  }
+  stage_.setClipboard(before);
+}
+
+void Driver::useEntryMenu(controls::BoxCommand chosen, Command& command) {
+  command.end();
+  stage_.useBoxMenu(dynamic_cast<controls::TextBox&>(usableControl("txtEntry")), chosen);
 }
 
 void Driver::choose(Command& command) {

@@ -40,6 +40,9 @@ class Driver {
   void focus(Command& command);
   void select(Command& command);
   void mousePaste(Command& command);
+  void mouseCut(Command& command) { useEntryMenu(controls::BoxCommand::Cut, command); }
+  void mouseDelete(Command& command) { useEntryMenu(controls::BoxCommand::Delete, command); }
+  void mouseUndo(Command& command) { useEntryMenu(controls::BoxCommand::Undo, command); }
   void choose(Command& command);
   void resize(Command& command);
   void move(Command& command);
@@ -63,6 +66,7 @@ class Driver {
 
   void arrange(const std::string& name, Command& command);
   void setState(Command& command, controls::WindowState state);
+  void useEntryMenu(controls::BoxCommand chosen, Command& command);
 
   controls::Window& window(const std::string& name);
   /// One that the user can reach: no dialog stands in front of it.

@@ -46,11 +46,10 @@ void InMemoryStage::select(controls::TextBox& box, int start, int length) {
   box.select(start, length);
 }
 
-void InMemoryStage::mousePaste(controls::TextBox& box, const std::string& text) {
+void InMemoryStage::useBoxMenu(controls::TextBox& box, controls::BoxCommand command) {
   moveTo(box);
   box.mouseDown();
-  box.paste(text);
-  box.mouseUp();
+  box.closeMenu(command);
 }
 
 void InMemoryStage::choose(controls::MenuItem& item) {

@@ -24,7 +24,7 @@ class InMemoryStage : public Stage {
   void doubleClick(controls::Control& control) override;
   void focus(controls::Control& control) override;
   void select(controls::TextBox& box, int start, int length) override;
-  void mousePaste(controls::TextBox& box, const std::string& text) override;
+  void useBoxMenu(controls::TextBox& box, controls::BoxCommand command) override;
   void choose(controls::MenuItem& item) override;
   void resize(controls::Window& window, controls::Twips width, controls::Twips height) override;
   void move(controls::Window& window, controls::Twips left, controls::Twips top) override;

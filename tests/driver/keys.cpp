@@ -52,7 +52,9 @@ constexpr std::array kNamedKeys = {
     NamedKey{"Shift+Left", {{.key = controls::kKeyLeft, .shift = true}}},
     NamedKey{"Shift+Right", {{.key = controls::kKeyRight, .shift = true}}},
     NamedKey{"Shift+Home", {{.key = controls::kKeyHome, .shift = true}}},
-    NamedKey{"Shift+End", {{.key = controls::kKeyEnd, .shift = true}}}};
+    NamedKey{"Shift+End", {{.key = controls::kKeyEnd, .shift = true}}},
+    NamedKey{"Shift+Insert", {{.key = controls::kKeyInsert, .shift = true}}},
+    NamedKey{"F1", {{.key = controls::kKeyF1}}}};
 
 bool isLetter(char c) {
   return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');

@@ -9,7 +9,8 @@ namespace driver {
 namespace {
 
 bool isExtended(WORD key) {
-  return controls::isNavigationKey(key) || key == VK_DELETE || key == VK_NUMLOCK;
+  return controls::isNavigationKey(key) || key == VK_DELETE || key == VK_INSERT ||
+         key == VK_NUMLOCK;
 }
 
 INPUT keyInput(WORD key, bool up) {

@@ -25,6 +25,19 @@ HWND findOpenMenu() {
   return menu;
 }
 
+std::wstring_view captionOf(controls::BoxCommand command) {
+  switch (command) {
+    case controls::BoxCommand::Undo:
+      return L"&Undo";
+    case controls::BoxCommand::Cut:
+      return L"Cu&t";
+    case controls::BoxCommand::Delete:
+      return L"&Delete";
+    default:
+      return L"&Paste";
+  }
+}
+
 POINT middleOf(const RECT& rect) {
   return {(rect.left + rect.right) / 2, (rect.top + rect.bottom) / 2};
 }
@@ -79,17 +92,21 @@ HWND mouseCapture(HWND window) {
   return (info.flags & GUI_INMENUMODE) != 0 ? info.hwndMenuOwner : info.hwndCapture;
 }
 
-bool placeOfPaste(POINT& place) {
+BoxMenuItem findInBoxMenu(controls::BoxCommand command) {
+  const std::wstring_view caption = captionOf(command);
+  BoxMenuItem found;
   HWND window = findOpenMenu();
-  if (!window) return false;
+  if (!window) return found;
   HMENU menu = menuIn(window);
   for (int i = 0; i < GetMenuItemCount(menu); ++i) {
     wchar_t text[16] = L"";
     GetMenuStringW(menu, static_cast<UINT>(i), text, static_cast<int>(std::size(text)),
                    MF_BYPOSITION);
-    if (std::wstring_view(text) == L"&Paste") return placeInMenu({menu, i}, place);
+    if (std::wstring_view(text) != caption) continue;
+    found.grey = (GetMenuState(menu, static_cast<UINT>(i), MF_BYPOSITION) & MF_GRAYED) != 0;
+    found.seen = placeInMenu({menu, i}, found.place);
   }
-  return false;
+  return found;
 }
 
 }  // namespace driver

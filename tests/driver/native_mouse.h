@@ -4,6 +4,7 @@
 
 #include <vector>
 
+#include "controls/text_box.h"
 #include "driver/native_handles.h"
 
 namespace driver {
@@ -29,8 +30,13 @@ bool placeInMenu(const MenuPlace& item, POINT& place);
 /// The window that gets all that the mouse does, on the thread of `window`: one that is pressed, or
 /// that has a menu open. Nothing without one.
 HWND mouseCapture(HWND window);
-/// The item of the open shortcut menu of a text box that pastes. False when there is none that can
-/// be chosen.
-bool placeOfPaste(POINT& place);
+
+/// An item of the menu of a text box, where it is open: whether it is grey, and where it is seen.
+struct BoxMenuItem {
+  bool grey = false;
+  bool seen = false;
+  POINT place = {};
+};
+BoxMenuItem findInBoxMenu(controls::BoxCommand command);
 
 }  // namespace driver

@@ -41,7 +41,7 @@ class NativeStage : public Stage {
   void doubleClick(controls::Control& control) override;
   void focus(controls::Control& control) override;
   void select(controls::TextBox& box, int start, int length) override;
-  void mousePaste(controls::TextBox& box, const std::string& text) override;
+  void useBoxMenu(controls::TextBox& box, controls::BoxCommand command) override;
   void choose(controls::MenuItem& item) override;
   void resize(controls::Window& window, controls::Twips width, controls::Twips height) override;
   void move(controls::Window& window, controls::Twips left, controls::Twips top) override;
@@ -72,7 +72,6 @@ class NativeStage : public Stage {
   void putProgramInFront();
   void clickWithMouse(controls::Control& control, int times);
   void clickThrough(const std::vector<MenuPlace>& way, POINT place);
-  bool pasteByMouse(HWND box);
   bool clickAt(POINT place, MouseButton button);
   void clickSurely(POINT place);
   bool moveButton(MouseButton button, bool up, POINT place, HWND seen, HWND pressed);

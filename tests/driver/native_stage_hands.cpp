@@ -125,25 +125,20 @@ void NativeStage::select(controls::TextBox& box, int start, int length) {
   act([&] { box.select(start, length); });
 }
 
-void NativeStage::mousePaste(controls::TextBox& box, const std::string& text) {
+// Its menu may be opened again when it has closed before anything was chosen. One that offers only
+// a grey command is given up.
+void NativeStage::useBoxMenu(controls::TextBox& box, controls::BoxCommand command) {
   putInFront(box.window());
-  const auto before = clipboardText();
-  setClipboard(text);
   HWND handle = handleOf(box);
-  const bool pasted = pasteByMouse(handle);
-  setClipboard(before);
-  if (!pasted) throw CommandError("the mouse cannot paste there");
-}
-
-// Its shortcut menu may be opened again when it has closed before anything was chosen.
-bool NativeStage::pasteByMouse(HWND box) {
   for (int i = 0; i < kTriesOfMenu; ++i) {
     POINT place = {};
-    if (!placeToClick(box, place) || !clickAt(place, MouseButton::Right)) continue;
-    if (placeOfPaste(place) && clickAt(place, MouseButton::Left) && !mouseCapture(box)) return true;
+    if (!placeToClick(handle, place) || !clickAt(place, MouseButton::Right)) continue;
+    const BoxMenuItem item = findInBoxMenu(command);
+    if (item.grey) return cancelMouse();
+    if (item.seen && clickAt(item.place, MouseButton::Left) && !mouseCapture(handle)) return;
     cancelMouse();
   }
-  return false;
+  throw CommandError("the menu of the box does not stay open");
 }
 
 // A menu whose bar the mouse cannot reach sends the command that it would have sent.

@@ -31,7 +31,8 @@ class Stage {
   virtual void doubleClick(controls::Control& control) = 0;
   virtual void focus(controls::Control& control) = 0;
   virtual void select(controls::TextBox& box, int start, int length) = 0;
-  virtual void mousePaste(controls::TextBox& box, const std::string& text) = 0;
+  /// A right click on the box, and a command of the menu that opens. A grey one does nothing.
+  virtual void useBoxMenu(controls::TextBox& box, controls::BoxCommand command) = 0;
   virtual void choose(controls::MenuItem& item) = 0;
   virtual void resize(controls::Window& window, controls::Twips width, controls::Twips height) = 0;
   virtual void move(controls::Window& window, controls::Twips left, controls::Twips top) = 0;

@@ -60,29 +60,43 @@ INSTANTIATE_TEST_SUITE_P(
                          "\rPlease close this window and reload this form."}),
     [](const auto& each) { return std::string(each.param.whatAUserSees); });
 
-// What the mouse makes of an entry between its down and its up.
-std::size_t boxesAfterMouseMakes(const char* before, const char* after) {
+// How many messages it takes when the mouse has left `text` in the entry.
+std::size_t boxesAfterMouse(controls::MouseEdit edit, const char* text) {
   inmemory::Desktop desktop;
   const auto window = desktop.createWindow(shell::frmCalcLayout());
   Engine engine(controlsOf(desktop, *window));
-  controls::TextBox& entry = window->textBox("txtEntry");
-  entry.setText(before);
-  engine.txtEntry_MouseDown();
-  entry.setText(after);
-  engine.txtEntry_MouseUp();
+  window->textBox("txtEntry").setText(text);
+  engine.txtEntry_MouseUp(edit);
   return desktop.boxes.size();
 }
 
+TEST(EntryPaste, ClipboardThatIsHeldIsABeep) {
+  inmemory::Desktop desktop;
+  const auto window = desktop.createWindow(shell::frmCalcLayout());
+  controls::TextBox& entry = window->textBox("txtEntry");
+  entry.setText("12");
+  desktop.clipboard = "7";
+  desktop.clipboardHeld = true;
+  entry.paste();
+  entry.closeMenu(controls::BoxCommand::Paste);
+  EXPECT_EQ(entry.text(), "12");
+  EXPECT_EQ(desktop.beeps, 2);
+}
+
 TEST(EntryMouse, PastedWordIsReported) {
-  EXPECT_EQ(boxesAfterMouseMakes("12", "12abc"), 1U);
+  EXPECT_EQ(boxesAfterMouse(controls::MouseEdit::Pasted, "12abc"), 1U);
+}
+
+TEST(EntryMouse, EntryEmptiedByAPasteOfNothingIsNotReported) {
+  EXPECT_EQ(boxesAfterMouse(controls::MouseEdit::Pasted, ""), 0U);
 }
 
 TEST(EntryMouse, EntryCutAwayIsNoPaste) {
-  EXPECT_EQ(boxesAfterMouseMakes("12", ""), 0U);
+  EXPECT_EQ(boxesAfterMouse(controls::MouseEdit::Edited, ""), 0U);
 }
 
 TEST(EntryMouse, ClickIntoAnUnfinishedEntryIsNoPaste) {
-  EXPECT_EQ(boxesAfterMouseMakes("-", "-"), 0U);
+  EXPECT_EQ(boxesAfterMouse(controls::MouseEdit::None, "-"), 0U);
 }
 
 }  // namespace

@@ -1,0 +1,128 @@
+#include "contract/text_box_contract.h"
+
+// Every way to cut, copy, paste and undo.
+namespace contract {
+
+TEST_P(TextBoxContract, PastedTextReplacesTheSelection) {
+  box_.setText("1995");
+  box_.select(1, 2);
+  takeLog();
+  paste(box_, "23");
+  EXPECT_EQ(box_.text(), "1235");
+  EXPECT_EQ(box_.selStart(), 3);
+  EXPECT_EQ(takeLog(), Log{"user"});
+}
+
+TEST_P(TextBoxContract, PasteHandlerMayChangeOrDiscardTheText) {
+  box_.onPaste = [](std::string& text) { text = text == "drop" ? "" : "<" + text + ">"; };
+  paste(box_, "a");
+  paste(box_, "drop");
+  EXPECT_EQ(box_.text(), "<a>");
+}
+
+TEST_P(TextBoxContract, PasteCommandGoesToItsHandler) {
+  box_.onPasteCommand = [this](const std::optional<std::string>& text) {
+    note(text.value_or("-"));
+  };
+  box_.setText("1995");
+  takeLog();
+  paste(box_, "a\r\nb");
+  EXPECT_EQ(box_.text(), "1995");
+  EXPECT_EQ(takeLog(), Log{"a\r\nb"});
+}
+
+TEST_P(TextBoxContract, ShiftInsertPastesBeforeTheBoxSeesTheKey) {
+  box_.onKeyPress = [this](controls::KeyAscii&) { note("press"); };
+  box_.onKeyUp = [this](controls::KeyCode key) { note("up " + std::to_string(key)); };
+  kind_->desktop().setClipboardText("23");
+  kind_->press({.key = controls::kKeyInsert, .shift = true}, 0);
+  EXPECT_EQ(box_.text(), "23");
+  EXPECT_EQ(takeLog(), (Log{"user", "up 45"}));
+}
+
+TEST_P(TextBoxContract, ShiftDeleteCutsAndCtrlInsertCopies) {
+  box_.setText("12345");
+  box_.select(1, 2);
+  kind_->press({.key = controls::kKeyInsert, .control = true}, 0);
+  EXPECT_EQ(kind_->desktop().clipboardText().text, "23");
+  EXPECT_EQ(box_.text(), "12345");
+  box_.select(3, 2);
+  kind_->press({.key = controls::kKeyDelete, .shift = true}, 0);
+  EXPECT_EQ(kind_->desktop().clipboardText().text, "45");
+  EXPECT_EQ(box_.text(), "123");
+  box_.setSelStart(1);
+  kind_->press({.key = controls::kKeyDelete, .shift = true}, 0);
+  kind_->press({.key = controls::kKeyDelete, .control = true}, 0);
+  press(controls::kKeyInsert);
+  EXPECT_EQ(box_.text(), "123");
+  EXPECT_EQ(kind_->desktop().clipboardText().text, "45");
+}
+
+TEST_P(TextBoxContract, ClipboardThatIsHeldChangesNothing) {
+  kind_->desktop().setClipboardText("77");
+  box_.setText("12345");
+  box_.select(1, 2);
+  box_.onPasteCommand = [this](const std::optional<std::string>&) { note("pasted"); };
+  takeLog();
+  kind_->whileClipboardIsHeld([this] {
+    box_.paste();
+    box_.closeMenu(controls::BoxCommand::Paste);
+    EXPECT_FALSE(box_.cut());
+    box_.copy();
+  });
+  EXPECT_EQ(box_.text(), "12345");
+  EXPECT_EQ(takeLog(), Log{});
+  EXPECT_EQ(kind_->desktop().clipboardText().text, "77");
+}
+
+TEST_P(TextBoxContract, MenuOfTheBoxTellsAPasteFromAnotherEdit) {
+  using controls::BoxCommand;
+  box_.onMouseUp = [this](controls::MouseEdit edit) {
+    note(edit == controls::MouseEdit::Pasted   ? "pasted"
+         : edit == controls::MouseEdit::Edited ? "edited"
+                                               : "none");
+  };
+  box_.setText("12345");
+  box_.select(0, 2);
+  takeLog();
+  box_.closeMenu(BoxCommand::Cut);
+  box_.closeMenu(BoxCommand::Paste);
+  box_.closeMenu(BoxCommand::Undo);
+  EXPECT_EQ(box_.text(), "345");
+  EXPECT_EQ(takeLog(), (Log{"user", "edited", "user", "pasted", "user", "edited"}));
+  box_.closeMenu(BoxCommand::Delete);
+  box_.closeMenu(BoxCommand::None);
+  box_.closeMenu(BoxCommand::SelectAll);
+  box_.closeMenu(BoxCommand::Copy);
+  EXPECT_EQ(takeLog(), (Log{"none", "none", "none", "none"}));
+  EXPECT_EQ(kind_->desktop().clipboardText().text, "345");
+  box_.closeMenu(BoxCommand::Delete);
+  EXPECT_EQ(box_.text(), "");
+  EXPECT_EQ(takeLog(), (Log{"user", "edited"}));
+}
+
+TEST_P(TextBoxContract, MousePastesAtTheCaretAlsoWhereCommandsDoNot) {
+  box_.onPasteCommand = [this](const std::optional<std::string>&) { note("command"); };
+  kind_->desktop().setClipboardText("9");
+  box_.setText("12");
+  box_.setSelStart(1);
+  takeLog();
+  box_.closeMenu(controls::BoxCommand::Paste);
+  EXPECT_EQ(box_.text(), "192");
+  EXPECT_EQ(takeLog(), Log{"user"});
+}
+
+class OneLineContract : public ContractTest {};
+
+TEST_F(OneLineContract, LineBreakEndsAPaste) {
+  paste(first_, "12\r\n34");
+  EXPECT_EQ(first_.text(), "12");
+}
+
+TEST_F(OneLineContract, PasteHandlerDecidesAboutLineBreaks) {
+  first_.onPaste = [](std::string&) {};
+  paste(first_, "12\r\n34");
+  EXPECT_EQ(first_.text(), "12\r\n34");
+}
+
+}  // namespace contract

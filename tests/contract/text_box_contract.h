@@ -1,0 +1,23 @@
+#pragma once
+
+#include <string>
+
+#include "contract/contract_test.h"
+
+namespace contract {
+
+/// A box of the window that has the focus: one of a single line, and the tape.
+class TextBoxContract : public ContractTest, public testing::WithParamInterface<const char*> {
+ protected:
+  TextBoxContract() : box_(window_->textBox(GetParam())) {
+    box_.setFocus();
+    kind_->settle();
+    box_.onChange = [this](controls::ChangedBy by) {
+      note(by == controls::ChangedBy::User ? "user" : "program");
+    };
+  }
+
+  controls::TextBox& box_;
+};
+
+}  // namespace contract
