@@ -1,24 +1,35 @@
-; closeRunningProgram and un.closeRunningProgram: return when nothing holds $INSTDIR\${NAME}.exe any more.
-; With a user there it is asked first; a program that does not close ends the installer with exit code 2.
+; waitForProgram and un.waitForProgram: return when $programFile is not running any more.
+; With a user there, the installer asks and closes the program. With /S it waits until the user has closed the
+; program, since nobody was asked about the tape; /CLOSE closes it at once. Exit code 4 where it stays open.
 
 !include WinMessages.nsh
 !define QUERY_LIMITED_INFORMATION 0x1000
-; Tries of a quarter of a second each.
-!define MOST_TRIES 40
+!define GENERIC_WRITE 0x40000000
+!define SHARE_ALL 7
+!define OPEN_EXISTING 3
+!define SHARING_VIOLATION 32
+!define TRIES_A_SECOND 4
+!define SECONDS_TO_CLOSE 10
+!define EXIT_STOPPED 1
+!define EXIT_STILL_OPEN 4
 
-!macro DEFINE_CLOSE_RUNNING_PROGRAM UN
+Var programFile
+Var waitSeconds
+Var closeProgram
+
+!macro DEFINE_WAIT_FOR_PROGRAM UN
 
 ; $0 = 1 while the program runs: Windows lets nobody write into a program that does.
 Function ${UN}isProgramRunning
-  StrCpy $0 0
-  ${If} ${FileExists} "$INSTDIR\${NAME}.exe"
-    ClearErrors
-    FileOpen $1 "$INSTDIR\${NAME}.exe" a
-    ${If} ${Errors}
-      StrCpy $0 1
-    ${Else}
-      FileClose $1
-    ${EndIf}
+  System::Call 'kernel32::CreateFileW(w "$programFile", i ${GENERIC_WRITE}, i ${SHARE_ALL}, p 0, i ${OPEN_EXISTING}, i 0, p 0) p .r1 ?e'
+  Pop $0
+  ${If} $1 P<> -1
+    System::Call 'kernel32::CloseHandle(p r1)'
+    StrCpy $0 0
+  ${ElseIf} $0 = ${SHARING_VIOLATION}
+    StrCpy $0 1
+  ${Else}
+    StrCpy $0 0
   ${EndIf}
 FunctionEnd
 
@@ -33,7 +44,7 @@ Function ${UN}findProgramOfWindow
   ${EndIf}
 FunctionEnd
 
-; A window that is disabled waits for a box of its own, which is closed first.
+; A disabled window waits for a dialog of its own, which is closed first.
 Function ${UN}askWindowsToClose
   StrCpy $1 0
   ${Do}
@@ -46,39 +57,60 @@ Function ${UN}askWindowsToClose
     ${If} $6 <> 0
     ${AndIf} $7 <> 0
       Call ${UN}findProgramOfWindow
-      ${If} $2 == "$INSTDIR\${NAME}.exe"
+      ${If} $2 == $programFile
         System::Call 'user32::PostMessageW(p r1, i ${WM_CLOSE}, p 0, p 0)'
       ${EndIf}
     ${EndIf}
   ${Loop}
 FunctionEnd
 
-Function ${UN}closeRunningProgram
+; Waits for as many seconds as $waitSeconds says; $0 = 0 when the program has ended.
+Function ${UN}waitUntilClosed
+  IntOp $8 $waitSeconds * ${TRIES_A_SECOND}
+  ${Do}
+    ${If} $closeProgram = 1
+      Call ${UN}askWindowsToClose
+    ${EndIf}
+    Call ${UN}isProgramRunning
+    ${If} $0 = 0
+    ${OrIf} $8 <= 0
+      ${Break}
+    ${EndIf}
+    IntOp $8 $8 - 1
+    Sleep 250
+  ${Loop}
+FunctionEnd
+
+Function ${UN}waitForProgram
   Call ${UN}isProgramRunning
   ${If} $0 = 0
     Return
   ${EndIf}
-  MessageBox MB_OKCANCEL|MB_ICONEXCLAMATION "${NAME} is open, with what is on its tape. Close it and go on?" \
-    /SD IDOK IDOK close
-  SetErrorLevel 1
-  Quit
-close:
-  DetailPrint "Closing ${NAME}"
-  ${For} $8 1 ${MOST_TRIES}
-    Call ${UN}askWindowsToClose
-    Sleep 250
-    Call ${UN}isProgramRunning
-    ${If} $0 = 0
-      Return
+  ${IfNot} ${Silent}
+    ${Log} "Asking whether to close $programFile"
+    ${If} ${Cmd} `MessageBox MB_OKCANCEL|MB_ICONEXCLAMATION "${NAME} is open, with what is on its tape. Close it and go on?" IDCANCEL`
+      ${Log} "Stopped by the user: exit code ${EXIT_STOPPED}"
+      SetErrorLevel ${EXIT_STOPPED}
+      Quit
     ${EndIf}
-  ${Next}
+    StrCpy $closeProgram 1
+    StrCpy $waitSeconds ${SECONDS_TO_CLOSE}
+  ${EndIf}
+retry:
+  ${Log} "Waiting up to $waitSeconds seconds for $programFile to close"
+  Call ${UN}waitUntilClosed
+  ${If} $0 = 0
+    ${Log} "It is closed"
+    Return
+  ${EndIf}
   MessageBox MB_RETRYCANCEL|MB_ICONEXCLAMATION "${NAME} does not close. Close it yourself, then try again." \
-    /SD IDCANCEL IDRETRY close
-  SetErrorLevel 2
+    /SD IDCANCEL IDRETRY retry
+  ${Log} "It is still open: exit code ${EXIT_STILL_OPEN}"
+  SetErrorLevel ${EXIT_STILL_OPEN}
   Quit
 FunctionEnd
 
 !macroend
 
-!insertmacro DEFINE_CLOSE_RUNNING_PROGRAM ""
-!insertmacro DEFINE_CLOSE_RUNNING_PROGRAM "un."
+!insertmacro DEFINE_WAIT_FOR_PROGRAM ""
+!insertmacro DEFINE_WAIT_FOR_PROGRAM "un."

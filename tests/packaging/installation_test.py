@@ -1,65 +1,16 @@
 """A user installs the program, uses it, installs the next version over it, and removes it."""
 import os
-import pathlib
-import signal
 import unittest
 
 import packages
 import wine_account as account
+from installation import (Installation, MAIN_WINDOW, OLDER_SETUP, SETTINGS_KEY, STOPPED, UNINSTALL_KEY)
 
 READ_TAPE = os.environ.get("TALLYREX_READ_TAPE")
-OLDER_SETUP = pathlib.Path(os.environ["TALLYREX_OLDER_SETUP"])
-UNINSTALL_KEY = r"HKCU\Software\Microsoft\Windows\CurrentVersion\Uninstall\Tallyrex"
-SETTINGS_KEY = r"HKCU\Software\Tallyrex\Tallyrex\Settings"
-MAIN_WINDOW = "Tallyrex$"
-STOPPED, NOT_DONE = 1, 2
 
 
-class Installation(unittest.TestCase):
-    @classmethod
-    def setUpClass(cls):
-        cls.place = account.folder("LOCALAPPDATA") / "Programs" / "Tallyrex"
-        cls.elsewhere = account.host_path(r"C:\Tallyrex-elsewhere")
-        start_menu = account.folder("APPDATA") / "Microsoft" / "Windows" / "Start Menu"
-        cls.shortcut = start_menu / "Programs" / "Tallyrex.lnk"
-
-    def setUp(self):
-        self.before = account.traces()
-        self.addCleanup(self.clear_up)
-
-    def clear_up(self):
-        for place in (self.place, self.elsewhere):
-            if (place / "uninstall.exe").exists():
-                self.remove("/SETTINGS", place=place)
-        account.run("reg", "delete", r"HKCU\Software\Tallyrex\Tallyrex", "/f")
-
-    def install(self, *switches, setup=packages.SETUP):
-        self.assertEqual(account.run(setup, "/S", *switches), 0)
-
-    def remove(self, *switches, place=None):
-        place = place or self.place
-        self.assertEqual(account.run(place / "uninstall.exe", "/S", *switches), 0)
-        # The uninstaller goes on as a copy of itself, which removes it.
-        account.wait_until("the removal", lambda: not (place / "uninstall.exe").exists())
-        account.wait_until("the end of the removal", lambda: not account.registry(UNINSTALL_KEY))
-
-    def start_program(self):
-        program = account.start(self.place / "Tallyrex.exe")
-        self.addCleanup(self.stop, program)
-        account.wait_for_window(MAIN_WINDOW)
-        return program
-
-    @staticmethod
-    def stop(program):
-        if program.poll() is None:
-            program.kill()
-        program.wait()
-
-    def assert_removed(self, but=()):
-        left = sorted(account.traces() - self.before)
-        self.assertEqual([trace for trace in left if not trace.startswith(tuple(but))], [])
-
-    def test_brings_what_the_portable_archive_brings(self):
+class UsersInstallation(Installation):
+    def test_installs_the_files_of_the_portable_archive(self):
         self.install()
         for name, contents in packages.archived().items():
             self.assertEqual((self.place / name).read_bytes(), contents, name)
@@ -67,14 +18,14 @@ class Installation(unittest.TestCase):
                  for path in self.place.rglob("*") if path.is_file()}
         self.assertEqual(files, set(packages.archived()) | {"uninstall.exe"})
 
-    def test_stands_in_the_list_of_programs(self):
+    def test_appears_in_the_list_of_installed_apps(self):
         self.install()
         entry = account.registry(UNINSTALL_KEY)
         place = account.windows_path(self.place)
         kilobytes = int(entry.pop("EstimatedSize"), 16)
         self.assertEqual(entry, {
             "DisplayName": "Tallyrex", "DisplayVersion": packages.VERSION,
-            "Publisher": "The Tallyrex developers",
+            "Publisher": "The Tallyrex authors",
             "DisplayIcon": place + r"\Tallyrex.exe,0", "InstallLocation": place,
             "UninstallString": '"%s\\uninstall.exe"' % place,
             "QuietUninstallString": '"%s\\uninstall.exe" /S' % place,
@@ -99,60 +50,19 @@ class Installation(unittest.TestCase):
         tape = account.output(READ_TAPE)
         return tape if "*" in tape else None
 
-    def test_replaces_an_older_version_and_closes_the_program_first(self):
-        self.install(setup=OLDER_SETUP)
-        self.assertEqual(account.registry(UNINSTALL_KEY)["DisplayVersion"], packages.OLDER_VERSION)
-        readme = self.place / "readme.txt"
-        readme.write_text("of an older version", encoding="ascii")
-        program = self.start_program()
-        self.install()
-        program.wait(timeout=10)
-        self.assertEqual(account.registry(UNINSTALL_KEY)["DisplayVersion"], packages.VERSION)
-        self.assertEqual(readme.read_bytes(), packages.archived()["readme.txt"])
-        self.assertTrue(account.registry(SETTINGS_KEY), "closing it has not saved the settings")
-
-    def test_gives_up_where_the_program_does_not_close(self):
-        self.install(setup=OLDER_SETUP)
-        readme = self.place / "readme.txt"
-        readme.write_text("of an older version", encoding="ascii")
-        program = self.start_program()
-        program.send_signal(signal.SIGSTOP)
-        try:
-            self.assertEqual(account.run(packages.SETUP, "/S"), NOT_DONE)
-        finally:
-            program.send_signal(signal.SIGCONT)
-        self.assertEqual(readme.read_text(encoding="ascii"), "of an older version")
-        self.assertEqual(account.registry(UNINSTALL_KEY)["DisplayVersion"], packages.OLDER_VERSION)
-
-    def test_moves_when_another_folder_is_chosen(self):
-        self.install(setup=OLDER_SETUP)
-        self.install("/D=" + account.windows_path(self.elsewhere))
-        self.assertFalse(self.place.exists())
-        self.assertTrue((self.elsewhere / "Tallyrex.exe").exists())
-        self.remove(place=self.elsewhere)
-        self.assert_removed()
-
-    def test_leaves_nothing_when_it_goes(self):
+    def test_removal_leaves_nothing(self):
         self.install()
         self.remove()
         self.assert_removed()
 
-    def test_closes_the_program_and_keeps_the_settings_when_it_goes(self):
-        self.install()
-        program = self.start_program()
-        self.remove()
-        program.wait(timeout=10)
-        self.assertTrue(account.registry(SETTINGS_KEY))
-        self.assert_removed(but=[r"[HKEY_CURRENT_USER\Software\Tallyrex"])
-
-    def test_takes_the_settings_along_when_told_to(self):
+    def test_removes_the_settings_too_when_told_to(self):
         self.install()
         self.start_program()
-        self.remove("/SETTINGS")
+        self.remove("/SETTINGS", "/CLOSE")
         self.assert_removed()
         self.assertIsNone(account.registry(r"HKCU\Software\Tallyrex"))
 
-    def test_leaves_the_settings_of_a_copy_under_another_name(self):
+    def test_removal_keeps_the_settings_of_a_copy_under_another_name(self):
         self.install()
         other = r"HKCU\Software\Tallyrex\Office"
         account.run("reg", "add", other, "/v", "frmCalcLeft", "/d", "500", "/f")
@@ -160,7 +70,7 @@ class Installation(unittest.TestCase):
         self.remove("/SETTINGS")
         self.assertEqual(account.registry(other), {"frmCalcLeft": "500"})
 
-    def test_asks_whether_the_settings_are_to_go_too(self):
+    def test_removal_asks_whether_to_remove_the_settings_too(self):
         for answer, kept in ([], True), (["alt+r"], False):
             with self.subTest(kept=kept):
                 self.install()
@@ -178,7 +88,7 @@ class Installation(unittest.TestCase):
         account.wait_until("the last page", lambda: window not in account.windows("Uninstall"))
         self.assertFalse(self.place.exists())
 
-    def test_asks_before_it_closes_the_program(self):
+    def test_asks_before_closing_the_program(self):
         self.install()
         program = self.start_program()
         setup = account.start(packages.SETUP)
@@ -190,7 +100,7 @@ class Installation(unittest.TestCase):
         self.assertEqual(setup.wait(timeout=20), STOPPED)
         self.assertIsNone(program.poll(), "the program was closed")
 
-    def test_leaves_what_a_user_has_put_beside_it(self):
+    def test_removal_keeps_the_user_s_own_files(self):
         self.install()
         own = self.place / "help" / "notes.txt"
         own.write_text("mine", encoding="ascii")

@@ -1,4 +1,4 @@
-"""What the packages hold, and what is read from the programs themselves."""
+"""What the packages contain, and what the headers and resources of the programs say."""
 import re
 import unittest
 import xml.etree.ElementTree
@@ -27,16 +27,27 @@ def local_names(manifest):
 
 
 class PortableArchive(unittest.TestCase):
-    def test_holds_the_program_its_help_and_a_page_to_read(self):
+    def test_contains_the_program_its_help_the_licenses_and_a_readme(self):
         self.assertEqual(set(packages.archived()), {
-            "Tallyrex.exe", "readme.txt", "help/Tallyrex.hlp", "help/Tallyrex.html",
-            "help/Tallyrex-23.html"})
+            "Tallyrex.exe", "readme.txt", "LICENSE.txt", "THIRD-PARTY-NOTICES.txt",
+            "help/Tallyrex.hlp", "help/Tallyrex.html", "help/Tallyrex-23.html"})
 
-    def test_is_whole(self):
+    def test_unpacks_into_one_folder_named_after_the_version(self):
+        with zipfile.ZipFile(packages.ARCHIVE) as archive:
+            self.assertEqual({name.partition("/")[0] for name in archive.namelist()},
+                             {"Tallyrex-" + packages.VERSION})
+
+    def test_is_intact(self):
         with zipfile.ZipFile(packages.ARCHIVE) as archive:
             self.assertIsNone(archive.testzip())
 
-    def test_the_page_is_one_page_with_the_line_ends_of_windows(self):
+    def test_the_license_and_the_notices_are_those_of_the_sources(self):
+        for name in "LICENSE", "THIRD-PARTY-NOTICES":
+            source = (packages.MAKE_PACKAGES.parents[1] / name).read_text(encoding="ascii")
+            packed = packages.archived()[name + ".txt"]
+            self.assertEqual(packed.decode("ascii"), source.replace("\n", "\r\n"))
+
+    def test_the_readme_is_one_page_with_windows_line_endings(self):
         page = packages.archived()["readme.txt"]
         lines = page.decode("ascii").split("\r\n")
         self.assertLessEqual(len(lines), 60)
@@ -44,37 +55,33 @@ class PortableArchive(unittest.TestCase):
         self.assertEqual(page.count(b"\r\n"), page.count(b"\n"))
         self.assertEqual(lines[0], "Tallyrex " + packages.VERSION)
 
-    def test_carries_no_dates_of_the_building_machine(self):
-        with zipfile.ZipFile(packages.ARCHIVE) as archive:
-            self.assertEqual({entry.date_time[0] for entry in archive.infolist()}, {1980})
-
 
 class EitherProgram:
-    """What holds for Tallyrex.exe and for the installer."""
+    """What applies to Tallyrex.exe and to the installer."""
 
     program = None
 
-    def test_its_addresses_are_randomised_and_its_data_is_not_executed(self):
+    def test_it_randomizes_addresses_and_does_not_execute_data(self):
         self.assertEqual(self.program.dll_characteristics & NEEDED_FLAGS, NEEDED_FLAGS)
         self.assertEqual(self.program.writable_code(), [])
 
-    def test_a_flag_that_is_off_is_seen(self):
+    def test_a_missing_flag_is_noticed(self):
         for flag in (pe_file.DYNAMIC_BASE, pe_file.HIGH_ENTROPY_VA, pe_file.NX_COMPAT):
             data = bytearray(self.program.data)
             data[self.program.flags_offset() + flag // 0x100] &= ~(flag % 0x100 or flag // 0x100)
             flags = PeFile(bytes(data)).dll_characteristics
             self.assertEqual(flags & NEEDED_FLAGS, NEEDED_FLAGS & ~flag)
 
-    def test_it_asks_for_no_more_rights_than_who_starts_it_has(self):
+    def test_it_runs_with_the_rights_of_the_user_who_starts_it(self):
         levels = [attributes for name, attributes, _ in local_names(self.manifest())
                   if name == "requestedExecutionLevel"]
         self.assertEqual([level["level"] for level in levels], ["asInvoker"])
         self.assertEqual(levels[0]["uiAccess"], "false")
 
-    def test_it_is_made_of_system_libraries_alone(self):
+    def test_it_imports_system_libraries_only(self):
         self.assertEqual(set(self.program.imports()) - SYSTEM_LIBRARIES, set())
 
-    def test_its_icon_has_a_picture_for_every_size(self):
+    def test_its_icon_has_an_image_for_every_size(self):
         self.assertEqual(self.program.icon_sizes(), [16, 24, 32, 48, 64, 256])
 
     def test_its_properties_name_product_and_version(self):
@@ -84,6 +91,11 @@ class EitherProgram:
         self.assertEqual(texts["ProductVersion"], packages.VERSION)
         self.assertEqual(texts["FileVersion"], packages.VERSION)
         self.assertIn("Tallyrex", texts["FileDescription"])
+
+    def test_its_properties_name_publisher_and_copyright(self):
+        texts = self.program.version()[2]
+        self.assertEqual(texts["CompanyName"], "The Tallyrex authors")
+        self.assertIn("The Tallyrex authors", texts["LegalCopyright"])
 
     def manifest(self):
         return self.program.resource(pe_file.MANIFEST)
@@ -98,7 +110,7 @@ class Program(EitherProgram, unittest.TestCase):
     def test_is_small(self):
         self.assertLessEqual(len(self.data), MOST_BYTES_OF_PROGRAM)
 
-    def test_is_a_64_bit_windows_program_that_can_lie_at_any_address(self):
+    def test_is_a_64_bit_windows_program_that_can_be_loaded_at_any_address(self):
         self.assertEqual(self.program.machine, pe_file.AMD64)
         self.assertEqual(self.program.subsystem, pe_file.WINDOWS_GUI)
         self.assertFalse(self.program.characteristics & pe_file.RELOCATIONS_STRIPPED)
@@ -106,21 +118,21 @@ class Program(EitherProgram, unittest.TestCase):
     def test_the_same_sources_link_to_the_same_bytes(self):
         self.assertEqual(self.program.timestamp, 0, "the time of linking is in the file")
 
-    def test_says_nothing_of_the_folder_that_it_was_built_in(self):
+    def test_does_not_reveal_the_folder_that_it_was_built_in(self):
         source = r"[/\\]src[/\\]\w+[/\\]\w+\.(?:cpp|h)\b"
         for text in pe_file.readings(self.data):
             self.assertEqual(re.findall(source, text), [])
 
-    def test_looks_for_libraries_in_the_system_folder_alone(self):
+    def test_loads_libraries_from_the_system_folder_only(self):
         self.assertIn("SetDefaultDllDirectories", self.program.imports()["kernel32.dll"])
 
-    def test_takes_the_current_visual_style(self):
+    def test_uses_the_current_visual_style(self):
         parts = [attributes for name, attributes, _ in local_names(self.manifest())
                  if name == "assemblyIdentity"]
         self.assertIn(("Microsoft.Windows.Common-Controls", "6.0.0.0"),
                       [(part["name"], part["version"]) for part in parts])
 
-    def test_is_drawn_anew_for_the_scaling_of_each_monitor(self):
+    def test_redraws_for_the_scaling_of_each_monitor(self):
         awareness = [text for name, _, text in local_names(self.manifest())
                      if name == "dpiAwareness"]
         self.assertEqual([text.split(",")[0].strip() for text in awareness], ["PerMonitorV2"])

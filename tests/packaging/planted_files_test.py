@@ -1,4 +1,4 @@
-"""Libraries and programs that lie in the current folder are not taken for those of the system."""
+"""Libraries and programs in the current folder are never mistaken for those of the system."""
 import os
 import pathlib
 import re
@@ -64,13 +64,13 @@ class PlantedFiles(unittest.TestCase):
             process.kill()
         process.wait()
 
-    def test_a_careless_program_is_caught_by_them(self):
+    def test_a_careless_program_does_load_them(self):
         self.plant(LIBRARY, ["planted-library.dll"])
         self.plant(PROGRAM, PROGRAMS)
         self.assertEqual(self.start(CARELESS, "planted-library.dll", "notepad.exe").wait(30), 0)
         self.assertEqual(self.marked(), {"planted-library.dll", "notepad.exe"})
 
-    def test_no_library_is_taken_from_the_current_folder(self):
+    def test_no_library_is_loaded_from_the_current_folder(self):
         names = names_in(self.program.read_bytes()) | LOADED_BY_WINDOWS
         self.assertLessEqual(set(PeFile.read(self.program).imports()), names)
         self.plant(LIBRARY, names)
@@ -81,7 +81,7 @@ class PlantedFiles(unittest.TestCase):
         self.assertEqual(process.wait(30), 0)
         self.assertEqual(self.marked(), set())
 
-    def test_no_program_is_taken_from_the_current_folder(self):
+    def test_no_program_is_started_from_the_current_folder(self):
         self.plant(PROGRAM, PROGRAMS)
         for program, title, *steps in (
                 ("notepad.exe", "Notepad$", (MAIN_WINDOW, "alt+f", "s"), ("^Save", "Return"),

@@ -38,7 +38,7 @@ def wait_until(what, condition, seconds=30):
         if result:
             return result
         if time.monotonic() > end:
-            raise TimeoutError("waited %d seconds in vain: %s" % (seconds, what))
+            raise TimeoutError("waited %d seconds for %s" % (seconds, what))
         time.sleep(0.1)
 
 
@@ -53,7 +53,7 @@ def host_path(windows_path):
 
 
 def windows_path(path):
-    """How Windows calls a file: in the account's own drive, or in the machine's."""
+    """The path of a file as Windows sees it: on the account's own drive, or on the machine's."""
     path = pathlib.Path(path).absolute()
     drive_c = PREFIX / "drive_c"
     if drive_c in path.parents:
@@ -96,14 +96,27 @@ def write(text):
 
 def traces():
     """The account's files and registry, without what Windows itself writes as it goes."""
-    export = PREFIX / "drive_c" / "export.reg"
-    run("reg", "export", "HKCU", windows_path(export), "/y")
-    text = export.read_text(encoding="utf-16")
-    export.unlink()
     found = {str(path.relative_to(PREFIX)) for path in (PREFIX / "drive_c").rglob("*")
              if "Temp" not in path.parts}
+    return found | exported("HKCU")
+
+
+def shared_traces():
+    """The files outside the user's own folder, and the registry of the computer."""
+    own = folder("USERPROFILE")
+    found = {str(path.relative_to(PREFIX)) for path in (PREFIX / "drive_c").rglob("*") if own not in path.parents}
+    return found | exported("HKLM")
+
+
+def exported(hive):
+    """A line for each value of a hive of the registry, but for Wine's own."""
+    export = PREFIX / "drive_c" / "export.reg"
+    run("reg", "export", hive, windows_path(export), "/y")
+    text = export.read_text(encoding="utf-16")
+    export.unlink()
+    found = set()
     for block in text.split("\n\n"):
         key, _, values = block.strip().partition("\n")
-        if values and not key.startswith(r"[HKEY_CURRENT_USER\Software\Wine"):
+        if values and r"\Software\Wine" not in key:
             found.update(key + " " + value for value in values.split("\n"))
     return found
