@@ -11,6 +11,16 @@
 
 namespace win32 {
 
+namespace {
+
+// CLSID_AccPropServices and IID_IAccPropServices, which some compilers have in a library only.
+constexpr CLSID kAccPropServices = {
+    0xb5f8350b, 0x0548, 0x48b1, {0xa6, 0xee, 0x88, 0xbd, 0x00, 0xb4, 0xa5, 0xe7}};
+constexpr IID kIAccPropServices = {
+    0x6e26e776, 0x04f0, 0x495d, {0x80, 0xe4, 0x33, 0x30, 0x35, 0x2e, 0x31, 0x69}};
+
+}  // namespace
+
 // Where names cannot be announced, a screen reader takes the label in front of the box, also a
 // hidden one. That goes with the window.
 AccessibleName::AccessibleName(HWND box, std::string_view name) : box_(box), name_(wide(name)) {
@@ -29,7 +39,7 @@ void AccessibleName::announce() {
   if (!initialize || !create || !uninitialize) return;
   initialize(nullptr, COINIT_APARTMENTTHREADED);
   IAccPropServices* names = nullptr;
-  if (SUCCEEDED(create(CLSID_AccPropServices, nullptr, CLSCTX_INPROC_SERVER, IID_IAccPropServices,
+  if (SUCCEEDED(create(kAccPropServices, nullptr, CLSCTX_INPROC_SERVER, kIAccPropServices,
                        reinterpret_cast<void**>(&names)))) {
     names->SetHwndPropStr(box_, static_cast<DWORD>(OBJID_CLIENT), CHILDID_SELF, PROPID_ACC_NAME,
                           name.c_str());
