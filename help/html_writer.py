@@ -46,8 +46,15 @@ def write_redirect(page_name, topic):
     )
 
 
+def write_blocks(topics, topic, page_name):
+    """What `topic` says, for another page; its links lead into the page of the help."""
+    writer = _PageWriter("", topics, page_name)
+    return "".join(writer._block(topic, block) for block in topic.blocks)
+
+
 class _PageWriter:
-    def __init__(self, title, topics):
+    def __init__(self, title, topics, page_name=""):
+        self._page_name = page_name
         self._title = title
         self._topics = topics
         self._by_slug = {topic.slug: topic for topic in topics}
@@ -150,4 +157,5 @@ class _PageWriter:
         return f"<{tag}>{words}</{tag}>" if tag else words
 
     def _link(self, words, slug):
-        return f'<a href="#{anchor(self._by_slug[slug])}">{escape(words, quote=False)}</a>'
+        target = f"{self._page_name}#{anchor(self._by_slug[slug])}"
+        return f'<a href="{target}">{escape(words, quote=False)}</a>'

@@ -1,0 +1,89 @@
+"""The page for users can be built, says what it should, and loads nothing from elsewhere."""
+import html.parser
+import importlib.util
+import re
+import unittest
+
+import tree
+
+ADDRESS = "https://forge.test/tallyrex"
+LOADED = {"img": "src", "script": "src", "link": "href", "iframe": "src", "source": "src"}
+
+
+def built_page():
+    description = importlib.util.spec_from_file_location("build_page", tree.ROOT / "docs" / "build_page.py")
+    module = importlib.util.module_from_spec(description)
+    description.loader.exec_module(module)
+    return module.page(ADDRESS)
+
+
+class PageParser(html.parser.HTMLParser):
+    """Collects what a page loads, where it leads, the places in it, and elements that are not closed."""
+
+    def __init__(self, text):
+        super().__init__()
+        self.loaded, self.links, self.places, self.open, self.words = [], [], set(), [], ""
+        self.feed(text)
+
+    def handle_starttag(self, tag, attributes):
+        attributes = dict(attributes)
+        if tag in LOADED:
+            self.loaded.append((tag, attributes.get(LOADED[tag], "inline")))
+        if tag == "a":
+            self.links.append(attributes["href"])
+        if "id" in attributes:
+            self.places.add("#" + attributes["id"])
+        if tag not in ("img", "meta"):
+            self.open.append(tag)
+
+    def handle_endtag(self, tag):
+        assert self.open.pop() == tag, tag
+
+    def handle_data(self, data):
+        self.words += data
+
+
+class Page(unittest.TestCase):
+    @classmethod
+    def setUpClass(cls):
+        cls.text = built_page()
+        cls.page = PageParser(cls.text)
+
+    def test_is_complete_html(self):
+        self.assertEqual(self.page.open, [])
+
+    def test_loads_nothing_from_elsewhere(self):
+        self.assertEqual({tag for tag, _ in self.page.loaded}, {"img"})
+        for _, address in self.page.loaded:
+            self.assertTrue(address.startswith("data:image/png;base64,"), address[:60])
+        self.assertIsNone(re.search(r"@import|url\(", self.text))
+
+    def test_links_lead_to_its_places_the_help_and_the_project(self):
+        for link in self.page.links:
+            if link.startswith("#"):
+                self.assertIn(link, self.page.places)
+            else:
+                self.assertTrue(link.startswith((ADDRESS, "help/Tallyrex.html")), link)
+
+    def test_offers_both_packages_at_the_address(self):
+        version = re.search(r"project\(Tallyrex VERSION (\S+)",
+                            (tree.ROOT / "CMakeLists.txt").read_text(encoding="utf-8"))[1]
+        for package in "setup.exe", "portable.zip":
+            self.assertIn("%s/releases/download/v%s/Tallyrex-%s-%s" % (ADDRESS, version, version, package),
+                          self.page.links)
+
+    def test_says_what_the_readme_the_help_and_the_change_log_say(self):
+        words = " ".join(self.page.words.split())
+        for passage in ("A desktop adding machine for Windows", "Add up a column of figures",
+                        "Micro Window and Adding Machine"):
+            self.assertIn(passage, words)
+        changes = (tree.ROOT / "CHANGELOG.md").read_text(encoding="utf-8").split("\n## ")[1]
+        self.assertIn("What is new in " + changes.split("\n")[0], words)
+        self.assertEqual(self.text.partition('id="new"')[2].count("<li>"), len(re.findall("^- ", changes, re.M)))
+
+    def test_comes_in_light_and_dark(self):
+        self.assertIn("prefers-color-scheme: dark", self.text)
+
+
+if __name__ == "__main__":
+    unittest.main()
