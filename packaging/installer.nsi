@@ -23,6 +23,9 @@ AllowSkipFiles off
 ; A copy of the program under another name keeps settings of its own beside these.
 !define ALL_SETTINGS_KEY "Software\${NAME}"
 !define SETTINGS_KEY "${ALL_SETTINGS_KEY}\${NAME}"
+; Tapes of runs that did not end normally, which the program offers at its next start.
+!define ALL_KEPT_TAPES "$LOCALAPPDATA\${NAME}"
+!define KEPT_TAPES "${ALL_KEPT_TAPES}\${NAME}"
 !define SHORTCUT "$SMPROGRAMS\${NAME}.lnk"
 !define EXIT_NOT_DONE 2
 !define EXIT_NEWER_INSTALLED 3
@@ -240,6 +243,9 @@ Section Uninstall
   ${If} $removeSettings = 1
     DeleteRegKey HKCU "${SETTINGS_KEY}"
     DeleteRegKey /ifempty HKCU "${ALL_SETTINGS_KEY}"
+    Delete "${KEPT_TAPES}\*.tape"
+    RMDir "${KEPT_TAPES}"
+    RMDir "${ALL_KEPT_TAPES}"
   ${EndIf}
   ${Log} "Done"
 SectionEnd

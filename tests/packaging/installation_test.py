@@ -1,5 +1,6 @@
 """A user installs the program, uses it, installs the next version over it, and removes it."""
 import os
+import shutil
 import unittest
 
 import packages
@@ -61,6 +62,17 @@ class UsersInstallation(Installation):
         self.remove("/SETTINGS", "/CLOSE")
         self.assert_removed()
         self.assertIsNone(account.registry(r"HKCU\Software\Tallyrex"))
+
+    def test_removal_keeps_a_kept_tape_unless_told_to_remove_the_settings(self):
+        folder = account.folder("LOCALAPPDATA") / "Tallyrex" / "Tallyrex"
+        self.addCleanup(shutil.rmtree, folder.parent, ignore_errors=True)
+        for switches, kept in ([], True), (["/SETTINGS"], False):
+            with self.subTest(kept=kept):
+                self.install()
+                folder.mkdir(parents=True, exist_ok=True)
+                (folder / "1234.tape").write_text("12.00 +", encoding="ascii")
+                self.remove(*switches)
+                self.assertEqual(folder.parent.exists(), kept)
 
     def test_removal_keeps_the_settings_of_a_copy_under_another_name(self):
         self.install()
