@@ -18,7 +18,7 @@ class Lz77Test(unittest.TestCase):
             self.assertEqual(unpack_lz77(packed)[: len(sample)], sample)
             self.assertEqual(len(unpack_lz77(packed)), len(sample))
 
-    def test_text_becomes_smaller(self):
+    def test_text_is_compressed(self):
         sample = b"The total is printed on the tape. " * 100
         self.assertLess(len(lz77(sample)), len(sample) / 4)
 
@@ -28,14 +28,14 @@ class Lz77Test(unittest.TestCase):
 
 
 class PackedNumberTest(unittest.TestCase):
-    def test_a_long_beyond_two_bytes_is_refused(self):
+    def test_a_number_that_needs_more_than_two_bytes_is_refused(self):
         self.assertEqual(packed_long(0), struct.pack("<H", 0x8000))
         with self.assertRaises(ValueError):
             packed_long(16384)
 
 
 class ContextHashTest(unittest.TestCase):
-    def test_letters_count_alike_in_either_case(self):
+    def test_ignores_case(self):
         self.assertEqual(context_hash("Topic23"), context_hash("topic23"))
         self.assertNotEqual(context_hash("topic23"), context_hash("topic32"))
 
@@ -58,7 +58,7 @@ class TreeTest(unittest.TestCase):
         found = read_btree(self.tree, _string_key, lambda _, at: at + 4)
         self.assertEqual(found, [(key[:-1], rest) for key, rest in self.entries])
 
-    def test_the_index_page_leads_to_the_leaf_of_a_word(self):
+    def test_the_index_page_finds_the_leaf_of_a_word(self):
         starts = btree_leaf_starts(0x400, self.entries)
         self.assertGreater(len(starts), 3)
         for number, (key, _) in enumerate(self.entries):

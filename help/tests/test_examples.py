@@ -100,7 +100,7 @@ def examples(topic):
 
 
 class ExamplesTest(unittest.TestCase):
-    def test_answers_are_true(self):
+    def test_answers_are_correct(self):
         for topic in TOPICS:
             for example in examples(topic):
                 with self.subTest(topic.slug, answer=example.answer):

@@ -60,7 +60,7 @@ class HlpTest(unittest.TestCase):
         by_offset = {read.offset: read.title for read in self.file.topics}
         self.assertEqual(by_offset[dict(numbers)[23]], "Financial calculator")
 
-    def test_jumps_lead_where_the_text_says(self):
+    def test_links_lead_where_the_text_says(self):
         contexts = self.file.contexts()
         self.assertEqual(contexts, sorted(contexts))
         by_offset = {read.offset: topic.slug for topic, read in zip(TOPICS, self.file.topics)}
@@ -71,7 +71,7 @@ class HlpTest(unittest.TestCase):
                 sorted(target_of[hash_value] for hash_value, _ in read.jumps), sorted(links_of(topic, TOPICS))
             )
 
-    def test_jumps_of_the_contents_bear_the_titles(self):
+    def test_links_in_the_contents_show_the_titles(self):
         listed = [words for _, words in self.file.topics[0].jumps]
         for topic in TOPICS[1:]:
             self.assertIn(topic.title, listed)
@@ -86,7 +86,7 @@ class HlpTest(unittest.TestCase):
     def test_titles_are_found_by_offset(self):
         self.assertEqual(self.file.titles(), {read.offset: read.title for read in self.file.topics})
 
-    def test_index_leads_to_the_topics_that_bear_a_keyword(self):
+    def test_index_leads_to_the_topics_with_a_keyword(self):
         expected = {}
         for topic in TOPICS:
             for keyword in topic.keywords:
@@ -105,7 +105,7 @@ class HlpTest(unittest.TestCase):
         pad_tape = next(read for topic, read in zip(TOPICS, self.file.topics) if topic.slug == "pad-tape")
         self.assertIn("               1,231.50 *", pad_tape.lines)
 
-    def test_a_table_is_set_with_tabs(self):
+    def test_a_table_is_aligned_with_tabs(self):
         table = next(read for topic, read in zip(TOPICS, self.file.topics) if topic.slug == "finding-the-payment")
         self.assertIn("Monthly Payment equals:\t$ 430.20", table.lines)
 

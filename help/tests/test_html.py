@@ -90,17 +90,17 @@ class HtmlTest(unittest.TestCase):
     def test_a_tape_keeps_its_blanks(self):
         self.assertIn("\n               1,231.50 *\n", self.page.words["topic14"])
 
-    def test_holds_the_pictures_of_the_topics_themselves(self):
+    def test_contains_the_pictures_of_the_topics(self):
         for topic in TOPICS:
             wanted = [block for block in topic.blocks if isinstance(block, Picture)]
-            held = self.page.pictures.get(f"topic{topic.number}", [])
-            self.assertEqual([picture["alt"] for picture in held], [block.words for block in wanted])
-            for picture, block in zip(held, wanted):
+            pictures = self.page.pictures.get(f"topic{topic.number}", [])
+            self.assertEqual([picture["alt"] for picture in pictures], [block.words for block in wanted])
+            for picture, block in zip(pictures, wanted):
                 data = b64decode(picture["src"].partition(",")[2])
                 self.assertEqual(data, (PICTURES / f"{block.name}.png").read_bytes())
         self.assertLessEqual({"topic2", "topic23"}, set(self.page.pictures))
 
-    def test_stands_alone(self):
+    def test_needs_no_other_file(self):
         self.assertEqual(self.page.outside, [])
         self.assertIsNone(re.search(r"@import|url\(|https?:", self.text))
 
@@ -110,7 +110,7 @@ class HtmlTest(unittest.TestCase):
         self.assertIn('content="0; url=Tallyrex.html#topic23"', text)
         self.assertEqual(Page(text).links[None], ["Tallyrex.html#topic23"])
 
-    def test_signs_of_the_language_are_escaped(self):
+    def test_html_characters_are_escaped(self):
         self.assertIn("Win &gt; Pad Tape", self.text)
         self.assertNotIn("Win > Pad Tape", self.text)
 

@@ -136,7 +136,7 @@ class MessagesTest(unittest.TestCase):
         """
         self.assertEqual(messages_in(source), ['One "piece" and another ', ".", "A question?"])
 
-    def test_messages_stand_in_their_chapter(self):
+    def test_message_topics_are_in_the_chapter_of_messages(self):
         self.assertEqual({topic.chapter for topic in TOPICS if topic.messages}, {"Messages"})
 
 

@@ -29,7 +29,7 @@ class OurTopicsTest(unittest.TestCase):
     def test_nothing_is_wrong_with_them(self):
         self.assertEqual(find_problems(TOPICS), [])
 
-    def test_each_number_stands_once(self):
+    def test_each_number_is_used_once(self):
         numbers = [topic.number for topic in TOPICS]
         self.assertEqual(len(numbers), len(set(numbers)))
 
@@ -44,7 +44,7 @@ class OurTopicsTest(unittest.TestCase):
         titles = [topic.title for topic in TOPICS]
         self.assertEqual(len(titles), len(set(titles)))
 
-    def test_chapters_are_not_torn_apart(self):
+    def test_topics_of_a_chapter_follow_each_other(self):
         chapters = [topic.chapter for topic in TOPICS]
         seen = [chapter for at, chapter in enumerate(chapters) if at == 0 or chapters[at - 1] != chapter]
         self.assertEqual(len(seen), len(set(seen)))
@@ -62,7 +62,7 @@ class ProblemsTest(unittest.TestCase):
             topic("money", 23, "Text", title="Financial calculator"),
         ]
 
-    def test_sound_topics_have_none(self):
+    def test_correct_topics_have_no_problems(self):
         self.assertEqual(find_problems(self.topics), [])
 
     def test_a_number_twice(self):
@@ -103,7 +103,7 @@ class ProblemsTest(unittest.TestCase):
         self.topics.append(topic("third", 3, "The key \u221a"))
         self.assertEqual(find_problems(self.topics), ["third: '\u221a' cannot be shown by the help viewer"])
 
-    def test_a_picture_that_is_not_there(self):
+    def test_a_missing_picture(self):
         self.topics.append(topic("third", 3, "![The main window](main-window)\n\n![Nothing](nothing)"))
         self.assertEqual(find_problems(self.topics), ["third: shows 'nothing', which is no picture"])
 
@@ -154,7 +154,7 @@ class ParserTest(unittest.TestCase):
             ],
         )
 
-    def test_mistakes_are_named(self):
+    def test_mistakes_are_reported(self):
         cases = {
             "no header": ("Text", "must begin with a header"),
             "no number": ("---\ntitle: x\nchapter: y\n---\n", "number, title or chapter"),

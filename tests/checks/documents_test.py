@@ -1,11 +1,11 @@
-"""What the documents point at is there. The topics of the help have links of their own, and tests too."""
+"""Links and paths in the documents lead to files that exist. The help has tests of its own for this."""
 import re
 import unittest
 
 import tree
 
 LINK = re.compile(r"\]\(([^)#]+)(?:#[^)]*)?\)")
-# Names in backticks that begin like a path of the tree; patterns with a star or a place to fill in are none.
+# Names in backticks that begin like a path of the tree. Patterns with a star or a placeholder do not count.
 PATH = re.compile(r"`((?:src|tests|scripts|docs|help|cmake|packaging)/[\w./-]*)`")
 
 
@@ -24,12 +24,12 @@ class Documents(unittest.TestCase):
             with self.subTest(file=tree.name(path)):
                 self.assertEqual(missing(path.parent, path.read_text(encoding="utf-8")), [])
 
-    def test_what_leads_nowhere_is_found(self):
+    def test_broken_links_are_found(self):
         text = "![](docs/none.svg) [a](docs/none.md#part) `src/none/none.cpp` `tests/none/`"
         self.assertEqual(missing(tree.ROOT, text),
                          ["docs/none.svg", "docs/none.md", "src/none/none.cpp", "tests/none/"])
 
-    def test_what_is_there_is_let_through(self):
+    def test_working_links_are_accepted(self):
         text = "[a](README.md#top) [b](https://example.org/none) `src/common` `tests/scenarios/*.txt`"
         self.assertEqual(missing(tree.ROOT, text), [])
 

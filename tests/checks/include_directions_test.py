@@ -50,7 +50,7 @@ def complaint(file, line):
 
 
 class IncludeDirections(unittest.TestCase):
-    def test_every_include_runs_the_allowed_way(self):
+    def test_every_include_goes_in_an_allowed_direction(self):
         sources = tree.files(".h", ".cpp", ".in", below="src")
         self.assertTrue(sources)
         for path in sources:
@@ -59,7 +59,7 @@ class IncludeDirections(unittest.TestCase):
                 with self.subTest(file=tree.name(path)):
                     self.assertIsNone(found, "%s:%d: %s" % (tree.name(path), number, found))
 
-    def test_every_folder_has_its_rule(self):
+    def test_every_folder_has_a_rule(self):
         folders = {path.name for path in (tree.ROOT / "src").iterdir() if path.is_dir()}
         self.assertEqual(folders - set(ALLOWED), set())
 
@@ -79,7 +79,7 @@ class IncludeDirections(unittest.TestCase):
                            ("src/win32/a.rc.in", '#include "app/application.h"')]:
             self.assertIsNotNone(complaint(file, line), (file, line))
 
-    def test_an_allowed_include_is_let_through(self):
+    def test_an_allowed_include_is_accepted(self):
         for file, line in [("src/engine/a.cpp", '#include "controls/control.h"'),
                            ("src/annuity/a.cpp", '#include "engine/allow_key.h"'),
                            ("src/win32/main.cpp", '#include "app/application.h"'),

@@ -50,7 +50,7 @@ class ScenarioRunner(unittest.TestCase):
         self.assertIn(line, result[1])
         self.assertEqual(result[1][-1], "0 passed, 1 failed")
 
-    def test_an_expected_answer_passes_also_when_it_says_more(self):
+    def test_an_answer_may_contain_more_than_expected(self):
         self.assert_passes(self.run_on('snapshot\n=> {"entry":"1","caret":1}\n', *self.driver(
             'snapshot={"caret":1.0,"entry":"1","tape":""}')))
 
@@ -74,7 +74,7 @@ class ScenarioRunner(unittest.TestCase):
         self.assert_fails(self.run_on("start\n", "--timeout", "0.5", *self.driver("start=silence")),
                           "    no answer")
 
-    def test_a_driver_that_ends_badly_fails(self):
+    def test_a_driver_that_crashes_fails(self):
         self.assert_fails(self.run_on("start\n", "false"), "    the driver ended with code 1")
 
     def test_two_drivers_that_agree_pass(self):
@@ -85,24 +85,24 @@ class ScenarioRunner(unittest.TestCase):
         self.assert_fails(self.run_on("get\n", "--compare", *self.driver('get={"value":2}'), "--",
                                       *self.driver('get={"value":3}')), "    the drivers differ")
 
-    def test_a_scenario_for_memory_alone_is_left_out_aloud_on_real_windows(self):
+    def test_an_in_memory_scenario_is_reported_as_skipped_on_real_windows(self):
         code, said = self.run_on("# only: in-memory\nfiles\n", "--real-windows", *self.driver())
         self.assertEqual((code, said[-1]), (0, "0 passed, 0 failed, 1 skipped"))
         self.assertEqual(said[0], "one.txt: left out, only for the in-memory driver")
 
-    def test_one_driver_carries_out_all_and_is_reset_in_between(self):
+    def test_one_driver_runs_all_scenarios_and_is_reset_between_them(self):
         for name in ["0", "1"]:
             (self.folder / (name + ".txt")).write_text('get\n=> {"value":%s}\n' % name, encoding="utf-8")
         result = self.run_on('get\n=> {"value":2}\n', "--real-windows", *self.driver('get={"value":RESETS}'))
         self.assertEqual(result, (0, ["3 passed, 0 failed"]))
 
-    def test_after_a_driver_that_ended_the_next_scenario_has_a_new_one(self):
+    def test_after_a_crash_the_next_scenario_gets_a_new_driver(self):
         (self.folder / "two.txt").write_text('get\n=> {"value":0}\n', encoding="utf-8")
         result = self.run_on("start\n", "--real-windows", *self.driver("start=end", 'get={"value":RESETS}'))
         self.assertEqual(result[1], ["one.txt:", "    the driver ended with code 3", "one.txt:1: start",
                                      "    no answer", "1 passed, 1 failed"])
 
-    def test_a_driver_that_ends_badly_when_all_is_done_fails(self):
+    def test_a_driver_that_crashes_after_the_last_answer_fails(self):
         self.assertEqual(self.run_on("start\n", *self.driver("code=1")),
                          (1, ["at the end:", "    the driver ended with code 1", "1 passed, 1 failed"]))
 

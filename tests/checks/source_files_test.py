@@ -60,12 +60,12 @@ class SourceFiles(unittest.TestCase):
             self.skipTest("no clang-format %s here" % CLANG_FORMAT_RELEASE)
         self.assertEqual(unformatted(command, [str(path) for path in sources()]), [])
 
-    def test_none_switches_a_rule_off_for_itself(self):
+    def test_no_file_turns_off_a_rule_for_itself(self):
         for path in sources():
             with self.subTest(file=tree.name(path)):
                 self.assertIsNone(SWITCHED_OFF.search(path.read_text(encoding="utf-8")))
 
-    def test_none_is_too_long(self):
+    def test_no_file_is_too_long(self):
         longest = {tree.name(path): len(tree.lines(path))
                    for path in sources() + tree.files(".py", ".sh", ".cmd", ".cmake")}
         self.assertEqual({file: n for file, n in longest.items() if n > MOST_LINES}, {})
@@ -75,7 +75,7 @@ class SourceFiles(unittest.TestCase):
             with self.subTest(file=tree.name(path)):
                 self.assertEqual(long_functions(tree.lines(path)), [])
 
-    def test_each_stands_in_the_list_of_its_folder(self):
+    def test_each_file_is_listed_in_its_cmakelists(self):
         for path in tree.files(".cpp", below="src") + tree.files(".cpp", below="tests"):
             with self.subTest(file=tree.name(path)):
                 self.assertTrue(self.is_listed(path), "in no CMakeLists.txt")
@@ -91,7 +91,7 @@ class SourceFiles(unittest.TestCase):
             folder = folder.parent
         return False
 
-    def test_headers_are_guarded_by_pragma_once(self):
+    def test_headers_have_pragma_once(self):
         for path in tree.files(".h", below="src") + tree.files(".h", below="tests"):
             with self.subTest(file=tree.name(path)):
                 self.assertIn("#pragma once", tree.lines(path))

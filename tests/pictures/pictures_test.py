@@ -1,4 +1,4 @@
-"""Every picture that a text shows is there, and can be taken anew by scripts/pictures."""
+"""Every picture in the documents and the help exists, and scripts/pictures can retake it."""
 import pathlib
 import re
 import struct
@@ -16,7 +16,7 @@ def shown(text_file):
 
 
 class Pictures(unittest.TestCase):
-    def test_each_that_the_readme_and_the_documents_show_is_there(self):
+    def test_pictures_in_the_documents_exist(self):
         texts = [*ROOT.glob("*.md"), *(ROOT / "docs").rglob("*.md")]
         found = [(text, words, name) for text in texts for words, name in shown(text)]
         self.assertIn(("README.md", "docs/pictures/main-window.png"),
@@ -26,7 +26,7 @@ class Pictures(unittest.TestCase):
                 self.assertTrue((text.parent / name).is_file())
                 self.assertTrue(words, "who cannot see it is told nothing")
 
-    def test_each_that_the_help_shows_is_there(self):
+    def test_pictures_in_the_help_exist(self):
         found = [(topic, words, name) for topic in sorted((ROOT / "help" / "topics").glob("*.md"))
                  for words, name in shown(topic)]
         self.assertEqual({name for _, _, name in found}, {path.stem for path in PICTURES.glob("*.png")},
@@ -36,11 +36,11 @@ class Pictures(unittest.TestCase):
                 self.assertTrue((PICTURES / (name + ".png")).is_file())
                 self.assertTrue(words, "who cannot see it is told nothing")
 
-    def test_each_has_its_recipe_and_each_recipe_its_picture(self):
+    def test_each_picture_has_a_recipe_and_each_recipe_a_picture(self):
         self.assertEqual({path.stem for path in PICTURES.glob("*.png")},
                          {path.stem for path in PICTURES.glob("*.txt")})
 
-    def test_each_is_of_the_size_of_a_window(self):
+    def test_each_picture_is_as_large_as_a_window(self):
         for path in PICTURES.glob("*.png"):
             width, height = struct.unpack(">II", path.read_bytes()[16:24])
             with self.subTest(picture=path.name):
@@ -53,7 +53,7 @@ class Pictures(unittest.TestCase):
                 self.assertRegex(lines[0], r"^# \w")
                 self.assertIn("start", lines)
 
-    def test_no_two_recipes_are_called_the_same(self):
+    def test_no_two_recipes_have_the_same_name(self):
         names = [path.stem for folder in (PICTURES, LOOKS) for path in folder.glob("*.txt")]
         self.assertEqual(len(names), len(set(names)))
 
