@@ -10,7 +10,7 @@ if(EXISTS ${TALLYREX_GOOGLETEST_SOURCES}/googletest/CMakeLists.txt)
   set(googletest_binaries ${CMAKE_BINARY_DIR}/googletest)
   add_subdirectory(${TALLYREX_GOOGLETEST_SOURCES}/googletest ${googletest_binaries}
                    EXCLUDE_FROM_ALL)
-  # Its warnings are not ours to mend.
+  # Its warnings are not ours to fix.
   foreach(library gtest gtest_main)
     target_compile_options(${library} PRIVATE $<IF:$<CXX_COMPILER_ID:MSVC>,/w,-w>)
     if(NOT TARGET GTest::${library})

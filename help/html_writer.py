@@ -1,4 +1,4 @@
-"""Writes the same topics as one HTML page that needs nothing beside it."""
+"""Writes the same topics as one HTML page that needs no other file."""
 
 import struct
 from base64 import b64encode

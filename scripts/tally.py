@@ -1,4 +1,4 @@
-"""Adds up what the test runs left:  tally.py RESULTS.xml... [LINT.log...]
+"""Adds up the results of test runs:  tally.py RESULTS.xml... [LINT.log...]
 
 Prints what failed, a line for each run, and 'N passed, N failed' as the last line; exits with 1 unless
 all passed. A program that runs many tests counts as many as its own closing line says; a lint of all
@@ -63,7 +63,7 @@ def report_lint(path):
 def report(path):
     """Prints the failures of one run and its line; returns its counts."""
     if not path.exists():
-        print("%-8s did not run to its end" % path.stem)
+        print("%-8s did not finish" % path.stem)
         return [0, 1, 0]
     suite = ElementTree.parse(path).getroot()
     total = [0, 0, 0]

@@ -6,7 +6,7 @@ import time
 from screenshot import png, read_pixels
 
 PATIENCE = 30
-# So many looks at the screen in a row must be the same, so far apart.
+# How many screenshots in a row must be the same, and how far apart.
 STILL_LOOKS = 4
 BETWEEN_LOOKS = 0.1
 # The pointer, parked in the last corner of the screen, reaches so far from there.

@@ -1,4 +1,4 @@
-"""How the Windows of scripts/in-wine looks: the scaling of its screen, its theme, its fonts."""
+"""The appearance of Windows in scripts/in-wine: the scaling of its screen, its theme, its fonts."""
 import os
 import pathlib
 import struct
@@ -80,7 +80,7 @@ def _start():
 
 
 def end_programs():
-    """Ends every program of this Windows, and starts it afresh."""
+    """Ends every program in the Wine prefix, and restarts it."""
     _run("wineserver", "-k", check=False)
     _run("wineserver", "-w", check=False)
     _start()
