@@ -14,7 +14,7 @@ std::string rateAnswer(double rate);
 std::string termInMonths(double months);
 
 /// A term given in months, shown in two lines as whole years and the months that remain: "29 Years"
-/// above "11.88  Months". Years are never carried: 12 months may stand beside them.
+/// above "11.88  Months". Months are never carried over to years: 12 months are possible.
 std::string termInYears(double months);
 
 /// What is reported of a run-time error. While no answer is shown, it says of an error of the

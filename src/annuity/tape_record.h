@@ -12,8 +12,8 @@ struct TapeEntry {
   std::string value;
 };
 
-/// The values as the record shows them, with a blank behind them. A text that is no number stands
-/// as it is.
+/// The values as the record shows them, with a blank behind them. A text that is not a number
+/// stands as it is.
 std::string termOnTape(std::string_view text, bool inMonths);
 /// The pattern has a percent sign, so that a field that holds 8.5 reads "% 850.00 ".
 std::string rateOnTape(std::string_view text);

@@ -56,7 +56,7 @@ class Control {
   std::function<void()> onGotFocus;
   std::function<void()> onLostFocus;
   std::function<void()> onDblClick;
-  /// The character of a key stroke, before it takes effect; setting it to 0 discards it.
+  /// The character of a keystroke, before it takes effect; setting it to 0 discards it.
   std::function<void(KeyAscii&)> onKeyPress;
   std::function<void(KeyCode)> onKeyUp;
 

@@ -5,7 +5,7 @@ namespace controls {
 /// The code of a key, as the system numbers them; letters and digits are their capital characters.
 using KeyCode = int;
 
-/// The character of a key stroke, by reference in a KeyPress handler; 0 discards the character.
+/// The character of a keystroke, by reference in a KeyPress handler; 0 discards the character.
 using KeyAscii = int;
 
 inline constexpr KeyCode kKeyBackspace = 8;
@@ -28,7 +28,7 @@ constexpr bool isNavigationKey(KeyCode key) {
   return key >= kKeyEnd && key <= kKeyDown;
 }
 
-/// A key going down, with the modifiers held.
+/// A key that is pressed, with its modifiers.
 struct KeyStroke {
   KeyCode key = 0;
   bool shift = false;

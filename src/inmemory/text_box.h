@@ -34,7 +34,7 @@ class TextBox : public controls::TextBox {
   int otherLine(int place, bool up) const;
 
   std::u16string text_;
-  // The selection lies between the two; the caret is the end that the arrows move.
+  // The selection is between the two; the caret is the end that the arrows move.
   int anchor_ = 0;
   int caret_ = 0;
 };

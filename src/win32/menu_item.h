@@ -34,7 +34,7 @@ class MenuItem : public controls::MenuItem {
   void showOnBar();
 
   Window& frame_;
-  // The menu that it stands in, its place there, and the menu that it opens.
+  // The menu that it is in, its place there, and the menu that it opens.
   HMENU menu_;
   UINT place_;
   HMENU popup_ = nullptr;

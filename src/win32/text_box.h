@@ -47,7 +47,7 @@ class TextBox : public Native<controls::TextBox> {
   AccessibleName name_;
   // What is within its edge, from the corner of the box.
   RECT inside_ = {};
-  // How much of its right side lies outside the window.
+  // How much of its right side is outside the window.
   LONG cutOff_ = 0;
   // The text that is being changed is the program's doing.
   bool storing_ = false;

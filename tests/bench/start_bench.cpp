@@ -8,7 +8,7 @@
 #include <vector>
 
 // Prints what the start of programs costs, from the making of the process to the moment at which
-// its window is visible and painted and it waits for the user, and the memory that it then holds:
+// its window is visible and painted and it waits for the user, and the memory that it then uses:
 //   tallyrex-start-bench RUNS PROGRAM...
 // The programs take turns; the ratios are to the first.
 namespace {

@@ -7,7 +7,7 @@
 
 namespace driver {
 
-/// A key stroke of a person: the key with its modifiers, and the character that it types, 0 for
+/// A keystroke of a person: the key with its modifiers, and the character that it types, 0 for
 /// none.
 struct Stroke {
   controls::KeyStroke key;

@@ -8,7 +8,7 @@
 namespace driver {
 
 /// The key of the user's registry for the settings of an application that runs in the driver. What
-/// the user keeps for the real program lies elsewhere.
+/// the user keeps for the real program is elsewhere.
 std::string storedKey(const std::string& application);
 
 /// The settings of such an application: in the registry a key is a section, and a text a setting.

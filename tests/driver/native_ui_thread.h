@@ -18,11 +18,11 @@ class UiThread {
   UiThread(const UiThread&) = delete;
   UiThread& operator=(const UiThread&) = delete;
 
-  /// A window of the program's thread that nobody sees.
+  /// An invisible window of the program's thread.
   HWND window() const { return window_; }
 
   /// Runs `body` there between two messages, and returns when it is done. Not for a body that opens
-  /// a dialog: nobody would be left to answer it. What it throws is thrown here.
+  /// a dialog: there would be nothing left to answer it. What it throws is thrown here.
   void inspect(const std::function<void()>& body);
   /// Leaves `body` to be run there, behind every message that has been posted so far.
   void post(std::function<void()> body);

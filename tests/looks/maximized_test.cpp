@@ -1,6 +1,6 @@
 #include "looks/looks_test_base.h"
 
-// The screen changes while the window fills it, or lies on the taskbar.
+// The screen changes while the window is maximized or minimized.
 namespace looks {
 namespace {
 

@@ -66,7 +66,7 @@ class ColorTest : public ProgramTest {
     constexpr std::uint32_t kBlack = 0x20;
     RECT place = placeOf(box);
     InflateRect(&place, -kFrame, -kFrame);
-    // Without the caret, which is always far from the colour: it stands behind them.
+    // Without the caret, which is always far from the colour: it is behind them.
     constexpr int kCaret = 8;
     place.right = box == program().tape() ? (place.left + place.right) / 2 : place.right - kCaret;
     EXPECT_TRUE(eventually([&] {

@@ -11,7 +11,7 @@ namespace program {
 /// Types digits, letters, blanks and the operators of the keypad; '=' is its Enter key.
 void type(std::string_view keys);
 void press(WORD key);
-/// The key while Ctrl, Alt or Shift is held.
+/// The key while Ctrl, Alt or Shift is down.
 void pressWith(WORD modifier, WORD key);
 
 void click(POINT place);

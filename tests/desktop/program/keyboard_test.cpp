@@ -6,7 +6,7 @@
 namespace program {
 namespace {
 
-// The keys row by row, as they stand.
+// The keys row by row, from left to right.
 constexpr std::array kTabOrder = {
     L"entry box",
     L"Clear entry",

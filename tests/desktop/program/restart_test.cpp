@@ -90,7 +90,7 @@ class RestartTest : public ProgramTest {
     expectPlace(place);
   }
 
-  /// What is to be kept of the window as it stands, and of what setEverythingOtherwise sets.
+  /// What is to be kept of the window as it is, and of what setEverythingOtherwise sets.
   static Settings expectedSettings() {
     constexpr int kFrameWidth = 120;
     constexpr int kFrameHeight = 690;

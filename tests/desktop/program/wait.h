@@ -26,7 +26,7 @@ bool eventually(Condition condition) {
   return true;
 }
 
-/// Waits until the condition holds; throws NotSeen when it does not.
+/// Waits until the condition is true; throws NotSeen when it does not become so in time.
 template <class Condition>
 void await(const std::string& what, Condition condition) {
   if (!eventually(condition)) throw NotSeen(what);
