@@ -69,9 +69,8 @@ def features():
 
 
 def changes():
-    """The newest section of the change log: (version, HTML)."""
-    newest = text_of("CHANGELOG.md").split("\n## ")[1]
-    return newest.split("\n")[0], as_list(newest)
+    """The section of this version in the change log; what is not released yet is not in it."""
+    return as_list(re.split(r"^## ", text_of("CHANGELOG.md").partition("\n## %s\n" % version())[2], flags=re.M)[0])
 
 
 def picture(name, words):
@@ -92,7 +91,6 @@ def topics():
 def page(address):
     """The whole page as text."""
     shown = topics()
-    newest, what_is_new = changes()
     number = version()
     folder = "%s/releases/download/v%s" % (address.rstrip("/"), number)
     return text_of("docs/page.html.in").format(
@@ -101,7 +99,7 @@ def page(address):
         sums=folder + "/SHA256SUMS", address=address,
         main_window=picture("main-window", "The main window: keys and entry box on the left, the tape on the right"),
         loan=picture("annuity-loan", "The financial calculator with a loan"),
-        tour=shown[TOUR], keyboard=shown[KEYBOARD], newest=newest, changes=what_is_new)
+        tour=shown[TOUR], keyboard=shown[KEYBOARD], changes=changes())
 
 
 def main():

@@ -17,6 +17,11 @@ def built_page():
     return module.page(ADDRESS)
 
 
+def version():
+    return re.search(r"project\(Tallyrex VERSION (\S+)",
+                     (tree.ROOT / "CMakeLists.txt").read_text(encoding="utf-8"))[1]
+
+
 class PageParser(html.parser.HTMLParser):
     """Collects what a page loads, where it leads, the places in it, and elements that are not closed."""
 
@@ -66,10 +71,8 @@ class Page(unittest.TestCase):
                 self.assertTrue(link.startswith((ADDRESS, "help/Tallyrex.html")), link)
 
     def test_offers_both_packages_at_the_address(self):
-        version = re.search(r"project\(Tallyrex VERSION (\S+)",
-                            (tree.ROOT / "CMakeLists.txt").read_text(encoding="utf-8"))[1]
         for package in "setup.exe", "portable.zip":
-            self.assertIn("%s/releases/download/v%s/Tallyrex-%s-%s" % (ADDRESS, version, version, package),
+            self.assertIn("%s/releases/download/v%s/Tallyrex-%s-%s" % (ADDRESS, version(), version(), package),
                           self.page.links)
 
     def test_says_what_the_readme_the_help_and_the_change_log_say(self):
@@ -77,9 +80,12 @@ class Page(unittest.TestCase):
         for passage in ("A desktop adding machine for Windows", "Add up a column of figures",
                         "Micro Window and Adding Machine"):
             self.assertIn(passage, words)
-        changes = (tree.ROOT / "CHANGELOG.md").read_text(encoding="utf-8").split("\n## ")[1]
-        self.assertIn("What is new in " + changes.split("\n")[0], words)
-        self.assertEqual(self.text.partition('id="new"')[2].count("<li>"), len(re.findall("^- ", changes, re.M)))
+        self.assertIn("What is new in %s" % version(), words)
+
+    def test_says_what_is_new_in_this_version_and_nothing_unreleased(self):
+        log = (tree.ROOT / "CHANGELOG.md").read_text(encoding="utf-8")
+        section = next(part for part in log.split("\n## ") if part.startswith(version() + "\n"))
+        self.assertEqual(self.text.partition('id="new"')[2].count("<li>"), len(re.findall("^- ", section, re.M)))
 
     def test_comes_in_light_and_dark(self):
         self.assertIn("prefers-color-scheme: dark", self.text)
