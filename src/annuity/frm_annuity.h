@@ -43,7 +43,8 @@ class frmAnnuity {
   /// and its fields.
   void load(common::AnnuityKind kind);
   void show() { window_->show(); }
-  /// Saves its place and its fields, and goes.
+  /// Saves its place and its fields, and goes. At any moment: what has not been restored yet stays
+  /// as it was stored.
   void unload();
 
  private:
@@ -52,7 +53,7 @@ class frmAnnuity {
   void wireButtons();
   void writeCaptions();
 
-  void restorePlace();
+  void restorePlace(const controls::Rect& main);
   void restoreFields();
   void save();
 
@@ -87,6 +88,8 @@ class frmAnnuity {
 
   /// The configuration that shows; none before the window is loaded.
   const Configuration* showing_ = nullptr;
+  /// Its place and fields are those that were stored, or what the user has made of them.
+  bool restored_ = false;
 };
 
 }  // namespace annuity

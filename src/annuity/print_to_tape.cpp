@@ -19,7 +19,8 @@ void frmAnnuity::print() {
                  "this again.  Do you wish to reload Tallyrex?",
          .buttons = controls::Buttons::YesNo,
          .icon = controls::Icon::Question});
-    if (answer == controls::kAnswerYes) return program_.showMainWindow();
+    if (answer == controls::kAnswerYes) program_.showMainWindow();
+    if (answer != controls::kAnswerNo) return;
   }
   program_.printToTape(record(), kWidthWithTape);
 }

@@ -28,9 +28,11 @@ Twips placeOf(double stored, Twips designed) {
 
 void frmAnnuity::load(common::AnnuityKind kind) {
   writeCaptions();
+  const controls::Rect main = program_.mainWindowPlace();
   applyConfiguration(configurationOf(kind));
-  restorePlace();
+  restorePlace(main);
   restoreFields();
+  restored_ = true;
 }
 
 void frmAnnuity::writeCaptions() {
@@ -47,7 +49,7 @@ void frmAnnuity::writeCaptions() {
 }
 
 // A stored text that is no number leaves the place as it is designed.
-void frmAnnuity::restorePlace() {
+void frmAnnuity::restorePlace(const controls::Rect& main) {
   const auto stored = [this](std::string_view edge, Twips fallback, Twips designed) {
     const std::string key = std::string(edge) + window_->name();
     const auto text = desktop_.settings().read(kPlaceSection, key);
@@ -55,7 +57,6 @@ void frmAnnuity::restorePlace() {
     const auto number = common::tryNumber(*text);
     return number ? placeOf(*number, designed) : designed;
   };
-  const controls::Rect main = program_.mainWindowPlace();
   const controls::Rect designed = window_->bounds();
   window_->setLeft(stored("Left", main.left + kBesideMainWindow, designed.left));
   window_->setTop(stored("Top", main.top + kBesideMainWindow, designed.top));
@@ -78,6 +79,8 @@ void frmAnnuity::unload() {
 }
 
 void frmAnnuity::save() {
+  if (!restored_) return;
+  restored_ = false;
   common::SettingsStore& settings = desktop_.settings();
   const controls::Rect& place = window_->bounds();
   settings.write(kPlaceSection, "Left" + window_->name(), common::toText(place.left));

@@ -2,13 +2,23 @@
 
 namespace app {
 
+Application::Application(controls::Desktop& desktop) : desktop_(desktop) {
+  desktop_.onEndSession = [this] { endSession(); };
+}
+
+Application::~Application() {
+  desktop_.onEndSession = nullptr;
+}
+
 void Application::start() {
   showMainWindow();
 }
 
 void Application::loadCalc() {
   shell::Program& program = *this;
-  if (!calc_) calc_ = std::make_unique<shell::frmCalc>(desktop_, globals_, program);
+  if (calc_) return;
+  calc_ = std::make_unique<shell::frmCalc>(desktop_, globals_, program);
+  calc_->load();
 }
 
 controls::Window* Application::findWindow(std::string_view name) const {
@@ -24,37 +34,47 @@ void Application::openFinancialCalc(common::AnnuityKind kind) {
   annuity::Program& program = *this;
   annuity_ = std::make_unique<annuity::frmAnnuity>(desktop_, program);
   annuity_->load(kind);
-  annuity_->show();
+  // Another program may have closed it while its note was shown.
+  if (annuity_) annuity_->show();
 }
 
-// The box is modal: the other windows take no input while it is open.
 void Application::showAbout(std::function<void()> closed) {
-  about_ =
-      std::make_unique<about::frmAbout>(desktop_, about::programVersion(),
-                                        [this, closed = std::move(closed)] { closeAbout(closed); });
-  enableOtherWindows(false);
-  about_->window().show();
+  about_ = std::make_unique<about::frmAbout>(desktop_, about::programVersion(), [this, closed] {
+    unloadAbout();
+    closed();
+  });
+  about_->window().showModal();
 }
 
-void Application::enableOtherWindows(bool enabled) {
-  calc_->window().setEnabled(enabled);
-  if (annuity_) annuity_->window().setEnabled(enabled);
+void Application::unloadAbout() {
+  unload(about_);
 }
 
-void Application::closeAbout(const std::function<void()>& closed) {
-  enableOtherWindows(true);
-  about_->window().hide();
-  closed();
-  desktop_.events().post([this] { about_.reset(); });
-}
-
-// A window is destroyed when the handler that closes it has ended.
 void Application::unloadCalc() {
-  calc_->window().hide();
-  desktop_.events().post([this] {
-    calc_.reset();
+  unload(calc_);
+}
+
+void Application::unloadAnnuity() {
+  unload(annuity_);
+}
+
+// A window is destroyed when the handler that closes it has ended, and those that it had called.
+template <class Form>
+void Application::unload(std::unique_ptr<Form>& form) {
+  if (!form) return;
+  std::shared_ptr<Form> gone = std::move(form);
+  gone->window().hide();
+  desktop_.events().post([this, gone = std::move(gone)]() mutable {
+    gone.reset();
     endWithLastWindow();
   });
+}
+
+// The About box first: the main window is saved as it is without it.
+void Application::endSession() {
+  if (about_) about_->window().requestClose();
+  if (annuity_) annuity_->unload();
+  if (calc_) calc_->unload();
 }
 
 controls::Rect Application::mainWindowPlace() const {
@@ -76,20 +96,12 @@ void Application::printToTape(const std::string& lines, controls::Twips width) {
   calc_->window().setWidth(width);
 }
 
-void Application::unloadAnnuity() {
-  annuity_->window().hide();
-  std::shared_ptr<annuity::frmAnnuity> gone = std::move(annuity_);
-  desktop_.events().post([this, gone = std::move(gone)]() mutable {
-    gone.reset();
-    endWithLastWindow();
-  });
-}
-
-// A main window that was loaded for a print but never shown does not keep the program running.
+// A window that was loaded but not shown does not keep the program running.
 void Application::endWithLastWindow() {
-  const bool calcShown = calc_ && calc_->window().visible();
-  if (calcShown || annuity_ || about_) return;
+  const auto isShown = [](const auto& form) { return form && form->window().visible(); };
+  if (isShown(calc_) || isShown(annuity_) || isShown(about_)) return;
   calc_.reset();
+  annuity_.reset();
   if (onEnded) onEnded();
 }
 

@@ -14,7 +14,8 @@ namespace app {
 /// The program: it owns its windows, knows which are loaded, and ends with the last visible one.
 class Application : private shell::Program, private annuity::Program {
  public:
-  explicit Application(controls::Desktop& desktop) : desktop_(desktop) {}
+  explicit Application(controls::Desktop& desktop);
+  ~Application() override;
   Application(const Application&) = delete;
   Application& operator=(const Application&) = delete;
 
@@ -41,8 +42,10 @@ class Application : private shell::Program, private annuity::Program {
   void unloadAnnuity() override;
 
   void loadCalc();
-  void enableOtherWindows(bool enabled);
-  void closeAbout(const std::function<void()>& closed);
+  void unloadAbout();
+  template <class Form>
+  void unload(std::unique_ptr<Form>& form);
+  void endSession();
   void endWithLastWindow();
 
   controls::Desktop& desktop_;

@@ -1,10 +1,12 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "common/settings_store.h"
 #include "controls/event_loop.h"
@@ -15,7 +17,8 @@ namespace controls {
 enum class Buttons { Ok, YesNo };
 enum class Icon { None, Question };
 
-/// The answers of a message box, as they are also stored.
+/// The answers of a message box, as they are also stored; kNoAnswer where it went away unanswered.
+inline constexpr int kNoAnswer = 0;
 inline constexpr int kAnswerOk = 1;
 inline constexpr int kAnswerYes = 6;
 inline constexpr int kAnswerNo = 7;
@@ -49,6 +52,29 @@ struct Clipping {
   bool operator==(const Clipping&) const = default;
 };
 
+class Desktop;
+
+/// A dialog of the system's, in front while this lives: no window of the program takes input.
+class SystemDialog {
+ public:
+  explicit SystemDialog(Desktop& desktop);
+  ~SystemDialog();
+  SystemDialog(const SystemDialog&) = delete;
+  SystemDialog& operator=(const SystemDialog&) = delete;
+
+  /// The window that was in front and asked; null without one.
+  Window* owner() const { return owner_; }
+  /// The dialog has gone. Raises DialogDismissed where that was not the user's doing.
+  void noteAnswered() const;
+
+ private:
+  friend class Desktop;
+
+  Desktop& desktop_;
+  Window* owner_;
+  bool dismissed_ = false;
+};
+
 /// Everything that the program asks of the system: one function a thing. There is one for the
 /// program, and it outlives its windows.
 class Desktop {
@@ -57,9 +83,15 @@ class Desktop {
 
   EventLoop& events() { return events_; }
 
+  /// The session ends: what is to be kept is saved, the windows go. At any moment, also while a
+  /// dialog stands open.
+  std::function<void()> onEndSession;
+  void endSession();
+
   /// Makes a window, hidden, with the controls of the layout.
   virtual std::unique_ptr<Window> createWindow(const WindowLayout& layout) = 0;
-  /// Shows a message box and waits for its answer: kAnswerOk, or kAnswerYes or kAnswerNo.
+  /// Shows a message box and waits for its answer: kAnswerOk, or kAnswerYes or kAnswerNo. Where the
+  /// window that asks is closed meanwhile, the handler ends here.
   virtual int showMessage(const UserMessage& box) = 0;
   virtual void beep() = 0;
 
@@ -90,10 +122,34 @@ class Desktop {
 
   /// The window in front, which has the focus; none while the program shows none.
   Window* activeWindow() const { return activeWindow_; }
+  /// Whether no dialog is in front of the window.
+  bool takesInput(const Window& window) const;
+
+ protected:
+  /// Makes the dialogs of the system's go, unanswered.
+  virtual void dismissSystemDialogs() {}
 
  private:
+  friend class SystemDialog;
   friend class Window;
+
+  void noteInFront(Window& window);
+  void noteGone(Window& window);
+  /// The window in front of those that are shown; null without one.
+  Window* frontWindow() const;
+  /// The window takes all input; null gives it back to all.
+  void setModal(Window* window);
+  void showWhoTakesInput(const Window* except);
+  /// The dialogs in front of a window that is to be closed go first.
+  void clearWayOf(Window& window);
+  template <class IsMeant>
+  void dismissDialogs(IsMeant isMeant);
+
+  // The one in front last.
+  std::vector<Window*> windows_;
   Window* activeWindow_ = nullptr;
+  Window* modal_ = nullptr;
+  std::vector<SystemDialog*> dialogs_;
   EventLoop events_;
 };
 

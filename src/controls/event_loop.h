@@ -7,6 +7,9 @@
 
 namespace controls {
 
+/// Ends the handler that waits for a dialog, because the window that asked is being closed.
+struct DialogDismissed {};
+
 /// The order of the program's events. A handler runs to its end; what it posted runs when the
 /// outermost event has ended, in the order in which it was posted.
 class EventLoop {
@@ -14,15 +17,11 @@ class EventLoop {
   /// Runs one event and, when it was the outermost, everything posted meanwhile.
   template <class Body>
   void runEvent(Body&& body) {
-    {
-      Depth depth(depth_);
-      body();
-    }
+    runHandler(body);
     while (depth_ == 0 && !tasks_.empty()) {
-      auto task = std::move(tasks_.front());
+      const auto task = std::move(tasks_.front());
       tasks_.pop_front();
-      Depth depth(depth_);
-      task();
+      runHandler(task);
     }
   }
 
@@ -44,6 +43,15 @@ class EventLoop {
    private:
     int& depth_;
   };
+
+  template <class Handler>
+  void runHandler(const Handler& handler) {
+    Depth depth(depth_);
+    try {
+      handler();
+    } catch (const DialogDismissed&) {
+    }
+  }
 
   int depth_ = 0;
   std::deque<std::function<void()>> tasks_;

@@ -38,7 +38,7 @@ bool MenuItem::canBeChosen() const {
 }
 
 bool MenuItem::choose() {
-  if (!canBeChosen()) return false;
+  if (!canBeChosen() || !window_.enabled()) return false;
   if (onClick) window_.desktop().events().runEvent(onClick);
   return true;
 }

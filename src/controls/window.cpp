@@ -12,10 +12,13 @@ Window::Window(Desktop& desktop, const WindowLayout& layout)
       layout_(layout),
       name_(layout.name),
       caption_(layout.caption),
-      bounds_(layout.place) {}
+      bounds_(layout.place) {
+  // Behind those that have been shown.
+  desktop_.windows_.insert(desktop_.windows_.begin(), this);
+}
 
 Window::~Window() {
-  if (desktop_.activeWindow_ == this) desktop_.activeWindow_ = nullptr;
+  desktop_.noteGone(*this);
 }
 
 void Window::build() {
@@ -77,16 +80,23 @@ void Window::show() {
   bringToFront();
 }
 
+void Window::showModal() {
+  desktop_.setModal(this);
+  show();
+}
+
 void Window::hide() {
   if (!visible_) return;
   visible_ = false;
+  if (desktop_.modal_ == this) desktop_.setModal(nullptr);
   if (desktop_.activeWindow_ == this) desktop_.activeWindow_ = nullptr;
+  Window* next = desktop_.frontWindow();
+  if (next && !desktop_.activeWindow_) handOver(*next);
   showVisible();
 }
 
-void Window::setEnabled(bool enabled) {
-  enabled_ = enabled;
-  showEnabled();
+bool Window::enabled() const {
+  return desktop_.takesInput(*this);
 }
 
 void Window::setState(WindowState state) {
@@ -101,7 +111,11 @@ void Window::setOnTop(bool onTop) {
 }
 
 void Window::requestClose() {
-  if (enabled_ && onClose) desktop_.events().runEvent(onClose);
+  if (!onClose) return;
+  desktop_.events().runEvent([this] {
+    desktop_.clearWayOf(*this);
+    onClose();
+  });
 }
 
 Control* Window::findControl(std::string_view name) const {
@@ -156,6 +170,7 @@ void Window::noteState(WindowState state) {
 }
 
 void Window::noteActivated() {
+  desktop_.noteInFront(*this);
   if (desktop_.activeWindow_ == this) return;
   if (!focusedControl_) moveFocus(true);
   Window* before = desktop_.activeWindow_;

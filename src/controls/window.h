@@ -56,17 +56,19 @@ class Window {
   /// Shows the window and brings it to the front. The first time: a resize event, then it is
   /// activated, then its first control has the focus.
   void show();
+  /// Shows it as a dialog: the other windows take no input until it is hidden.
+  void showModal();
+  /// Hides it; the one behind it comes to the front.
   void hide();
-  /// A disabled window takes no input; a dialog in front of it does this.
-  bool enabled() const { return enabled_; }
-  void setEnabled(bool enabled);
+  /// Whether it takes input: no dialog is in front of it.
+  bool enabled() const;
   WindowState state() const { return state_; }
   void setState(WindowState state);
   bool onTop() const { return onTop_; }
   /// The system's switch between topmost and normal, which moves the window to 0,0 and shrinks it
   /// to nothing; the caller puts it back.
   void setOnTop(bool onTop);
-  /// What the user does with the close box.
+  /// The user, or another program, asks it to close. A dialog in front of it goes first.
   void requestClose();
 
   Control* findControl(std::string_view name) const;
@@ -120,10 +122,14 @@ class Window {
   virtual void showOnTop() {}
   /// Brings the window to the front. The implementation tells noteActivated.
   virtual void bringToFront() = 0;
+  /// The window is about to be hidden and `next` comes to the front.
+  virtual void handOver(Window& next) { next.bringToFront(); }
   /// Puts the keyboard's focus on a control of the window in front.
   virtual void showFocus(Control&) {}
 
  private:
+  friend class Desktop;
+
   std::vector<Control*> tabOrder() const;
   bool isTabStop(const Control& control) const;
   bool takeShortcut(const KeyStroke& stroke);
@@ -144,7 +150,6 @@ class Window {
   WindowState state_ = WindowState::Normal;
   bool visible_ = false;
   bool shownOnce_ = false;
-  bool enabled_ = true;
   bool onTop_ = false;
 };
 

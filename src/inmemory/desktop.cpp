@@ -1,7 +1,5 @@
 #include "inmemory/desktop.h"
 
-#include <algorithm>
-
 #include "inmemory/window.h"
 
 namespace inmemory {
@@ -11,6 +9,8 @@ std::unique_ptr<controls::Window> Desktop::createWindow(const controls::WindowLa
 }
 
 int Desktop::showMessage(const controls::UserMessage& box) {
+  boxes.push_back({box, controls::kNoAnswer});
+  stayOpen();
   int answer = controls::kAnswerOk;
   if (box.buttons == controls::Buttons::YesNo) {
     answer = controls::kAnswerYes;
@@ -19,7 +19,7 @@ int Desktop::showMessage(const controls::UserMessage& box) {
       answers.pop_front();
     }
   }
-  boxes.push_back({box, answer});
+  boxes.back().answer = answer;
   return answer;
 }
 
@@ -48,6 +48,7 @@ bool Desktop::startProgramAndPaste(const std::string& program) {
 }
 
 std::optional<std::uint32_t> Desktop::chooseColor(std::uint32_t) {
+  stayOpen();
   if (colors.empty()) return {};
   const auto color = colors.front();
   colors.pop_front();
@@ -61,15 +62,14 @@ std::optional<controls::RegistryValue> Desktop::registryValue(std::string_view k
   return found->second;
 }
 
-void Desktop::bringToFront(controls::Window& window) {
-  std::erase(order_, &window);
-  order_.push_back(&window);
-  window.noteActivated();
-}
-
-void Desktop::noteGone(const controls::Window& window) {
-  std::erase(order_, &window);
-  if (!activeWindow() && !order_.empty()) order_.back()->noteActivated();
+void Desktop::stayOpen() {
+  const controls::SystemDialog dialog(*this);
+  if (!meanwhile.empty()) {
+    const auto happens = std::move(meanwhile.front());
+    meanwhile.pop_front();
+    events().runEvent(happens);
+  }
+  dialog.noteAnswered();
 }
 
 }  // namespace inmemory

@@ -44,11 +44,6 @@ class Desktop : public controls::Desktop {
   std::string programFolder() override { return "C:\\Tallyrex"; }
   std::string programName() override { return name; }
 
-  /// The window in front gets the user's keys.
-  void bringToFront(controls::Window& window);
-  /// The window is hidden or destroyed: the one behind it comes to the front.
-  void noteGone(const controls::Window& window);
-
   int beeps = 0;
   std::vector<ShownBox> boxes;
   std::vector<Launch> launches;
@@ -67,9 +62,11 @@ class Desktop : public controls::Desktop {
   std::map<std::pair<std::string, std::string>, std::string> registry;
   std::map<std::string, Settings> stores;
 
+  /// What happens while the next dialogs stand open, one for each, before they are answered.
+  std::deque<std::function<void()>> meanwhile;
+
  private:
-  // The windows that have been in front, the one in front last.
-  std::vector<controls::Window*> order_;
+  void stayOpen();
 };
 
 }  // namespace inmemory

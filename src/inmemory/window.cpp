@@ -9,12 +9,8 @@ using controls::ControlKind;
 using controls::WindowState;
 
 Window::Window(Desktop& desktop, const controls::WindowLayout& layout)
-    : controls::Window(desktop, layout), screen_(desktop) {
+    : controls::Window(desktop, layout) {
   build();
-}
-
-Window::~Window() {
-  screen_.noteGone(*this);
 }
 
 std::unique_ptr<controls::Control> Window::makeControl(const controls::ControlLayout& layout) {
@@ -37,10 +33,6 @@ std::unique_ptr<controls::MenuItem> Window::makeMenuItem(const controls::MenuIte
   return std::make_unique<controls::MenuItem>(*this, layout, parent);
 }
 
-void Window::showVisible() {
-  if (!visible()) screen_.noteGone(*this);
-}
-
 void Window::showState() {
   if (state() == WindowState::Minimized) return;
   if (state() == WindowState::Maximized && !maximized_) {
@@ -55,10 +47,6 @@ void Window::showState() {
 
 void Window::showOnTop() {
   noteBounds({0, 0, 0, 0});
-}
-
-void Window::bringToFront() {
-  screen_.bringToFront(*this);
 }
 
 }  // namespace inmemory

@@ -10,19 +10,16 @@ class Desktop;
 class Window : public controls::Window {
  public:
   Window(Desktop& desktop, const controls::WindowLayout& layout);
-  ~Window() override;
 
  protected:
   std::unique_ptr<controls::Control> makeControl(const controls::ControlLayout& layout) override;
   std::unique_ptr<controls::MenuItem> makeMenuItem(const controls::MenuItemLayout& layout,
                                                    controls::MenuItem* parent) override;
-  void showVisible() override;
   void showState() override;
   void showOnTop() override;
-  void bringToFront() override;
+  void bringToFront() override { noteActivated(); }
 
  private:
-  Desktop& screen_;
   // Where the window stands when it is neither maximized nor minimized.
   controls::Rect normalBounds_;
   bool maximized_ = false;

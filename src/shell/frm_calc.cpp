@@ -51,8 +51,6 @@ frmCalc::frmCalc(controls::Desktop& desktop, Globals& globals, Program& program)
   window_->onActivate = [this] { Form_Activate(); };
   window_->onClose = [this] { unload(); };
   window_->onHelp = [this] { mnuHelpContents_Click(); };
-  common::trap([this] { Form_Load(); },
-               [this](const common::RunTimeError& error) { engine_.ShowError(error); });
 }
 
 void frmCalc::wireKeys() {

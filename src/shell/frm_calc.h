@@ -31,6 +31,7 @@ class frmCalc {
   frmCalc& operator=(const frmCalc&) = delete;
 
   controls::Window& window() { return *window_; }
+  void load();
   void show() { window_->show(); }
   /// Saves the settings, unless the window is minimized, and goes.
   void unload();

@@ -37,6 +37,11 @@ void frmCalc::store(const std::string& key, std::string_view text) {
   desktop_.settings().write(kSection, key, text);
 }
 
+void frmCalc::load() {
+  common::trap([this] { Form_Load(); },
+               [this](const common::RunTimeError& error) { engine_.ShowError(error); });
+}
+
 void frmCalc::Form_Load() {
   globals_.helpFile = chooseHelpFile(desktop_);
   txtEntry.setText("");

@@ -4,7 +4,8 @@
 
 #include <commdlg.h>
 
-#include <algorithm>
+#include <iterator>
+#include <string_view>
 
 #include "win32/clipboard.h"
 #include "win32/help_viewer.h"
@@ -17,27 +18,21 @@
 
 namespace win32 {
 
-/// A dialog of the system's is in front: no window of the program takes input. The system itself
-/// disables only the window that owns the dialog.
-class Desktop::Modal {
- public:
-  explicit Modal(Desktop& desktop) : desktop_(desktop) {
-    if (auto* active = static_cast<Window*>(desktop.activeWindow())) owner_ = active->handle();
-    for (Window* window : desktop_.order_)
-      if (window->handle() != owner_) EnableWindow(window->handle(), FALSE);
-  }
-  ~Modal() {
-    for (Window* window : desktop_.order_) EnableWindow(window->handle(), window->enabled());
-  }
-  Modal(const Modal&) = delete;
-  Modal& operator=(const Modal&) = delete;
+namespace {
 
-  HWND owner() const { return owner_; }
+HWND handleOf(const controls::Window* window) {
+  return window ? static_cast<const Window*>(window)->handle() : nullptr;
+}
 
- private:
-  Desktop& desktop_;
-  HWND owner_ = nullptr;
-};
+BOOL CALLBACK dismissDialog(HWND window, LPARAM) {
+  constexpr wchar_t kDialogClass[] = L"#32770";
+  wchar_t name[std::size(kDialogClass) + 1] = L"";
+  GetClassNameW(window, name, static_cast<int>(std::size(name)));
+  if (std::wstring_view(name) == kDialogClass) EndDialog(window, 0);
+  return TRUE;
+}
+
+}  // namespace
 
 Desktop::Desktop(const std::string& settingsRoot)
     : settings_(settingsRoot + "\\" + narrow(baseNameOf(programPath()))) {
@@ -52,11 +47,13 @@ int Desktop::showMessage(const controls::UserMessage& box) {
   const bool question = box.buttons == controls::Buttons::YesNo;
   UINT style = MB_TASKMODAL | static_cast<UINT>(question ? MB_YESNO : MB_OK);
   if (box.icon == controls::Icon::Question) style |= MB_ICONQUESTION;
-  const Modal modal(*this);
+  const controls::SystemDialog dialog(*this);
   const int answer =
-      MessageBoxW(modal.owner(), wide(box.text).c_str(), wide(box.title).c_str(), style);
+      MessageBoxW(handleOf(dialog.owner()), wide(box.text).c_str(), wide(box.title).c_str(), style);
+  dialog.noteAnswered();
   if (!question) return controls::kAnswerOk;
-  return answer == IDYES ? controls::kAnswerYes : controls::kAnswerNo;
+  if (answer == IDYES) return controls::kAnswerYes;
+  return answer == IDNO ? controls::kAnswerNo : controls::kNoAnswer;
 }
 
 void Desktop::beep() {
@@ -80,22 +77,23 @@ bool Desktop::startProgramAndPaste(const std::string& program) {
 }
 
 void Desktop::showHelp(const controls::HelpRequest& request) {
-  const auto* active = static_cast<Window*>(activeWindow());
-  if (openHelp(request, active ? active->handle() : nullptr)) return;
+  if (openHelp(request, handleOf(activeWindow()))) return;
   showMessage({.text = whereHelpIs(request.file)});
 }
 
 std::optional<std::uint32_t> Desktop::chooseColor(std::uint32_t present) {
-  const Modal modal(*this);
+  const controls::SystemDialog dialog(*this);
   static_assert(sizeof(COLORREF) == sizeof(std::uint32_t));
   CHOOSECOLORW choice = {};
   choice.lStructSize = sizeof choice;
-  choice.hwndOwner = modal.owner();
+  choice.hwndOwner = handleOf(dialog.owner());
   choice.rgbResult = present;
   choice.lpCustColors = reinterpret_cast<COLORREF*>(mixedColors_.data());
   choice.Flags = CC_ANYCOLOR | CC_FULLOPEN | CC_RGBINIT;
   const auto chooseColor = lateFunction<decltype(&ChooseColorW)>(L"comdlg32.dll", "ChooseColorW");
-  if (!chooseColor || !chooseColor(&choice)) return {};
+  const bool chosen = chooseColor && chooseColor(&choice);
+  dialog.noteAnswered();
+  if (!chosen) return {};
   return choice.rgbResult;
 }
 
@@ -116,25 +114,8 @@ std::string Desktop::programName() {
   return narrow(baseNameOf(programPath()));
 }
 
-void Desktop::noteInFront(Window& window) {
-  std::erase(order_, &window);
-  order_.push_back(&window);
-}
-
-void Desktop::handOver(Window& window) {
-  const bool inFront = window.isInFront();
-  std::erase(order_, &window);
-  if (order_.empty() || activeWindow()) return;
-  if (inFront) {
-    order_.back()->comeToFront();
-  } else {
-    // Another program has the keys, and keeps them.
-    order_.back()->noteActivated();
-  }
-}
-
-void Desktop::forget(Window& window) {
-  std::erase(order_, &window);
+void Desktop::dismissSystemDialogs() {
+  EnumThreadWindows(GetCurrentThreadId(), dismissDialog, 0);
 }
 
 }  // namespace win32

@@ -33,18 +33,11 @@ class Desktop : public controls::Desktop {
   std::string programFolder() override;
   std::string programName() override;
 
-  /// The window has come to the front of the program's own.
-  void noteInFront(Window& window);
-  /// The window is about to be hidden: the one behind it comes to the front.
-  void handOver(Window& window);
-  void forget(Window& window);
+ protected:
+  void dismissSystemDialogs() override;
 
  private:
-  class Modal;
-
   RegistrySettings settings_;
-  // The windows that have been in front, the one in front last.
-  std::vector<Window*> order_;
   // The colours that the user has mixed in the colour picker; white where none is.
   std::array<std::uint32_t, 16> mixedColors_;
 };

@@ -66,7 +66,6 @@ Window::Window(Desktop& desktop, const controls::WindowLayout& layout)
 }
 
 Window::~Window() {
-  screen_.forget(*this);
   SetWindowLongPtrW(handle_, GWLP_USERDATA, 0);
   DestroyWindow(handle_);
 }
@@ -112,7 +111,6 @@ void Window::showEnabled() {
 }
 
 void Window::showVisible() {
-  if (!visible()) screen_.handOver(*this);
   ShowWindow(handle_, visible() ? SW_SHOWNA : SW_HIDE);
 }
 
@@ -126,8 +124,13 @@ void Window::showOnTop() {
 void Window::bringToFront() {
   SetForegroundWindow(handle_);
   SetActiveWindow(handle_);
-  screen_.noteInFront(*this);
   noteActivated();
+}
+
+void Window::handOver(controls::Window& next) {
+  if (isInFront()) return controls::Window::handOver(next);
+  // Another program has the keys, and keeps them.
+  next.noteActivated();
 }
 
 void Window::showFocus(controls::Control& control) {

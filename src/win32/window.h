@@ -26,7 +26,6 @@ class Window : public controls::Window {
   /// How the system draws buttons; nothing where it draws them in the classic way.
   HTHEME buttonTheme();
   bool isInFront() const { return GetForegroundWindow() == handle_; }
-  void comeToFront() { bringToFront(); }
 
  protected:
   std::unique_ptr<controls::Control> makeControl(const controls::ControlLayout& layout) override;
@@ -39,6 +38,7 @@ class Window : public controls::Window {
   void showState() override;
   void showOnTop() override;
   void bringToFront() override;
+  void handOver(controls::Window& next) override;
   void showFocus(controls::Control& control) override;
 
  private:

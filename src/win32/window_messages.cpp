@@ -52,10 +52,7 @@ std::optional<LRESULT> Window::takeFocus(const Message& message) {
     focusNative();
     return 0;
   }
-  if (LOWORD(message.wParam) != WA_INACTIVE) {
-    screen_.noteInFront(*this);
-    noteActivated();
-  }
+  if (LOWORD(message.wParam) != WA_INACTIVE) noteActivated();
   return {};
 }
 
@@ -87,12 +84,11 @@ std::optional<LRESULT> Window::takeColors(const Message& message) {
   return reinterpret_cast<LRESULT>(control->prepareColors(reinterpret_cast<HDC>(message.wParam)));
 }
 
-// The end of the session does not ask, and a dialog in front does not hinder it.
 std::optional<LRESULT> Window::takeClosing(const Message& message) {
   if (message.id == WM_CLOSE) {
     requestClose();
-  } else if (message.wParam && onClose) {
-    onClose();
+  } else if (message.wParam) {
+    desktop().endSession();
   }
   return 0;
 }

@@ -153,14 +153,13 @@ TEST_F(NativeWindow, FastSecondClickChoosesAnOptionThatWasLeftMeanwhile) {
   EXPECT_FALSE(right.value());
 }
 
-TEST_F(NativeWindow, EndOfTheSessionClosesItAlsoBehindADialog) {
-  window_->onClose = [this] { note("close"); };
-  window_->setEnabled(false);
+TEST_F(NativeWindow, EndOfTheSessionIsToldAndNotItsCancellation) {
+  kind_->desktop().onEndSession = [this] { note("end"); };
   EXPECT_TRUE(SendMessageW(handleOf(*window_), WM_QUERYENDSESSION, 0, 0));
-  SendMessageW(handleOf(*window_), WM_CLOSE, 0, 0);
+  SendMessageW(handleOf(*window_), WM_ENDSESSION, FALSE, 0);
   EXPECT_EQ(takeLog(), Log{});
   SendMessageW(handleOf(*window_), WM_ENDSESSION, TRUE, 0);
-  EXPECT_EQ(takeLog(), Log{"close"});
+  EXPECT_EQ(takeLog(), Log{"end"});
 }
 
 TEST_F(NativeWindow, TextThatAScreenReaderPutsInIsAnEdit) {

@@ -273,15 +273,43 @@ TEST_F(WindowContract, MaximizedWindowGoesBackToWhereItWas) {
   EXPECT_EQ(window_->bounds(), before);
 }
 
-TEST_F(WindowContract, DisabledWindowTakesNoKeys) {
-  window_->setEnabled(false);
+TEST_F(WindowContract, DialogTakesTheKeysUntilItIsHidden) {
+  window_->onClose = [this] { note("close"); };
+  window_->menuItem("mnuCopy").onClick = [this] { note("copy"); };
+  const auto dialog = kind_->desktop().createWindow(plainLayout());
+  dialog->showModal();
+  kind_->settle();
+  EXPECT_FALSE(window_->enabled());
+  EXPECT_TRUE(dialog->enabled());
   type("7");
   EXPECT_EQ(first_.text(), "");
-  window_->setEnabled(true);
-  window_->show();
+  EXPECT_EQ(dialog->textBox("first").text(), "7");
+  EXPECT_FALSE(window_->menuItem("mnuCopy").choose());
+  EXPECT_EQ(takeLog(), Log{});
+  dialog->hide();
   kind_->settle();
+  EXPECT_TRUE(window_->enabled());
   type("7");
   EXPECT_EQ(first_.text(), "7");
+}
+
+TEST_F(WindowContract, WindowThatIsAskedToCloseClosesTheDialogInFrontOfItFirst) {
+  const auto dialog = kind_->desktop().createWindow(plainLayout());
+  window_->onClose = [this] { note("close window"); };
+  dialog->onClose = [&] {
+    note("close dialog");
+    dialog->hide();
+  };
+  dialog->showModal();
+  kind_->settle();
+  window_->requestClose();
+  EXPECT_EQ(takeLog(), (Log{"close dialog", "close window"}));
+}
+
+TEST_F(WindowContract, EndOfTheSessionIsOneEventOfTheProgram) {
+  kind_->desktop().onEndSession = [this] { note("end"); };
+  kind_->desktop().endSession();
+  EXPECT_EQ(takeLog(), Log{"end"});
 }
 
 TEST_F(WindowContract, HiddenWindowHandsTheFocusToTheOneBehindIt) {

@@ -13,6 +13,9 @@ struct Driver::Entry {
 const Driver::Entry Driver::kCommands[] = {
     {"start", &Driver::start},
     {"close", &Driver::close},
+    {"askclose", &Driver::askToClose},
+    {"endsession", &Driver::endSession},
+    {"during", &Driver::queueRequest},
     {"window", &Driver::bringToFront},
     {"type", &Driver::type},
     {"roll", &Driver::roll},
@@ -121,6 +124,31 @@ void Driver::close(Command& command) {
   controls::Window& closing = freeWindow(command.word());
   command.end();
   stage_.close(closing);
+}
+
+void Driver::askToClose(Command& command) {
+  const Request request = {command.word()};
+  command.end();
+  window(request.window);
+  stage_.receive(request);
+}
+
+void Driver::endSession(Command& command) {
+  command.end();
+  requireRunning();
+  stage_.receive({});
+}
+
+void Driver::queueRequest(Command& command) {
+  const std::string name = command.word();
+  Request request;
+  if (name == "askclose") {
+    request.window = command.word();
+  } else if (name != "endsession") {
+    throw CommandError("not one that comes from outside: " + name);
+  }
+  command.end();
+  stage_.queueRequest(request);
 }
 
 void Driver::bringToFront(Command& command) {

@@ -31,6 +31,9 @@ class Driver {
 
   void start(Command& command);
   void close(Command& command);
+  void askToClose(Command& command);
+  void endSession(Command& command);
+  void queueRequest(Command& command);
   void bringToFront(Command& command);
   void type(Command& command);
   void roll(Command& command);

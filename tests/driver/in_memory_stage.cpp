@@ -9,6 +9,7 @@ controls::Window* InMemoryStage::findWindow(std::string_view name) {
 }
 
 void InMemoryStage::start(const std::string& name) {
+  app_.reset();
   desktop_.name = name;
   app_ = std::make_unique<app::Application>(desktop_);
   app_->start();
@@ -24,7 +25,7 @@ void InMemoryStage::keyUp(const controls::KeyStroke& stroke) {
 
 // The mouse brings the window to the front and gives the control the focus.
 void InMemoryStage::moveTo(controls::Control& control) {
-  desktop_.bringToFront(control.window());
+  control.window().noteActivated();
   control.setFocus();
 }
 
@@ -96,6 +97,14 @@ Json InMemoryStage::dumpSettings() {
   for (const auto& [section, values] : desktop_.stores[desktop_.name].sections)
     for (const auto& [key, text] : values) dump[section][key] = text;
   return dump;
+}
+
+void InMemoryStage::receive(const Request& request) {
+  if (request.window.empty()) {
+    desktop_.endSession();
+  } else if (controls::Window* window = findWindow(request.window)) {
+    window->requestClose();
+  }
 }
 
 Json InMemoryStage::takeEvents() {

@@ -17,7 +17,7 @@ class InMemoryStage : public Stage {
   bool running() override { return app_ && !app_->ended(); }
   void start(const std::string& name) override;
   void close(controls::Window& window) override { window.requestClose(); }
-  void bringToFront(controls::Window& window) override { desktop_.bringToFront(window); }
+  void bringToFront(controls::Window& window) override { window.noteActivated(); }
   void keyDown(const controls::KeyStroke& stroke, controls::KeyAscii character) override;
   void keyUp(const controls::KeyStroke& stroke) override;
   void click(controls::Control& control) override;
@@ -38,6 +38,10 @@ class InMemoryStage : public Stage {
   void deleteSetting(const std::string& section, const std::string& key) override;
   void clearSettings() override;
   Json dumpSettings() override;
+  void receive(const Request& request) override;
+  void queueRequest(const Request& request) override {
+    desktop_.meanwhile.push_back([this, request] { receive(request); });
+  }
   void queueAnswer(int answer) override { desktop_.answers.push_back(answer); }
   void queueColor(const std::optional<std::uint32_t>& color) override {
     desktop_.colors.push_back(color);

@@ -88,33 +88,39 @@ bool NativeBoxes::attend() {
   if (!dialog) return false;
   waitUntil([dialog] { return !IsWindow(dialog) || IsWindowVisible(dialog); });
   if (!IsWindow(dialog)) return true;
-  if (GetDlgItem(dialog, kRedOfPicker)) {
-    pickColor(dialog);
-  } else {
-    answerBox(dialog);
+  const bool isPicker = GetDlgItem(dialog, kRedOfPicker) != nullptr;
+  if (!isPicker) readBox(dialog);
+  if (!requests_.empty()) {
+    const auto request = std::move(requests_.front());
+    requests_.pop_front();
+    request();
   }
+  // What came from outside may have made it go.
+  if (IsWindowVisible(dialog)) isPicker ? pickColor(dialog) : answerBox(dialog);
   waitUntil([dialog] { return !IsWindow(dialog); });
   return true;
 }
 
-void NativeBoxes::answerBox(HWND dialog) {
+void NativeBoxes::readBox(HWND dialog) {
   const Parts parts = partsOf(dialog);
   SeenBox box = {.text = textOf(GetDlgItem(dialog, kTextOfBox)),
                  .title = textOf(dialog),
                  .buttons = namesOfButtons(parts.buttons),
                  .icon = nameOfIcon(parts.icon)};
+  const std::scoped_lock lock(mutex_);
+  seen_.push_back(std::move(box));
+}
+
+void NativeBoxes::answerBox(HWND dialog) {
+  const Parts parts = partsOf(dialog);
   HWND pressed = parts.buttons.empty() ? nullptr : parts.buttons.front();
-  if (box.buttons == "YesNo") {
+  if (namesOfButtons(parts.buttons) == "YesNo") {
     int answer = IDYES;
     if (!answers_.empty()) {
       answer = answers_.front();
       answers_.pop_front();
     }
     pressed = GetDlgItem(dialog, answer);
-  }
-  {
-    const std::scoped_lock lock(mutex_);
-    seen_.push_back(std::move(box));
   }
   PostMessageW(pressed, BM_CLICK, 0, 0);
 }

@@ -4,9 +4,11 @@
 
 #include <cstdint>
 #include <deque>
+#include <functional>
 #include <mutex>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace driver {
@@ -24,6 +26,8 @@ struct SeenBox {
 /// and press one of its buttons, and pick a colour.
 class NativeBoxes {
  public:
+  /// What happens while the next dialog stands open, before it is answered.
+  void queueRequest(std::function<void()> request) { requests_.push_back(std::move(request)); }
   void queueAnswer(int answer) { answers_.push_back(answer); }
   /// Nothing cancels the colour picker.
   void queueColor(const std::optional<std::uint32_t>& color) { colors_.push_back(color); }
@@ -36,9 +40,11 @@ class NativeBoxes {
   std::vector<SeenBox> takeSeen();
 
  private:
+  void readBox(HWND dialog);
   void answerBox(HWND dialog);
   void pickColor(HWND dialog);
 
+  std::deque<std::function<void()>> requests_;
   std::deque<int> answers_;
   std::deque<std::optional<std::uint32_t>> colors_;
   std::mutex mutex_;

@@ -55,6 +55,10 @@ class NativeStage : public Stage {
   void deleteSetting(const std::string& section, const std::string& key) override;
   void clearSettings() override;
   Json dumpSettings() override;
+  void receive(const Request& request) override;
+  void queueRequest(const Request& request) override {
+    boxes_.queueRequest([this, request] { sendRequest(request); });
+  }
   void queueAnswer(int answer) override { boxes_.queueAnswer(answer); }
   void queueColor(const std::optional<std::uint32_t>& color) override { boxes_.queueColor(color); }
   Json takeEvents() override;
@@ -64,6 +68,7 @@ class NativeStage : public Stage {
   void send(std::vector<INPUT> inputs);
   void act(const std::function<void()>& body);
   void deliver(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+  void sendRequest(const Request& request);
   void settle();
   void remark();
   void checkScreen();

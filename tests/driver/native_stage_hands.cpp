@@ -12,6 +12,8 @@ constexpr int kTriesOfKey = 20;
 constexpr int kTriesOfMouse = 5;
 constexpr int kTriesOfMenu = 10;
 constexpr DWORD kReportIsLate = 100;
+// Where what was asked for shows a message itself, nobody answers before that.
+constexpr UINT kAnswerIsLate = 1000;
 
 }  // namespace
 
@@ -174,6 +176,35 @@ void NativeStage::clickThrough(const std::vector<MenuPlace>& way, POINT place) {
 
 void NativeStage::close(controls::Window& window) {
   deliver(handleOf(window), WM_SYSCOMMAND, SC_CLOSE, 0);
+}
+
+// The system asks each window of the program in turn, and waits for it; so does another program.
+void NativeStage::sendRequest(const Request& request) {
+  const auto send = [](HWND window, UINT message, WPARAM wParam) {
+    DWORD_PTR answer = 0;
+    SendMessageTimeoutW(window, message, wParam, 0, SMTO_NORMAL, kAnswerIsLate, &answer);
+  };
+  std::vector<HWND> windows;
+  inspect([&] {
+    for (const auto name : {"frmCalc", "frmAnnuity", "frmAbout"})
+      if (const controls::Window* window = findWindow(name)) windows.push_back(handleOf(*window));
+    const controls::Window* asked = findWindow(request.window);
+    if (asked) windows = {handleOf(*asked)};
+    if (!asked && !request.window.empty()) windows.clear();
+  });
+  if (!request.window.empty()) {
+    for (HWND window : windows) send(window, WM_CLOSE, 0);
+    return;
+  }
+  for (HWND window : windows) send(window, WM_QUERYENDSESSION, 0);
+  for (HWND window : windows) send(window, WM_ENDSESSION, TRUE);
+}
+
+void NativeStage::receive(const Request& request) {
+  clearAway();
+  sendRequest(request);
+  ui_.post([] {});
+  settle();
 }
 
 void NativeStage::bringToFront(controls::Window& window) {

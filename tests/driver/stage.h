@@ -9,6 +9,12 @@
 
 namespace driver {
 
+/// What comes from outside: a request to close a window, or, without a name, the end of the
+/// session.
+struct Request {
+  std::string window;
+};
+
 /// The program on its stage, and the hands of the person in front of it. Each kind of controls has
 /// its own. What names a control has been looked up and found fit for it.
 class Stage {
@@ -50,6 +56,10 @@ class Stage {
   /// {SECTION: {KEY: TEXT}}
   virtual Json dumpSettings() = 0;
 
+  /// Nothing happens where the window is not loaded.
+  virtual void receive(const Request& request) = 0;
+  /// What comes while the next dialog stands open, before it is answered.
+  virtual void queueRequest(const Request& request) = 0;
   virtual void queueAnswer(int answer) = 0;
   /// What the next colour picker gives; nothing cancels it.
   virtual void queueColor(const std::optional<std::uint32_t>& color) = 0;

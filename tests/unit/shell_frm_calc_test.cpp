@@ -35,7 +35,10 @@ struct Shown {
   NothingAround program;
   frmCalc calc{desktop, globals, program};
 
-  Shown() { calc.show(); }
+  Shown() {
+    calc.load();
+    calc.show();
+  }
   controls::TextBox& box(std::string_view name) { return calc.window().textBox(name); }
   void choose(std::string_view name) { calc.window().menuItem(name).choose(); }
 };

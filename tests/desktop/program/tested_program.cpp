@@ -79,6 +79,12 @@ void TestedProgram::awaitEnd() const {
   await("the end of the program", [this] { return !running(); });
 }
 
+DWORD TestedProgram::exitCode() const {
+  DWORD code = STILL_ACTIVE;
+  GetExitCodeProcess(process_, &code);
+  return code;
+}
+
 void TestedProgram::kill() {
   if (!process_) return;
   if (running()) TerminateProcess(process_, 1);

@@ -28,6 +28,8 @@ class TestedProgram {
   bool running() const;
   /// Waits until it has ended by itself; throws NotSeen when it does not.
   void awaitEnd() const;
+  /// Of a program that has ended.
+  DWORD exitCode() const;
   /// Ends it, whatever it shows.
   void kill();
   bool owns(HWND window) const;

@@ -1,0 +1,196 @@
+#include <map>
+#include <optional>
+
+#include "desktop/program/program_test.h"
+
+namespace program {
+namespace {
+
+constexpr wchar_t kWindowClass[] = L"TallyrexWindow";
+
+BOOL CALLBACK addWindow(HWND window, LPARAM list) {
+  reinterpret_cast<std::vector<HWND>*>(list)->push_back(window);
+  return TRUE;
+}
+
+// What the program makes of an end that comes from outside, whatever stands open.
+class SessionEndTest : public ProgramTest {
+ protected:
+  void startWithFields() {
+    for (const auto& [key, text] : kFields) settings().write(L"Annuity", key, text);
+    start();
+    pressWith(VK_CONTROL, 'D');
+    await("stationary decimal", [this] { return isPressed(L"Stationary decimal"); });
+  }
+
+  void openFirstNote() {
+    startWithFields();
+    chooseCalculator(0);
+    awaitDialog();
+  }
+
+  void expectFieldsAsStored() {
+    for (const auto& [key, text] : kFields) EXPECT_EQ(settings().read(L"Annuity", key), text);
+    EXPECT_EQ(settings().read(L"Annuity", L"MsgLoan"), std::nullopt);
+  }
+
+  void expectMainWindowSaved() { EXPECT_EQ(settings().get(L"frmCalcchkShiftDec"), L"1"); }
+
+  /// Every top window of the program, also those that are not shown.
+  static std::vector<HWND> allWindows() {
+    std::vector<HWND> all;
+    EnumWindows(addWindow, reinterpret_cast<LPARAM>(&all));
+    std::erase_if(all, [](HWND window) { return !program().owns(window); });
+    return all;
+  }
+
+  /// The financial calculator while it is loaded but not shown yet.
+  static HWND hiddenWindow() {
+    for (HWND window : allWindows())
+      if (classOf(window) == kWindowClass && !IsWindowVisible(window)) return window;
+    return nullptr;
+  }
+
+  /// Tells windows of the session's end as the system does: it asks all, then tells all.
+  static void endSession(const std::vector<HWND>& windows) {
+    constexpr UINT kPatience = 5000;
+    DWORD_PTR agrees = 0;
+    for (HWND window : windows) {
+      SendMessageTimeoutW(window, WM_QUERYENDSESSION, 0, 0, SMTO_NORMAL, kPatience, &agrees);
+      EXPECT_NE(agrees, 0U);
+    }
+    for (HWND window : windows)
+      SendMessageTimeoutW(window, WM_ENDSESSION, TRUE, 0, SMTO_NORMAL, kPatience, &agrees);
+  }
+
+  static void askToClose(const std::vector<HWND>& windows) {
+    for (HWND window : windows) PostMessageW(window, WM_CLOSE, 0, 0);
+  }
+
+  static void expectEnd() {
+    program().awaitEnd();
+    EXPECT_EQ(program().exitCode(), 0U);
+  }
+
+  HWND openAboutBoxOverAWindowOnTop() {
+    startWithFields();
+    chooseFromMenu('W', "A");
+    await("always on top", [] {
+      return (GetWindowLongW(program().mainWindow(), GWL_EXSTYLE) & WS_EX_TOPMOST) != 0;
+    });
+    chooseFromMenu('H', "A");
+    const HWND about =
+        awaitWindow("the About box", [] { return program().windowTitled(L"About Tallyrex"); });
+    awaitInFront(about);
+    return about;
+  }
+
+  void expectOnTopKept() {
+    EXPECT_EQ(settings().get(L"frmCalcmnuWinAlwaysOnTop"), L"True");
+    expectMainWindowSaved();
+  }
+
+  const std::map<std::wstring, std::wstring> kFields = {
+      {L"OptNper0", L"False"},  {L"OptNper1", L"True"}, {L"txtNper", L"30"}, {L"txtRate", L"7.5"},
+      {L"txtPmt", L"1,234.56"}, {L"txtPV", L"100,000"}, {L"txtFV", L"77"},
+  };
+};
+
+TEST_F(SessionEndTest, ToldToTheMainWindowBehindTheFirstNoteKeepsTheFields) {
+  openFirstNote();
+  endSession({program().mainWindow()});
+  expectEnd();
+  expectFieldsAsStored();
+  expectMainWindowSaved();
+}
+
+TEST_F(SessionEndTest, ToldToTheWindowWhoseFirstNoteIsOpenKeepsTheFields) {
+  openFirstNote();
+  endSession({hiddenWindow()});
+  expectEnd();
+  expectFieldsAsStored();
+  expectMainWindowSaved();
+}
+
+TEST_F(SessionEndTest, ToldToAllWindowsKeepsTheFields) {
+  openFirstNote();
+  endSession(allWindows());
+  expectEnd();
+  expectFieldsAsStored();
+  expectMainWindowSaved();
+}
+
+TEST_F(SessionEndTest, RequestToAllWindowsDuringTheFirstNoteKeepsTheFields) {
+  openFirstNote();
+  askToClose(allWindows());
+  expectEnd();
+  expectFieldsAsStored();
+  expectMainWindowSaved();
+}
+
+TEST_F(SessionEndTest, WindowThatIsClosedDuringItsFirstNoteDoesNotCome) {
+  openFirstNote();
+  const HWND calculator = hiddenWindow();
+  askToClose({calculator});
+  answer('Y');
+  await("the end of the window", [calculator] { return !IsWindow(calculator); });
+  awaitInFront(program().mainWindow());
+  expectFieldsAsStored();
+  close();
+  expectFieldsAsStored();
+  expectMainWindowSaved();
+}
+
+TEST_F(SessionEndTest, AboutBoxIsNoObstacleForTheMainWindow) {
+  openAboutBoxOverAWindowOnTop();
+  askToClose({program().mainWindow()});
+  expectEnd();
+  expectOnTopKept();
+}
+
+TEST_F(SessionEndTest, ToldToTheMainWindowBehindTheAboutBoxIsCarriedOut) {
+  openAboutBoxOverAWindowOnTop();
+  endSession({program().mainWindow()});
+  expectEnd();
+  expectOnTopKept();
+}
+
+TEST_F(SessionEndTest, ToldToTheAboutBoxIsCarriedOut) {
+  const HWND about = openAboutBoxOverAWindowOnTop();
+  endSession({about});
+  expectEnd();
+  expectOnTopKept();
+}
+
+TEST_F(SessionEndTest, MessageIsNoObstacle) {
+  startWithFields();
+  chooseFromMenu('F', "S");
+  awaitDialog();
+  endSession({program().mainWindow()});
+  expectEnd();
+  expectMainWindowSaved();
+}
+
+TEST_F(SessionEndTest, OpenFieldsAreSavedAsTheyStand) {
+  startWithFields();
+  openCalculator(0, L"Loan Annuities");
+  type("25");
+  await("the term", [] { return textOf(program().focus()) == L"25"; });
+  endSession(allWindows());
+  expectEnd();
+  EXPECT_EQ(settings().read(L"Annuity", L"txtNper"), L"25");
+  EXPECT_EQ(settings().read(L"Annuity", L"txtPmt"), L"1,234.56");
+}
+
+TEST_F(SessionEndTest, CancelledEndChangesNothing) {
+  startWithFields();
+  for (HWND window : allWindows()) {
+    SendMessageW(window, WM_QUERYENDSESSION, 0, 0);
+    SendMessageW(window, WM_ENDSESSION, FALSE, 0);
+  }
+  type("2");
+  expectText(program().entry(), L"0.02");
+}
+
+}  // namespace
+}  // namespace program
