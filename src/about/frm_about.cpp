@@ -17,11 +17,7 @@ constexpr controls::FontLayout kFont = {"MS Sans Serif", 83, false};
 constexpr auto kControls = std::to_array<ControlLayout>({
     {.name = "lblTitle", .place = {360, 300, 4680, 480}, .tabIndex = 0, .font = kTitleFont},
     {.name = "lblVersion", .place = {360, 840, 4680, 270}, .tabIndex = 1, .font = kFont},
-    {.name = "lblDescription",
-     .caption = "A desktop adding machine with a paper tape, and a financial calculator beside it.",
-     .place = {360, 1200, 4680, 540},
-     .tabIndex = 2,
-     .font = kFont},
+    {.name = "lblDescription", .place = {360, 1200, 4680, 540}, .tabIndex = 2, .font = kFont},
     {.kind = ControlKind::Button,
      .name = "cmdOK",
      .caption = "OK",
@@ -62,24 +58,26 @@ frmAbout::frmAbout(controls::Desktop& desktop, const ProgramVersion& version,
     : desktop_(desktop), window_(desktop.createWindow(kLayout)) {
   window_->onClose = unload;
   window_->button("cmdOK").onClick = std::move(unload);
-  window_->button("cmdSysInfo").onClick = [this] { cmdSysInfo_Click(); };
-  Form_Load(version);
+  window_->button("cmdSysInfo").onClick = [this] { showSystemInformation(); };
+  writeTexts(version);
 }
 
-void frmAbout::Form_Load(const ProgramVersion& version) {
+void frmAbout::writeTexts(const ProgramVersion& version) {
   window_->setCaption("About " + std::string(kTitle));
   window_->control("lblTitle").setCaption(kTitle);
   window_->control("lblVersion").setCaption(versionText(version));
+  const controls::VersionNotes notes = desktop_.versionNotes();
+  window_->control("lblDescription").setCaption(notes.legalNotice + "  " + notes.company);
 }
 
-void frmAbout::cmdSysInfo_Click() {
-  if (!StartSysInfo())
+void frmAbout::showSystemInformation() {
+  if (!startSystemInformation())
     desktop_.showMessage(
         {.text = "Cannot Find The External Program For System Information (MSINFO32.EXE)"});
 }
 
 // The registry names the program, or the folder that it is in.
-bool frmAbout::StartSysInfo() {
+bool frmAbout::startSystemInformation() {
   if (const auto path = desktop_.registryValue("SOFTWARE\\Microsoft\\Shared Tools\\MSINFO", "PATH"))
     return desktop_.startProgram(*path);
   const auto folder =

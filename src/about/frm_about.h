@@ -21,7 +21,8 @@ ProgramVersion programVersion();
 /// "Software Version:  1.0"; a revision other than 0 follows.
 std::string versionText(const ProgramVersion& version);
 
-/// The About box: title, version, and the way to the system's own information program.
+/// The About box: title, version, what the version information says of the makers, and the way to
+/// the system's own information program.
 class frmAbout {
  public:
   /// `unload` is called when the user closes the box.
@@ -32,9 +33,9 @@ class frmAbout {
   controls::Window& window() { return *window_; }
 
  private:
-  void Form_Load(const ProgramVersion& version);
-  void cmdSysInfo_Click();
-  bool StartSysInfo();
+  void writeTexts(const ProgramVersion& version);
+  void showSystemInformation();
+  bool startSystemInformation();
 
   controls::Desktop& desktop_;
   std::unique_ptr<controls::Window> window_;

@@ -1,5 +1,6 @@
 #include "annuity/field_text.h"
 #include "annuity/frm_annuity.h"
+#include "common/number_text.h"
 #include "controls/number_field.h"
 #include "engine/allow_key.h"
 
@@ -16,6 +17,7 @@ namespace {
 void tidyMoney(TextBox& field, KeyCode key) {
   NumberField number(field);
   number.repairSign();
+  number.dropSeparatorsBehindPoint();
   if (!controls::isNavigationKey(key)) number.reformat(groupThousands(field.text()));
   number.dropLeadingCommas();
 }
@@ -45,6 +47,14 @@ bool frmAnnuity::takeEnterAsTab(KeyAscii& key) {
   key = 0;
   window_->sendKey(controls::kKeyTab, 0);
   return true;
+}
+
+// Of a ledger of another country, 12,50 is not 1,250.
+void frmAnnuity::takePaste(std::string& text) {
+  text = controls::firstLineOf(text);
+  if (!common::hasOddCommas(text)) return;
+  text.clear();
+  desktop_.beep();
 }
 
 }  // namespace annuity

@@ -30,6 +30,7 @@ void frmAnnuity::wireFields() {
     field->onGotFocus = [this, field] { enterField(*field); };
     field->onLostFocus = [field] { field->setBackColor(controls::Color::window()); };
     field->onKeyPress = [this, field](controls::KeyAscii& key) { takeKey(*field, key); };
+    field->onPaste = [this](std::string& text) { takePaste(text); };
   }
   for (const Quantity money : {Quantity::Payment, Quantity::PresentValue, Quantity::FutureValue})
     wireMoneyField(*fields_[money]);

@@ -71,6 +71,7 @@ class frmAnnuity {
   void enterField(controls::TextBox& field);
   void takeKey(controls::TextBox& field, controls::KeyAscii& key);
   bool takeEnterAsTab(controls::KeyAscii& key);
+  void takePaste(std::string& text);
   void withdrawPrint();
 
   void print();

@@ -20,10 +20,17 @@ struct Flows {
   int due = 0;
 };
 
+// Amounts are grouped by the window while they are keyed; a term or a rate counts as it is typed.
+double numberOf(Quantity quantity, const std::string& text) {
+  const bool asTyped = quantity == Quantity::Term || quantity == Quantity::Rate;
+  if (asTyped && common::hasOddCommas(text)) throw common::RunTimeError(common::kTypeMismatch);
+  return common::toNumber(text);
+}
+
 // The rate is a year's, in percent; a period is a month, whatever the unit of the term.
 Flows flowsOf(const AnnuityProblem& problem, Quantity unknown, const Configuration& configuration) {
   const auto number = [&](Quantity quantity) {
-    return quantity == unknown ? 0 : common::toNumber(problem.texts[quantity]);
+    return quantity == unknown ? 0 : numberOf(quantity, problem.texts[quantity]);
   };
   Flows flows;
   flows.rate = number(Quantity::Rate) * 0.01 / 12;

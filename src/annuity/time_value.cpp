@@ -141,14 +141,16 @@ double nper(double rate, double pmt, double pv, double fv, int due) {
 double rate(double nper, double pmt, double pv, double fv, int due, double guess) {
   constexpr int kMostSteps = 20;
   constexpr double kClose = 1e-7;
-  if (!(nper > 0) || !(guess > -1)) throw RunTimeError(kInvalidProcedureCall);
+  // Closer to a loss of everything no digits are left to tell one rate from another.
+  constexpr double kLeastLeft = 1e-9;
+  if (!(nper > 0) || !(guess + 1 > kLeastLeft)) throw RunTimeError(kInvalidProcedureCall);
   double rate = guess;
   Factors factors = factorsAt(rate, nper, due);
   for (int step = 0; step < kMostSteps; ++step) {
     const Point point = balanceAt(factors, slopesAt(rate, nper, due, factors), pmt, pv, fv);
     const double next = rate - point.value / point.slope;
     // Fails too for what has no number: a slope of 0, a logarithm that does not exist, an overflow.
-    if (!(next > -1) || !std::isfinite(next)) break;
+    if (!(next + 1 > kLeastLeft) || !std::isfinite(next)) break;
     const bool settled = std::abs(next - rate) < kClose;
     rate = next;
     factors = factorsAt(rate, nper, due);

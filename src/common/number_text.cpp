@@ -218,6 +218,18 @@ std::optional<double> tryNumber(std::string_view text) {
   return written ? valueOf(*written) : std::nullopt;
 }
 
+bool hasOddCommas(std::string_view text) {
+  constexpr std::size_t kGroup = 3;
+  const auto written = read(text);
+  if (!written || written->integer.find(',') == std::string_view::npos) return false;
+  std::string_view rest = written->integer;
+  const std::size_t first = takeWhile(rest, isDigit).size();
+  if (first == 0 || first > kGroup) return true;
+  while (take(rest, ','))
+    if (takeWhile(rest, isDigit).size() != kGroup) return true;
+  return false;
+}
+
 double toNumber(std::string_view text) {
   const auto written = read(text);
   return orError(valueOf(orError(written, kTypeMismatch)), kOverflow);

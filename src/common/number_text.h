@@ -14,6 +14,10 @@ std::optional<double> tryNumber(std::string_view text);
 /// As tryNumber, but raises error 13 for a text that is no number, error 6 beyond the range.
 double toNumber(std::string_view text);
 
+/// Whether a text is a number, but with commas that do not part its integer part into groups of
+/// three digits: 12,50 and 1234,567, not 1,234.50.
+bool hasOddCommas(std::string_view text);
+
 /// The shortest general text of a finite number: at most 15 significant digits, correctly rounded,
 /// an exponent ("1E+15", "3.33333333333333E-06") only where fixed notation needs more than 15
 /// digits in front of the point or behind it. Zero of either sign is "0".

@@ -40,6 +40,12 @@ struct HelpRequest {
   int data = 0;
 };
 
+/// What the program's own version information says besides the version.
+struct VersionNotes {
+  std::string legalNotice;
+  std::string company;
+};
+
 /// A value under the machine's registry root: a text, or a double word.
 using RegistryValue = std::string;
 
@@ -119,6 +125,7 @@ class Desktop {
   virtual std::string programFolder() = 0;
   /// The name of the executable file without its extension.
   virtual std::string programName() = 0;
+  virtual VersionNotes versionNotes() = 0;
 
   /// The window in front, which has the focus; none while the program shows none.
   Window* activeWindow() const { return activeWindow_; }

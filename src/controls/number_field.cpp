@@ -1,6 +1,7 @@
 #include "controls/number_field.h"
 
 #include <algorithm>
+#include <iterator>
 
 #include "common/unicode.h"
 
@@ -36,6 +37,19 @@ void NumberField::dropLeadingCommas() {
   const std::string text = box_.text();
   const auto commas = std::min(text.find_first_not_of(','), text.size());
   rewrite(std::string_view(text).substr(commas), box_.selStart() - static_cast<int>(commas));
+}
+
+void NumberField::dropSeparatorsBehindPoint() {
+  const std::u16string text = common::toUtf16(box_.text());
+  const std::size_t point = std::min(text.find(u'.'), text.size());
+  const std::size_t caret = static_cast<std::size_t>(box_.selStart());
+  const auto behindPoint = text.begin() + static_cast<std::ptrdiff_t>(point);
+  const auto atCaret = text.begin() + static_cast<std::ptrdiff_t>(std::max(caret, point));
+  const auto passed = std::count(behindPoint, atCaret, u',');
+  std::u16string kept = text.substr(0, point);
+  std::copy_if(behindPoint, text.end(), std::back_inserter(kept),
+               [](char16_t character) { return character != u','; });
+  rewrite(common::toUtf8(kept), static_cast<int>(caret) - static_cast<int>(passed));
 }
 
 // A character beyond the basic plane takes two places.

@@ -22,6 +22,8 @@ class NumberField {
   /// A character in front of the only sign gives way to it.
   void repairSign();
   void dropLeadingCommas();
+  /// Separators that have come to stand behind the point were not typed.
+  void dropSeparatorsBehindPoint();
 
  private:
   void dropFirstCharacter();

@@ -72,4 +72,8 @@ void Desktop::stayOpen() {
   dialog.noteAnswered();
 }
 
+controls::VersionNotes Desktop::versionNotes() {
+  return {.legalNotice = TALLYREX_LEGAL_NOTICE, .company = TALLYREX_COMPANY};
+}
+
 }  // namespace inmemory

@@ -43,6 +43,7 @@ class Desktop : public controls::Desktop {
   bool fileExists(const std::string& path) override { return files.contains(path); }
   std::string programFolder() override { return "C:\\Tallyrex"; }
   std::string programName() override { return name; }
+  controls::VersionNotes versionNotes() override;
 
   int beeps = 0;
   std::vector<ShownBox> boxes;

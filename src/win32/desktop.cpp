@@ -14,6 +14,7 @@
 #include "win32/programs.h"
 #include "win32/registry.h"
 #include "win32/text.h"
+#include "win32/version_notes.h"
 #include "win32/window.h"
 
 namespace win32 {
@@ -112,6 +113,10 @@ std::string Desktop::programFolder() {
 
 std::string Desktop::programName() {
   return narrow(baseNameOf(programPath()));
+}
+
+controls::VersionNotes Desktop::versionNotes() {
+  return readVersionNotes();
 }
 
 void Desktop::dismissSystemDialogs() {

@@ -32,6 +32,7 @@ class Desktop : public controls::Desktop {
   bool fileExists(const std::string& path) override;
   std::string programFolder() override;
   std::string programName() override;
+  controls::VersionNotes versionNotes() override;
 
  protected:
   void dismissSystemDialogs() override;

@@ -49,4 +49,12 @@ std::string findBroken(driver::Driver& driver) {
   return broken.empty() ? findBrokenMarks(driver, shown) : broken;
 }
 
+Json storedFields(driver::Driver& driver) {
+  return ask(driver, "store dump")["value"].value("Annuity", Json::object());
+}
+
+Json fieldsAtRest(driver::Driver& driver) {
+  return isTrue(driver, "get frmAnnuity Loaded") ? Json() : storedFields(driver);
+}
+
 }  // namespace fuzz

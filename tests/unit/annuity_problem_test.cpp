@@ -89,6 +89,11 @@ TEST(Solve, WritesTheZeroesOfAFutureValue) {
   EXPECT_EQ(outcome.written[0].text, "0");
 }
 
+TEST(Solve, ReadsThroughTheSeparatorsOfAnAmount) {
+  expectAnswer(solveAs(AnnuityKind::Standard, inMonths({"1,200", "0", "", "-1,20000", "0"})),
+               "$ 100.00", "Monthly Payment equals:");
+}
+
 TEST(Solve, RefusesAllButOneBlank) {
   for (const PerQuantity<std::string>& texts :
        {PerQuantity<std::string>{"12", "5", "100", "1000", "0"},
@@ -108,6 +113,8 @@ TEST(Solve, GivesTheErrorOfTheArithmetic) {
     return solveAs(AnnuityKind::Standard, inMonths(std::move(texts)));
   };
   expectError(standard({"12", "abc", "", "1000", "0"}), common::kTypeMismatch);
+  expectError(standard({"12", "7,5", "", "1000", "0"}), common::kTypeMismatch);
+  expectError(standard({"1,2", "7.5", "", "1000", "0"}), common::kTypeMismatch);
   expectError(standard({"12", "", "100", "1000", "0"}), common::kInvalidProcedureCall);
   expectError(standard({"1E308", "5", "", "1000", "0"}), common::kOverflow);
 }

@@ -169,6 +169,12 @@ TEST(Rate, StartsFromTheGuess) {
   EXPECT_EQ(errorOf([] { return annuity::rate(45, -790, 4105, 0, 0, -3.8092); }), 5);
 }
 
+TEST(Rate, HasNoAnswerCloserToALossOfEverythingThanABillionth) {
+  EXPECT_EQ(errorOf([] { return annuity::rate(1, -1, 1e12, -100, 0); }), 5);
+  EXPECT_NEAR(annuity::rate(1, -1, 1e12, -100000, 0), -0.999999899999, 1e-15);
+  EXPECT_EQ(errorOf([] { return annuity::rate(12, -100, 1000, 0, 0, -1 + 1e-10); }), 5);
+}
+
 void checkRate(const RateProblem& p) {
   double found = 0;
   EXPECT_EQ(errorOf([&] { return found = annuity::rate(p.nper, p.pmt, p.pv, p.fv, p.due); }), 0);

@@ -342,5 +342,22 @@ TEST(NumberDigits, OfZeroAreNone) {
   EXPECT_EQ(toDigits(-0.0).digits, "");
 }
 
+TEST(HasOddCommas, FindsThoseThatPartNoGroupsOfThree) {
+  for (const char* text : {"12,50", "1,23", "1,2345", "1234,567", "5,", ",500", "1,,234", "-1,23",
+                           "$7,5", "(1,2)", "7,5 ", "1,234,56.7", "1,2E3", "0,5"})
+    EXPECT_TRUE(hasOddCommas(text)) << text;
+}
+
+TEST(HasOddCommas, LetsGroupsOfThreePass) {
+  for (const char* text : {"1,234.50", "1234.50", "-12,345", "123,456,789", "$ 1,234.50", "(1,234)",
+                           "1,000E3", ".5", "0"})
+    EXPECT_FALSE(hasOddCommas(text)) << text;
+}
+
+TEST(HasOddCommas, SaysNothingOfWhatIsNoNumber) {
+  for (const char* text : {"", "abc", ",", "1,23x", "1.5,6", "7,5\r\n"})
+    EXPECT_FALSE(hasOddCommas(text)) << text;
+}
+
 }  // namespace
 }  // namespace common

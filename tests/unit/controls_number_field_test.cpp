@@ -124,5 +124,17 @@ TEST_F(NumberFieldTest, LeadingCommasGo) {
   EXPECT_EQ(shown(), " 0+0");
 }
 
+TEST_F(NumberFieldTest, SeparatorsBehindThePointGo) {
+  put("8.,123,456", 2);
+  field_.dropSeparatorsBehindPoint();
+  EXPECT_EQ(shown(), "8.123456 2+0");
+  put("1,234.5,6", 9);
+  field_.dropSeparatorsBehindPoint();
+  EXPECT_EQ(shown(), "1,234.56 8+0");
+  put("1,234", 2);
+  field_.dropSeparatorsBehindPoint();
+  EXPECT_EQ(shown(), "1,234 2+0");
+}
+
 }  // namespace
 }  // namespace controls

@@ -120,11 +120,9 @@ TEST_F(AccessibleNamesTest, AboutBoxSaysWhatItShows) {
   chooseFromMenu('H', "A");
   const HWND about =
       awaitWindow("the About box", [] { return program().windowTitled(L"About Tallyrex"); });
-  EXPECT_EQ(namesIn(about),
-            (Names{L"Tallyrex", L"Software Version:  1.0",
-                   L"A desktop adding machine with a paper tape, and a financial calculator beside "
-                   L"it.",
-                   L"OK", L"System Info..."}));
+  EXPECT_EQ(namesIn(about), (Names{L"Tallyrex", L"Software Version:  1.0",
+                                   L"Copyright 2026 The Tallyrex authors  The Tallyrex authors",
+                                   L"OK", L"System Info..."}));
 }
 
 }  // namespace
