@@ -30,6 +30,8 @@ controls::Window* Application::findWindow(std::string_view name) const {
 
 // One that is open goes first, so that it opens afresh in the configuration requested.
 void Application::openFinancialCalc(common::AnnuityKind kind) {
+  // Another program may have closed the main window while a message of its own was shown.
+  if (!calc_) return;
   if (annuity_) annuity_->unload();
   annuity::Program& program = *this;
   annuity_ = std::make_unique<annuity::frmAnnuity>(desktop_, program);

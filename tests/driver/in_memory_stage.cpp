@@ -53,7 +53,9 @@ void InMemoryStage::useBoxMenu(controls::TextBox& box, controls::BoxCommand comm
   box.closeMenu(command);
 }
 
+// The menu is that of the main window.
 void InMemoryStage::choose(controls::MenuItem& item) {
+  findWindow("frmCalc")->noteActivated();
   item.choose();
 }
 
