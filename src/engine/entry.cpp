@@ -1,137 +1,137 @@
-#include <algorithm>
-#include <array>
-#include <cctype>
+#include "engine/entry.h"
 
-#include "engine/engine.h"
-#include "engine/entry_format.h"
+#include <algorithm>
+
+#include "common/number_pattern.h"
+#include "common/number_text.h"
+#include "common/run_time_error.h"
+#include "engine/decimal_formats.h"
+#include "engine/show_error.h"
 
 namespace engine {
 
-using controls::KeyAscii;
-using controls::KeyCode;
-
 namespace {
 
-constexpr int kStationaryDigits = 15;
-constexpr KeyAscii kCtrlV = 22;
-constexpr KeyCode kKeyDecimalPoint = 190;
-
-struct KeyCommand {
-  KeyAscii key;
-  void (Engine::*run)();
-};
-
-constexpr std::array kKeyCommands = {
-    KeyCommand{controls::kKeyEnter, &Engine::cmdEquals_Click},
-    KeyCommand{'+', &Engine::cmdPlus_Click},
-    KeyCommand{'-', &Engine::cmdMinus_Click},
-    KeyCommand{'/', &Engine::cmdDivide_Click},
-    KeyCommand{'*', &Engine::cmdTimes_Click},
-    KeyCommand{'N', &Engine::cmdChangeSign_Click},
-    KeyCommand{'n', &Engine::cmdChangeSign_Click},
-    KeyCommand{'P', &Engine::cmdPercent_Click},
-    KeyCommand{'p', &Engine::cmdPercent_Click},
-};
-
-bool hasPoint(const std::string& text) {
-  return text.find('.') != std::string::npos;
-}
-
-int charactersBehindPoint(const std::string& text) {
-  return static_cast<int>(text.size() - text.find('.')) - 1;
-}
-
-// Zeros in front take no room: they are not part of the number.
-int significantDigits(const std::string& text) {
-  const auto isDigit = [](unsigned char c) { return std::isdigit(c) != 0; };
-  const auto first = std::ranges::find_if(text, [](char c) { return c >= '1' && c <= '9'; });
-  return static_cast<int>(std::count_if(first, text.end(), isDigit));
-}
+constexpr controls::Twips kWidth = 2175;
+constexpr controls::Twips kWidthOfALongTotal = 2300;
 
 }  // namespace
 
-void Engine::txtEntry_KeyPress(KeyAscii& key) {
-  const bool done = common::trap(
-      [&] {
-        if (key == controls::kKeyBackspace) {
-          field_.stepOverSeparator();
-        } else if (RunKey(key)) {
-          key = 0;
-        } else if (!AcceptsCharacter(key)) {
-          c_.desktop.beep();
-          key = 0;
-        }
-      },
-      [&](const common::RunTimeError& error) { ShowError(error); });
-  if (!done) key = 0;
+std::optional<Amount> Entry::amountIn(const std::string& text) const {
+  Amount amount = {.text = text};
+  const bool isNumber =
+      common::trap([&] { amount.value = common::toNumber(text); },
+                   [&](const common::RunTimeError& error) { showError(desktop_, error.number()); });
+  return isNumber ? std::optional(amount) : std::nullopt;
 }
 
-bool Engine::RunKey(KeyAscii key) {
-  const auto command =
-      std::ranges::find_if(kKeyCommands, [key](const auto& entry) { return entry.key == key; });
-  if (command != kKeyCommands.end()) {
-    (this->*command->run)();
-    return true;
+std::optional<Amount> Entry::take(std::string text) {
+  if (text.starts_with('-') && common::tryNumber(text) == 0.0) {
+    text.erase(0, 1);
+    field_.rewrite(text, box_.selStart() - 1);
   }
-  // Add mode knows no square root, not even while it computes a product.
-  if (mintMode != kCalculatorMode || mblnTempCalc || (key != 'S' && key != 's')) return false;
-  cmdSquareRoot_Click();
-  return true;
+  return amountIn(text);
 }
 
-bool Engine::AcceptsCharacter(KeyAscii key) {
-  if (mblnShowingResult) {
-    c_.txtEntry.setText("");
-    mblnShowingResult = mblnPosted = mblnValue = false;
+void Entry::clear() {
+  box_.setText("");
+  origin_ = Origin::Digits;
+  use_ = Use::Open;
+}
+
+void Entry::showValue(const std::string& text) {
+  field_.rewrite(text, 0);
+  box_.moveCaretToEnd();
+  origin_ = Origin::Value;
+}
+
+void Entry::showPasted(const std::string& text) {
+  showValue(text);
+  use_ = Use::Open;
+  if (!decimals_.floating() && text.find('.') != std::string::npos)
+    origin_ = Origin::ValueWithPoint;
+  reformat();
+  box_.moveCaretToEnd();
+}
+
+void Entry::showTotal(double total) {
+  const std::string text = common::toText(total);
+  showValue(decimals_.stationary() ? common::formatText(text, decimalsPattern(decimals_.places()))
+                                   : text);
+  box_.setWidth(box_.length() > kEntryLength ? kWidthOfALongTotal : kWidth);
+  use_ = Use::Posted;
+}
+
+void Entry::finish() {
+  if (use_ == Use::Open) use_ = Use::Result;
+}
+
+std::string Entry::settle() {
+  if (isPosted()) return box_.text();
+  repairSign();
+  common::trap([&] { reformat(); }, [](const common::RunTimeError&) {});
+  field_.dropLeadingCommas();
+  return box_.text();
+}
+
+void Entry::format() {
+  common::trap([&] { reformat(); },
+               [&](const common::RunTimeError& error) { showError(desktop_, error.number()); });
+}
+
+void Entry::tidy() {
+  format();
+  field_.dropLeadingCommas();
+}
+
+void Entry::changeSign() {
+  const std::string text = box_.text();
+  if (text.empty()) return;
+  const int caret = box_.selStart();
+  if (hasSign(text)) {
+    field_.rewrite(text.substr(1), std::max(caret - 1, 0));
+  } else {
+    field_.rewrite("-" + text, caret + 1);
   }
-  const std::string text = c_.txtEntry.textWithoutSelection();
-  if (floatingDecimal() || places() > 0) {
-    if (text.size() >= kEntryLength) return false;
-    if (key == '.' && AcceptsPoint(text)) {
-      mblnDecKeyed = true;
-      return true;
-    }
-  }
-  if (key == kCtrlV) return true;
-  return key >= '0' && key <= '9' && AcceptsDigit(text);
+  use_ = Use::Open;
 }
 
-// In stationary decimal the point that is shown is not one that was keyed.
-bool Engine::AcceptsPoint(const std::string& text) const {
-  return !hasPoint(text) || (stationaryDecimal() && !mblnDecKeyed && !mblnValue);
-}
-
-bool Engine::AcceptsDigit(const std::string& text) const {
-  const bool keyed = !stationaryDecimal() || mblnDecKeyed;
-  if (!floatingDecimal() && keyed && hasPoint(text) && charactersBehindPoint(text) == places())
-    return false;
-  if (stationaryDecimal() && significantDigits(text) >= kStationaryDigits) return false;
-  return text.size() < kEntryLength;
-}
-
-void Engine::txtEntry_KeyUp(KeyCode key) {
-  RepairSign();
-  if (!controls::isNavigationKey(key)) TidyEntry();
+void Entry::keyUp(controls::KeyCode key) {
+  repairSign();
+  if (!controls::isNavigationKey(key)) tidy();
 }
 
 // What the user changes is a fresh entry, and digits as keyed.
-void Engine::txtEntry_Change(controls::ChangedBy by) {
-  if (by == controls::ChangedBy::User) mblnShowingResult = mblnPosted = mblnValue = false;
+void Entry::changed(controls::ChangedBy by) {
+  if (by != controls::ChangedBy::User) return;
+  origin_ = hasOwnPoint() ? Origin::PointKeyed : Origin::Digits;
+  use_ = Use::Open;
 }
 
-void Engine::cmdNumber_Click(int index) {
-  c_.txtEntry.setFocus();
-  c_.txtEntry.window().sendKey('0' + index, '0' + index);
+// In a number that the program wrote, a minus inside belongs to its exponent.
+bool Entry::hasSign(const std::string& text) const {
+  return text.starts_with('-') || (!isValue() && text.find('-') != std::string::npos);
 }
 
-void Engine::cmdPeriod_Click() {
-  c_.txtEntry.setFocus();
-  c_.txtEntry.window().sendKey(kKeyDecimalPoint, '.');
+void Entry::repairSign() {
+  if (hasSign(box_.text())) field_.repairSign();
 }
 
-void Engine::cmdArrow_Click() {
-  c_.txtEntry.setFocus();
-  c_.txtEntry.window().sendKey(controls::kKeyBackspace, controls::kKeyBackspace);
+void Entry::reformat() {
+  field_.reformat(formatted(box_.text()));
+}
+
+std::string Entry::formatted(std::string text) {
+  if (decimals_.floating()) return formatFloating(text);
+  const int places = decimals_.places();
+  if (!decimals_.stationary()) return formatKeyed(text, places);
+  if (isValue()) return formatValue(text, places);
+  const auto point = text.find('.');
+  if (point == std::string::npos) origin_ = Origin::Digits;
+  if (origin_ == Origin::Digits) return formatStationary(text, places);
+  // The point that scaling has shown gives way to the one keyed behind it.
+  if (point > 0 && text.find('.', point + 2) != std::string::npos) text.erase(point, 1);
+  return formatKeyed(text, places);
 }
 
 }  // namespace engine

@@ -1,11 +1,12 @@
+#include "engine/memory.h"
+
 #include <cmath>
 
 #include "common/number_text.h"
-#include "engine/engine.h"
+#include "common/run_time_error.h"
+#include "engine/show_error.h"
 
 namespace engine {
-
-using common::RunTimeError;
 
 namespace {
 
@@ -13,42 +14,42 @@ constexpr controls::Color kGreen = controls::Color::rgb(0x00FF00);
 
 }  // namespace
 
-void Engine::cmdMemPlus_Click() {
-  StoreInMemory(mdblMemory);
+void Memory::add() {
+  keep(stored_);
+  entry_.setFocus();
 }
 
-void Engine::cmdMemStore_Click() {
-  StoreInMemory(0);
+void Memory::store() {
+  keep(0);
+  entry_.setFocus();
 }
 
-// An entry of 0 is not stored; one written out, such as 0.00, is.
-void Engine::StoreInMemory(double base) {
-  common::trap(
-      [&] {
-        if (!mblnValue) SettleEntry();
-        DropSignOfZero();
-        const std::string text = c_.txtEntry.text();
-        if (text.empty() || text == "0") return;
-        const double memory = base + common::toNumber(text);
-        if (!std::isfinite(memory)) throw RunTimeError(common::kOverflow);
-        mdblMemory = memory;
-        c_.cmdMemPlus.setBackColor(kGreen);
-        mblnShowingResult = true;
-      },
-      [&](const RunTimeError& error) { ShowError(error); });
-  c_.txtEntry.setFocus();
+// An entry of 0 is not kept; one written out, such as 0.00, is.
+void Memory::keep(double base) {
+  const std::string text = entry_.settleKeyed();
+  if (text.empty()) return;
+  const auto amount = entry_.take(text);
+  if (!amount || amount->text == "0") return;
+  const double sum = base + amount->value;
+  if (!std::isfinite(sum)) {
+    showError(desktop_, common::kOverflow);
+    return;
+  }
+  stored_ = sum;
+  light_.setBackColor(kGreen);
+  entry_.finish();
 }
 
-void Engine::cmdMemRecall_Click() {
-  ShowValue(common::toText(mdblMemory));
-  mblnShowingResult = mblnPosted = false;
-  c_.txtEntry.setFocus();
+void Memory::recall() {
+  entry_.showValue(common::toText(stored_));
+  entry_.keepOpen();
+  entry_.setFocus();
 }
 
-void Engine::cmdMemClear_Click() {
-  mdblMemory = 0;
-  c_.cmdMemPlus.setBackColor(controls::Color::buttonFace());
-  c_.txtEntry.setFocus();
+void Memory::clear() {
+  stored_ = 0;
+  light_.setBackColor(controls::Color::buttonFace());
+  entry_.setFocus();
 }
 
 }  // namespace engine

@@ -1,63 +1,25 @@
-#include "common/number_pattern.h"
-#include "common/number_text.h"
-#include "engine/engine.h"
-#include "engine/entry_format.h"
-#include "engine/tape_line.h"
+#include "engine/tape.h"
 
 namespace engine {
 
-namespace {
-
-constexpr controls::Twips kEntryWidth = 2175;
-constexpr controls::Twips kLongEntryWidth = 2300;
-
-}  // namespace
-
-// Writes the entry on the tape and moves the running total into the entry box.
-void Engine::PostToTape() {
-  if (c_.txtEntry.text() == "Error") {
-    PostError();
-    return;
-  }
-  c_.mnuWinModes.setEnabled(false);
-  c_.mnuWinModes.setCaption("Modes (equals to enable)");
-  if (c_.txtDec.text().empty()) c_.txtDec.setText("0");
-  const std::string pattern = decimalsPattern(places());
-  const std::string entry = c_.txtEntry.text();
-  const bool padded = c_.mnuWinPadTape.checked();
-  const bool total = mstrTapeOp == "*";
-  std::string lines =
-      "\r\n" + tapeLine(floatingDecimal() ? entry : common::formatText(entry, pattern), mstrTapeOp,
-                        padded, floatingDecimal());
-  if (total) lines += "\r\n" + tapeSeparator(padded);
-  AppendToTape(lines);
-  if (total) EndCalculation();
-
-  mblnShowingResult = true;
-  mblnDecKeyed = false;
-  mdblLastEntry = common::toNumber(entry);
-  const std::string result = common::toText(mdblTotal);
-  ShowValue(stationaryDecimal() ? common::formatText(result, pattern) : result);
-  c_.txtEntry.setWidth(c_.txtEntry.length() > kEntryLength ? kLongEntryWidth : kEntryWidth);
-  mblnPosted = true;
-  c_.txtEntry.setFocus();
+void Tape::print(const TapeLine& line) {
+  const TapeForm form = {
+      .padded = padded_.checked(), .floating = decimals_.floating(), .places = decimals_.places()};
+  std::string lines = "\r\n" + tapeText(line, form);
+  if (line.mark == Mark::Total) lines += "\r\n" + tapeSeparator(form.padded);
+  append(lines);
 }
 
-// The entry is "Error": that is logged, and the calculation begins anew.
-void Engine::PostError() {
-  AppendToTape("\r\nError:" + mstrErrText + "\r\n");
-  ClearCalculation();
-  c_.desktop.showMessage({.text = "The entry caused an error: " + mstrErrText});
-  c_.txtEntry.setFocus();
+void Tape::printFailure(std::string_view reason) {
+  append("\r\nError:" + std::string(reason) + "\r\n");
 }
 
-void Engine::AppendToTape(const std::string& lines) {
-  if (c_.chkTapeOff.value() == 0) c_.txtTape.append(lines);
+void Tape::clear() {
+  paper_.setText(tapeHeader(padded_.checked()));
 }
 
-void Engine::cmdClearTape_Click() {
-  c_.txtTape.setText(tapeHeader(c_.mnuWinPadTape.checked()));
-  c_.txtEntry.setFocus();
+void Tape::append(const std::string& lines) {
+  if (off_.value() == 0) paper_.append(lines);
 }
 
 }  // namespace engine

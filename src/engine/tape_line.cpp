@@ -1,18 +1,32 @@
 #include "engine/tape_line.h"
 
+#include <array>
+
+#include "common/number_pattern.h"
+#include "engine/decimal_formats.h"
+
 namespace engine {
+
+namespace {
+
+// In the order of the marks.
+constexpr std::array kMarkCharacters = {' ', '+', '-', 'X', '/', 'S', '*'};
+
+}  // namespace
 
 std::string tapeHeader(bool padded) {
   return padded ? "Top" + std::string(kTapeWidth - 6, ' ') + "Top" : "Top";
 }
 
-std::string tapeLine(std::string_view amount, std::string_view symbol, bool padded, bool floating) {
-  std::string line(amount);
-  line.append(" ").append(symbol).append(" ");
-  if (!padded) return line;
-  if (floating) line.insert(0, 1, ' ');
-  if (line.size() < kTapeWidth) line.insert(0, kTapeWidth - line.size(), ' ');
-  return line;
+std::string tapeText(const TapeLine& line, const TapeForm& form) {
+  const std::string& keyed = line.amount.text;
+  std::string text =
+      form.floating ? keyed : common::formatText(keyed, decimalsPattern(form.places));
+  text += {' ', kMarkCharacters.at(static_cast<std::size_t>(line.mark)), ' '};
+  if (!form.padded) return text;
+  if (form.floating) text.insert(0, 1, ' ');
+  if (text.size() < kTapeWidth) text.insert(0, kTapeWidth - text.size(), ' ');
+  return text;
 }
 
 std::string tapeSeparator(bool padded) {

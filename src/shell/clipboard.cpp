@@ -8,7 +8,7 @@ controls::TextBox* frmCalc::focusedBox() const {
 
 void frmCalc::mnuEditCut_Click() {
   controls::TextBox* box = focusedBox();
-  if (box && box->cut() && box == &txtEntry) engine_.TidyEntry();
+  if (box && box->cut() && box == &txtEntry) machine_.entry().tidy();
 }
 
 void frmCalc::mnuEditCopy_Click() {

@@ -6,7 +6,9 @@ namespace shell {
 
 namespace {
 
-engine::EngineControls engineControls(controls::Desktop& desktop, controls::Window& window) {
+constexpr controls::KeyCode kKeyPoint = 190;
+
+engine::MachineControls machineControls(controls::Desktop& desktop, controls::Window& window) {
   return {.desktop = desktop,
           .txtEntry = window.textBox("txtEntry"),
           .txtTape = window.textBox("txtTape"),
@@ -15,11 +17,8 @@ engine::EngineControls engineControls(controls::Desktop& desktop, controls::Wind
           .chkShiftDec = window.toggleButton("chkShiftDec"),
           .chkTapeOff = window.toggleButton("chkTapeOff"),
           .cmdMemPlus = window.button("cmdMemPlus"),
-          .mnuEditFloatingDecimal = window.menuItem("mnuEditFloatingDecimal"),
-          .mnuEditStationaryDecimal = window.menuItem("mnuEditStationaryDecimal"),
           .mnuWinModes = window.menuItem("mnuWinModes"),
-          .mnuWinPadTape = window.menuItem("mnuWinPadTape"),
-          .mnuWinTapeOff = window.menuItem("mnuWinTapeOff")};
+          .mnuWinPadTape = window.menuItem("mnuWinPadTape")};
 }
 
 }  // namespace
@@ -29,7 +28,7 @@ frmCalc::frmCalc(controls::Desktop& desktop, Globals& globals, Program& program)
       globals_(globals),
       program_(program),
       window_(desktop.createWindow(frmCalcLayout())),
-      engine_(engineControls(desktop, *window_)),
+      machine_(machineControls(desktop, *window_)),
       txtEntry(window_->textBox("txtEntry")),
       txtTape(window_->textBox("txtTape")),
       txtDec(window_->textBox("txtDec")),
@@ -57,40 +56,46 @@ void frmCalc::wireKeys() {
   const auto button = [this](std::string_view name) -> std::function<void()>& {
     return window_->button(name).onClick;
   };
-  button("cmdPlus") = [this] { engine_.cmdPlus_Click(); };
-  button("cmdMinus") = [this] { engine_.cmdMinus_Click(); };
-  button("cmdTimes") = [this] { engine_.cmdTimes_Click(); };
-  button("cmdDivide") = [this] { engine_.cmdDivide_Click(); };
-  button("cmdEquals") = [this] { engine_.cmdEquals_Click(); };
-  button("cmdPercent") = [this] { engine_.cmdPercent_Click(); };
-  button("cmdSquareRoot") = [this] { engine_.cmdSquareRoot_Click(); };
-  button("cmdChangeSign") = [this] { engine_.cmdChangeSign_Click(); };
-  button("cmdClearCurrent") = [this] { engine_.cmdClearCurrent_Click(); };
-  button("cmdClearCalc") = [this] { engine_.cmdClearCalc_Click(); };
-  button("cmdClearTape") = [this] { engine_.cmdClearTape_Click(); };
-  button("cmdClearAll") = [this] { engine_.cmdClearAll_Click(); };
-  button("cmdMemPlus") = [this] { engine_.cmdMemPlus_Click(); };
-  button("cmdMemStore") = [this] { engine_.cmdMemStore_Click(); };
-  button("cmdMemRecall") = [this] { engine_.cmdMemRecall_Click(); };
-  button("cmdMemClear") = [this] { engine_.cmdMemClear_Click(); };
-  button("cmdPeriod") = [this] { engine_.cmdPeriod_Click(); };
-  button("cmdArrow") = [this] { engine_.cmdArrow_Click(); };
+  button("cmdPlus") = [this] { machine_.plus(); };
+  button("cmdMinus") = [this] { machine_.minus(); };
+  button("cmdTimes") = [this] { machine_.times(); };
+  button("cmdDivide") = [this] { machine_.divide(); };
+  button("cmdEquals") = [this] { machine_.equals(); };
+  button("cmdPercent") = [this] { machine_.percent(); };
+  button("cmdSquareRoot") = [this] { machine_.squareRoot(); };
+  button("cmdChangeSign") = [this] { machine_.changeSign(); };
+  button("cmdClearCurrent") = [this] { machine_.clearEntry(); };
+  button("cmdClearCalc") = [this] { machine_.clearTotal(); };
+  button("cmdClearTape") = [this] { machine_.clearTape(); };
+  button("cmdClearAll") = [this] { machine_.clearAll(); };
+  button("cmdMemPlus") = [this] { machine_.memory().add(); };
+  button("cmdMemStore") = [this] { machine_.memory().store(); };
+  button("cmdMemRecall") = [this] { machine_.memory().recall(); };
+  button("cmdMemClear") = [this] { machine_.memory().clear(); };
+  button("cmdPeriod") = [this] { typeKey(kKeyPoint, '.'); };
+  button("cmdArrow") = [this] { typeKey(controls::kKeyBackspace, controls::kKeyBackspace); };
   for (int digit = 0; digit <= 9; ++digit)
     button("cmdNumber(" + std::to_string(digit) + ")") = [this, digit] {
-      engine_.cmdNumber_Click(digit);
+      typeKey('0' + digit, '0' + digit);
     };
-  chkFloatingDec.onClick = [this] { engine_.chkFloatingDec_Click(); };
-  chkShiftDec.onClick = [this] { engine_.chkShiftDec_Click(); };
-  chkTapeOff.onClick = [this] { engine_.chkTapeOff_Click(); };
+  chkFloatingDec.onClick = [this] { chkFloatingDec_Click(); };
+  chkShiftDec.onClick = [this] { chkShiftDec_Click(); };
+  chkTapeOff.onClick = [this] { chkTapeOff_Click(); };
+}
+
+// A key of the keypad types into the entry box, as the keyboard does.
+void frmCalc::typeKey(controls::KeyCode key, controls::KeyAscii character) {
+  txtEntry.setFocus();
+  window_->sendKey(key, character);
 }
 
 void frmCalc::wireEntry() {
-  txtEntry.onKeyPress = [this](controls::KeyAscii& key) { engine_.txtEntry_KeyPress(key); };
-  txtEntry.onKeyUp = [this](controls::KeyCode key) { engine_.txtEntry_KeyUp(key); };
-  txtEntry.onChange = [this](controls::ChangedBy by) { engine_.txtEntry_Change(by); };
-  txtEntry.onMouseUp = [this](controls::MouseEdit edit) { engine_.txtEntry_MouseUp(edit); };
+  txtEntry.onKeyPress = [this](controls::KeyAscii& key) { machine_.keyPress(key); };
+  txtEntry.onKeyUp = [this](controls::KeyCode key) { machine_.entry().keyUp(key); };
+  txtEntry.onChange = [this](controls::ChangedBy by) { machine_.entry().changed(by); };
+  txtEntry.onMouseUp = [this](controls::MouseEdit edit) { machine_.entryPaste().mouseUp(edit); };
   txtEntry.onPasteCommand = [this](const std::optional<std::string>& text) {
-    engine_.PasteEntry(text);
+    machine_.entryPaste().paste(text);
   };
   // What the mouse pastes is judged with the rest of the entry, when the mouse is up.
   txtEntry.onPaste = [](std::string& text) { text = controls::withoutLineEnd(std::move(text)); };
@@ -131,8 +136,8 @@ void frmCalc::wireWinAndHelpMenu() {
   };
   item("mnuWinAlwaysOnTop") = [this] { mnuWinAlwaysOnTop_Click(); };
   item("mnuWinMicroWindow") = [this] { mnuWinMicroWindow_Click(); };
-  item("mnuWinMode(0)") = [this] { mnuWinMode_Click(engine::kAddMode); };
-  item("mnuWinMode(1)") = [this] { mnuWinMode_Click(engine::kCalculatorMode); };
+  item("mnuWinMode(0)") = [this] { chooseMode(engine::Mode::Add); };
+  item("mnuWinMode(1)") = [this] { chooseMode(engine::Mode::Calculator); };
   item("mnuWinFinCalcLoan") = [this] { OpenFinancialCalc(AnnuityKind::Loan); };
   item("mnuWinFinCalcInv") = [this] { OpenFinancialCalc(AnnuityKind::Investment); };
   item("mnuFinCalcStandard") = [this] { OpenFinancialCalc(AnnuityKind::Standard); };

@@ -6,7 +6,7 @@
 
 #include "common/annuity_kind.h"
 #include "controls/desktop.h"
-#include "engine/engine.h"
+#include "engine/adding_machine.h"
 #include "shell/globals.h"
 
 namespace shell {
@@ -42,6 +42,7 @@ class frmCalc {
 
  private:
   void wireKeys();
+  void typeKey(controls::KeyCode key, controls::KeyAscii character);
   void wireEntry();
   void wireOtherBoxes();
   void wireFileAndEditMenu();
@@ -71,7 +72,10 @@ class frmCalc {
   void mnuWinMicroWindow_Click();
   void ExchangeGeometry(const std::string& from, const std::string& to,
                         const controls::Rect& fallback);
-  void mnuWinMode_Click(int index);
+  void chooseMode(engine::Mode mode);
+  void chkFloatingDec_Click();
+  void chkShiftDec_Click();
+  void chkTapeOff_Click();
   void mnuWinPadTape_Click();
   void mnuWinTapeOff_Click();
   void OpenFinancialCalc(common::AnnuityKind kind);
@@ -99,7 +103,7 @@ class frmCalc {
   Globals& globals_;
   Program& program_;
   std::unique_ptr<controls::Window> window_;
-  engine::Engine engine_;
+  engine::AddingMachine machine_;
 
   controls::TextBox& txtEntry;
   controls::TextBox& txtTape;

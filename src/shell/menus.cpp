@@ -2,13 +2,34 @@
 
 namespace shell {
 
-void frmCalc::mnuWinMode_Click(int index) {
-  window_->menuItem("mnuWinMode(0)").setChecked(index == engine::kAddMode);
-  window_->menuItem("mnuWinMode(1)").setChecked(index == engine::kCalculatorMode);
-  const bool adding = index == engine::kAddMode;
+void frmCalc::chooseMode(engine::Mode mode) {
+  const bool adding = mode == engine::Mode::Add;
+  window_->menuItem("mnuWinMode(0)").setChecked(adding);
+  window_->menuItem("mnuWinMode(1)").setChecked(!adding);
   window_->setCaption(adding ? "Add Mode, Tallyrex" : "Calc Mode, Tallyrex");
   window_->button("cmdSquareRoot").setVisible(!adding);
-  engine_.ChooseMode(index);
+  machine_.chooseMode(mode);
+}
+
+void frmCalc::chkFloatingDec_Click() {
+  mnuEditFloatingDecimal.setChecked(!mnuEditFloatingDecimal.checked());
+  const bool floating = chkFloatingDec.value() == 1;
+  chkShiftDec.setEnabled(!floating);
+  mnuEditStationaryDecimal.setEnabled(!floating);
+  txtDec.setEnabled(!floating);
+  txtDec.setBackColor(floating ? controls::Color::buttonFace() : controls::Color::window());
+  if (!floating) chkShiftDec.setCaption("");
+  txtEntry.setFocus();
+}
+
+void frmCalc::chkShiftDec_Click() {
+  mnuEditStationaryDecimal.setChecked(!mnuEditStationaryDecimal.checked());
+  txtEntry.setFocus();
+}
+
+void frmCalc::chkTapeOff_Click() {
+  mnuWinTapeOff.setChecked(!mnuWinTapeOff.checked());
+  txtEntry.setFocus();
 }
 
 void frmCalc::mnuEditFloatingDecimal_Click() {
@@ -22,14 +43,10 @@ void frmCalc::mnuEditStationaryDecimal_Click() {
 }
 
 void frmCalc::OpenFinancialCalc(common::AnnuityKind kind) {
-  common::trap(
-      [&] {
-        if (mnuWinAlwaysOnTop.checked())
-          desktop_.showMessage({.text = "You may want to turn off the \"Always on Top\" since this "
-                                        "next screen is run independently."});
-        program_.openFinancialCalc(kind);
-      },
-      [this](const common::RunTimeError& error) { engine_.ShowError(error); });
+  if (mnuWinAlwaysOnTop.checked())
+    desktop_.showMessage({.text = "You may want to turn off the \"Always on Top\" since this "
+                                  "next screen is run independently."});
+  program_.openFinancialCalc(kind);
 }
 
 void frmCalc::mnuHelpContents_Click() {

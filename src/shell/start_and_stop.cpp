@@ -58,8 +58,8 @@ void frmCalc::RestoreSettings() {
   const bool isColor = color >= 0 && color <= 0xFFFFFF;
   globals_.glngTextBackColor = isColor ? static_cast<std::uint32_t>(color) : kDefaultTextBackColor;
   RestoreToggles();
-  const double mode = storedNumber("frmCalcmintMode", engine::kCalculatorMode);
-  engine_.restoreMode(mode == engine::kAddMode ? engine::kAddMode : engine::kCalculatorMode);
+  const bool adding = storedNumber("frmCalcmintMode", 1) == 0;
+  machine_.chooseMode(adding ? engine::Mode::Add : engine::Mode::Calculator);
   txtDec.setText(common::readText(desktop_.settings(), kSection, "frmCalctxtDec", "2"));
   mblnResized = true;
 }
@@ -83,8 +83,8 @@ void frmCalc::Form_Activate() {
   if (!mblnActivated) {
     mnuWinAlwaysOnTop_Click();
     mnuWinPadTape_Click();
-    mnuWinMode_Click(engine_.restoredMode());
-    engine_.cmdClearTape_Click();
+    chooseMode(machine_.chosenMode());
+    machine_.clearTape();
   }
   mblnActivated = true;
   globals_.gblnCalcLoaded = true;
@@ -109,7 +109,7 @@ void frmCalc::Form_Unload() {
   store("frmCalcmnuWinAlwaysOnTop", common::truthText(mnuWinAlwaysOnTop.checked()));
   store("frmCalcmnuWinMicroWindow", common::truthText(mnuWinMicroWindow.checked()));
   store("frmCalcmnuWinPadTape", common::truthText(mnuWinPadTape.checked()));
-  store("frmCalcmintMode", common::toText(engine_.chosenMode()));
+  store("frmCalcmintMode", common::toText(static_cast<int>(machine_.chosenMode())));
   store("frmCalctxtDec", txtDec.text());
 }
 

@@ -68,19 +68,15 @@ void frmCalc::txtDec_Paste(std::string& text) {
 }
 
 void frmCalc::Label1_DblClick() {
-  common::trap(
-      [this] {
-        desktop_.showMessage(
-            {.text = "On the next screen choose the color you would like as the background color "
-                     "for the text boxes. Choose Cancel on the next screen to quit."});
-        const auto color = desktop_.chooseColor(globals_.glngTextBackColor);
-        // 0, black, counts as no colour chosen.
-        if (!color || *color == 0) return;
-        globals_.glngTextBackColor = *color;
-        store("glngTextBackColor", common::toText(*color));
-        if (window_->focusedControl()) window_->focusedControl()->setBackColor(textBackColor());
-      },
-      [this](const common::RunTimeError& error) { engine_.ShowError(error); });
+  desktop_.showMessage(
+      {.text = "On the next screen choose the color you would like as the background color "
+               "for the text boxes. Choose Cancel on the next screen to quit."});
+  const auto color = desktop_.chooseColor(globals_.glngTextBackColor);
+  // 0, black, counts as no colour chosen.
+  if (!color || *color == 0) return;
+  globals_.glngTextBackColor = *color;
+  store("glngTextBackColor", common::toText(*color));
+  if (window_->focusedControl()) window_->focusedControl()->setBackColor(textBackColor());
 }
 
 }  // namespace shell

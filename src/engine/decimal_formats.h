@@ -5,9 +5,6 @@
 
 namespace engine {
 
-/// As many characters as an entry may be typed with, separators and point included.
-inline constexpr int kEntryLength = 19;
-
 /// The pattern of a number with `places` decimals, 0 to 9: the tape's and the totals'.
 std::string decimalsPattern(int places);
 

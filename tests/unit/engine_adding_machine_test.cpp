@@ -1,17 +1,18 @@
-#include "engine/engine.h"
+#include "engine/adding_machine.h"
 
 #include <gtest/gtest.h>
 
 #include <memory>
 #include <string>
 
+#include "engine/show_error.h"
 #include "inmemory/desktop.h"
 #include "shell/frm_calc_layout.h"
 
 namespace engine {
 namespace {
 
-EngineControls controlsOf(controls::Desktop& desktop, controls::Window& window) {
+MachineControls controlsOf(controls::Desktop& desktop, controls::Window& window) {
   return {.desktop = desktop,
           .txtEntry = window.textBox("txtEntry"),
           .txtTape = window.textBox("txtTape"),
@@ -20,11 +21,8 @@ EngineControls controlsOf(controls::Desktop& desktop, controls::Window& window) 
           .chkShiftDec = window.toggleButton("chkShiftDec"),
           .chkTapeOff = window.toggleButton("chkTapeOff"),
           .cmdMemPlus = window.button("cmdMemPlus"),
-          .mnuEditFloatingDecimal = window.menuItem("mnuEditFloatingDecimal"),
-          .mnuEditStationaryDecimal = window.menuItem("mnuEditStationaryDecimal"),
           .mnuWinModes = window.menuItem("mnuWinModes"),
-          .mnuWinPadTape = window.menuItem("mnuWinPadTape"),
-          .mnuWinTapeOff = window.menuItem("mnuWinTapeOff")};
+          .mnuWinPadTape = window.menuItem("mnuWinPadTape")};
 }
 
 struct Case {
@@ -37,9 +35,7 @@ class ShowError : public testing::TestWithParam<Case> {};
 
 TEST_P(ShowError, ShowsOneMessage) {
   inmemory::Desktop desktop;
-  const auto window = desktop.createWindow(shell::frmCalcLayout());
-  Engine engine(controlsOf(desktop, *window));
-  engine.ShowError(common::RunTimeError(GetParam().number));
+  showError(desktop, GetParam().number);
   ASSERT_EQ(desktop.boxes.size(), 1U);
   EXPECT_EQ(desktop.boxes[0].box.text, GetParam().text);
   EXPECT_EQ(desktop.boxes[0].box.title, "Tallyrex");
@@ -64,9 +60,9 @@ INSTANTIATE_TEST_SUITE_P(
 std::size_t boxesAfterMouse(controls::MouseEdit edit, const char* text) {
   inmemory::Desktop desktop;
   const auto window = desktop.createWindow(shell::frmCalcLayout());
-  Engine engine(controlsOf(desktop, *window));
+  AddingMachine machine(controlsOf(desktop, *window));
   window->textBox("txtEntry").setText(text);
-  engine.txtEntry_MouseUp(edit);
+  machine.entryPaste().mouseUp(edit);
   return desktop.boxes.size();
 }
 

@@ -1,4 +1,4 @@
-#include "engine/entry_format.h"
+#include "engine/decimal_formats.h"
 
 #include <algorithm>
 #include <array>

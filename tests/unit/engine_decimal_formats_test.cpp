@@ -1,4 +1,4 @@
-#include "engine/entry_format.h"
+#include "engine/decimal_formats.h"
 
 #include <gtest/gtest.h>
 
@@ -16,7 +16,7 @@ struct FloatingCase {
   const char* shown;
 };
 
-TEST(EntryFormat, WhileTheDecimalFloats) {
+TEST(DecimalFormats, WhileTheDecimalFloats) {
   const std::vector<FloatingCase> cases = {
       {"an empty entry stays empty", "", ""},
       {"digits are grouped by thousands", "1234", "1,234"},
@@ -46,7 +46,7 @@ TEST(EntryFormat, WhileTheDecimalFloats) {
     EXPECT_EQ(formatFloating(each.typed), each.shown) << each.whatAUserSees;
 }
 
-TEST(EntryFormat, AWordInFrontOfThePointIsAnErrorWhileTheDecimalFloats) {
+TEST(DecimalFormats, AWordInFrontOfThePointIsAnErrorWhileTheDecimalFloats) {
   EXPECT_THROW(formatFloating("5-3.2"), common::RunTimeError);
 }
 
@@ -57,7 +57,7 @@ struct PlacesCase {
   const char* shown;
 };
 
-TEST(EntryFormat, WithAKeyedPoint) {
+TEST(DecimalFormats, WithAKeyedPoint) {
   const std::vector<PlacesCase> cases = {
       {"an empty entry stays empty", "", 2, ""},
       {"digits are grouped, and no decimals are added", "1234", 2, "1,234"},
@@ -81,7 +81,7 @@ TEST(EntryFormat, WithAKeyedPoint) {
     EXPECT_EQ(formatKeyed(each.typed, each.places), each.shown) << each.whatAUserSees;
 }
 
-TEST(EntryFormat, InStationaryDecimal) {
+TEST(DecimalFormats, InStationaryDecimal) {
   const std::vector<PlacesCase> cases = {
       {"5 is five hundredths", "5", 2, "0.05"},
       {"12 is twelve hundredths", "12", 2, "0.12"},
@@ -110,11 +110,11 @@ TEST(EntryFormat, InStationaryDecimal) {
     EXPECT_EQ(formatStationary(each.typed, each.places), each.shown) << each.whatAUserSees;
 }
 
-TEST(EntryFormat, WhatIsNoNumberIsAnErrorInStationaryDecimal) {
+TEST(DecimalFormats, WhatIsNoNumberIsAnErrorInStationaryDecimal) {
   EXPECT_THROW(formatStationary("5-3", 2), common::RunTimeError);
 }
 
-TEST(EntryFormat, OfANumberThatWasNotKeyed) {
+TEST(DecimalFormats, OfANumberThatWasNotKeyed) {
   const std::vector<PlacesCase> cases = {
       {"a pasted 12 has both places", "12", 2, "12.00"},
       {"a recalled 1.006 is rounded", "1.006", 2, "1.01"},
@@ -128,7 +128,7 @@ TEST(EntryFormat, OfANumberThatWasNotKeyed) {
     EXPECT_EQ(formatValue(each.typed, each.places), each.shown) << each.whatAUserSees;
 }
 
-TEST(EntryFormat, PatternOfATotalHasAllItsPlaces) {
+TEST(DecimalFormats, PatternOfATotalHasAllItsPlaces) {
   EXPECT_EQ(decimalsPattern(0), "###,###,###,###,##0");
   EXPECT_EQ(decimalsPattern(1), "###,###,###,###,##0.0");
   EXPECT_EQ(decimalsPattern(2), "###,###,###,###,##0.00");

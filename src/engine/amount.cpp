@@ -1,0 +1,14 @@
+#include "engine/amount.h"
+
+#include "common/number_text.h"
+
+namespace engine {
+
+// What the text says is what counts: it has no more than 15 digits.
+Amount amountOf(double value) {
+  std::string text = common::toText(value);
+  const double said = common::tryNumber(text).value_or(value);
+  return {std::move(text), said};
+}
+
+}  // namespace engine

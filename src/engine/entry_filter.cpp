@@ -1,0 +1,63 @@
+#include <algorithm>
+#include <cctype>
+
+#include "engine/entry.h"
+
+namespace engine {
+
+namespace {
+
+constexpr int kStationaryDigits = 15;
+constexpr controls::KeyAscii kCtrlV = 22;
+
+bool hasPoint(const std::string& text) {
+  return text.find('.') != std::string::npos;
+}
+
+int charactersBehindPoint(const std::string& text) {
+  return static_cast<int>(text.size() - text.find('.')) - 1;
+}
+
+// Zeros in front take no room: they are not part of the number.
+int significantDigits(const std::string& text) {
+  const auto isDigit = [](unsigned char c) { return std::isdigit(c) != 0; };
+  const auto first = std::ranges::find_if(text, [](char c) { return c >= '1' && c <= '9'; });
+  return static_cast<int>(std::count_if(first, text.end(), isDigit));
+}
+
+}  // namespace
+
+bool Entry::accepts(controls::KeyAscii key) {
+  if (isResult()) clear();
+  const std::string text = box_.textWithoutSelection();
+  if (decimals_.floating() || decimals_.places() > 0) {
+    if (text.size() >= kEntryLength) return false;
+    if (key == '.' && acceptsPoint(text)) {
+      takePoint();
+      return true;
+    }
+  }
+  if (key == kCtrlV) return true;
+  return key >= '0' && key <= '9' && acceptsDigit(text);
+}
+
+void Entry::takePoint() {
+  origin_ = isValue() ? Origin::ValueWithPoint : Origin::PointKeyed;
+}
+
+// In stationary decimal the point that is shown is not one that was keyed.
+bool Entry::acceptsPoint(const std::string& text) const {
+  return !hasPoint(text) || (decimals_.stationary() && origin_ == Origin::Digits);
+}
+
+bool Entry::acceptsDigit(const std::string& text) const {
+  const bool stationary = decimals_.stationary();
+  const bool placed = !stationary || hasOwnPoint();
+  if (!decimals_.floating() && placed && hasPoint(text) &&
+      charactersBehindPoint(text) == decimals_.places())
+    return false;
+  if (stationary && significantDigits(text) >= kStationaryDigits) return false;
+  return text.size() < kEntryLength;
+}
+
+}  // namespace engine

@@ -1,0 +1,123 @@
+#include "common/number_text.h"
+#include "engine/adding_machine.h"
+#include "engine/show_error.h"
+
+namespace engine {
+
+void AddingMachine::plus() {
+  postWith(Operator::Plus);
+}
+
+void AddingMachine::minus() {
+  postWith(Operator::Minus);
+}
+
+void AddingMachine::times() {
+  startProduct(Operator::Times);
+}
+
+void AddingMachine::divide() {
+  startProduct(Operator::Divide);
+}
+
+// False when the key was refused: then nothing is posted.
+bool AddingMachine::postWith(Operator key) {
+  if (!processEntry(key)) return false;
+  entry_.format();
+  entry_.moveCaretToEnd();
+  return true;
+}
+
+void AddingMachine::startProduct(Operator key) {
+  if (!addMode()) {
+    postWith(key);
+    return;
+  }
+  // The entry, or the total just taken, becomes the first operand.
+  const bool isOperand = entry_.isPosted() && calculation_.isOpen();
+  if (!isOperand && !postWith(Operator::Plus)) return;
+  mode_ = Mode::Product;
+  calculation_.wait(key);
+  entry_.setFocus();
+}
+
+bool AddingMachine::processEntry(Operator key) {
+  bool done = true;
+  const std::string text = entry_.settle();
+  if (entry_.isPosted() && addMode()) {
+    done = applyOperator(amountOf(lastAmount_), key);
+  } else if (isBlank(text)) {
+    entry_.clear();
+  } else {
+    done = takeEntry(text, key);
+  }
+  entry_.setFocus();
+  return done;
+}
+
+bool AddingMachine::takeEntry(const std::string& text, Operator key) {
+  const auto amount = entry_.take(text);
+  return amount && applyOperator(*amount, key);
+}
+
+// False when the amount was refused; then the calculation stands where it stood.
+bool AddingMachine::applyOperator(const Amount& amount, Operator key) {
+  const double largest = decimals_.floating() ? kLargestFloatingTotal : kLargestFixedTotal;
+  const Outcome outcome = addMode() ? calculation_.add(amount, key, largest)
+                                    : calculation_.calculate(amount, key, largest);
+  if (const auto* refusal = std::get_if<Refusal>(&outcome)) {
+    showError(desktop_, refusal->error);
+    return false;
+  }
+  if (const auto* failure = std::get_if<Failure>(&outcome)) {
+    postFailure(*failure);
+  } else {
+    postToTape(std::get<TapeLine>(outcome));
+  }
+  return true;
+}
+
+// Writes the line on the tape and moves the running total into the entry box.
+void AddingMachine::postToTape(const TapeLine& line) {
+  const bool closes = line.mark == Mark::Total;
+  lockModes(!closes);
+  decimals_.fillEmptyBox();
+  tape_.print(line);
+  if (closes) calculation_.close();
+  lastAmount_ = line.amount.value;
+  entry_.showTotal(calculation_.total());
+  entry_.setFocus();
+}
+
+// That is logged, and the calculation begins again.
+void AddingMachine::postFailure(const Failure& failure) {
+  tape_.printFailure(failure.reason);
+  clearCalculation();
+  desktop_.showMessage({.text = "The entry caused an error: " + std::string(failure.reason)});
+  entry_.setFocus();
+}
+
+// The modes may be changed between two calculations.
+void AddingMachine::lockModes(bool locked) {
+  mnuWinModes_.setEnabled(!locked);
+  mnuWinModes_.setCaption(locked ? "Modes (equals to enable)" : "Modes");
+}
+
+void AddingMachine::percent() {
+  takePercent();
+  entry_.setFocus();
+  entry_.moveCaretToEnd();
+}
+
+void AddingMachine::takePercent() {
+  const std::string text = entry_.settleKeyed();
+  if (text.empty()) return;
+  const auto amount = entry_.amountIn(text);
+  if (!amount) return;
+  entry_.showValue(common::toText(amount->value * 0.01));
+  entry_.takeAsResult();
+  entry_.format();
+  if (mode_ == Mode::Product) total();
+}
+
+}  // namespace engine
