@@ -1,5 +1,7 @@
 #include "app/application.h"
 
+#include "shell/help_file.h"
+
 namespace app {
 
 Application::Application(controls::Desktop& desktop) : desktop_(desktop) {
@@ -15,10 +17,10 @@ void Application::start() {
 }
 
 void Application::loadCalc() {
-  shell::Program& program = *this;
   if (calc_) return;
-  calc_ = std::make_unique<shell::frmCalc>(desktop_, globals_, program);
-  calc_->load();
+  helpFile_ = shell::findHelpFile(desktop_);
+  shell::Program& program = *this;
+  calc_ = std::make_unique<shell::frmCalc>(desktop_, program);
 }
 
 controls::Window* Application::findWindow(std::string_view name) const {
@@ -81,10 +83,6 @@ void Application::endSession() {
 
 controls::Rect Application::mainWindowPlace() const {
   return calc_->window().bounds();
-}
-
-controls::Color Application::focusColor() const {
-  return controls::Color::rgb(globals_.glngTextBackColor);
 }
 
 void Application::showMainWindow() {

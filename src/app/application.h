@@ -7,7 +7,6 @@
 #include "annuity/frm_annuity.h"
 #include "controls/desktop.h"
 #include "shell/frm_calc.h"
-#include "shell/globals.h"
 
 namespace app {
 
@@ -34,9 +33,10 @@ class Application : private shell::Program, private annuity::Program {
   void unloadCalc() override;
 
   controls::Rect mainWindowPlace() const override;
-  bool mainWindowIsUp() const override { return globals_.gblnCalcLoaded; }
-  controls::Color focusColor() const override;
-  std::string helpFile() const override { return globals_.helpFile; }
+  bool mainWindowIsUp() const override { return calc_ && calc_->isUp(); }
+  controls::Color focusColor() const override { return focusColor_; }
+  void setFocusColor(controls::Color color) override { focusColor_ = color; }
+  std::string helpFile() const override { return helpFile_; }
   void showMainWindow() override;
   void printToTape(const std::string& lines, controls::Twips width) override;
   void unloadAnnuity() override;
@@ -49,7 +49,9 @@ class Application : private shell::Program, private annuity::Program {
   void endWithLastWindow();
 
   controls::Desktop& desktop_;
-  shell::Globals globals_;
+  controls::Color focusColor_ = shell::kDefaultFocusColor;
+  /// Chosen when the main window is loaded.
+  std::string helpFile_;
   std::unique_ptr<shell::frmCalc> calc_;
   std::unique_ptr<annuity::frmAnnuity> annuity_;
   std::unique_ptr<about::frmAbout> about_;

@@ -6,6 +6,7 @@
 
 #include "inmemory/desktop.h"
 #include "shell/frm_calc_layout.h"
+#include "shell/help_file.h"
 
 namespace shell {
 namespace {
@@ -25,20 +26,19 @@ class NothingAround : public Program {
   void openFinancialCalc(common::AnnuityKind) override {}
   void showAbout(std::function<void()>) override {}
   void unloadCalc() override {}
+  controls::Color focusColor() const override { return kDefaultFocusColor; }
+  void setFocusColor(controls::Color) override {}
+  std::string helpFile() const override { return ""; }
 };
 
 // The main window, shown on a desktop of its own.
 template <class Desktop>
 struct Shown {
   Desktop desktop;
-  Globals globals;
   NothingAround program;
-  frmCalc calc{desktop, globals, program};
+  frmCalc calc{desktop, program};
 
-  Shown() {
-    calc.load();
-    calc.show();
-  }
+  Shown() { calc.show(); }
   controls::TextBox& box(std::string_view name) { return calc.window().textBox(name); }
   void choose(std::string_view name) { calc.window().menuItem(name).choose(); }
 };
@@ -61,11 +61,9 @@ TEST(MainWindow, TitleBeforeItIsShownIsThatOfTheCalculator) {
 }
 
 TEST(MainWindow, HelpFileOfAProgramOnADriveRootStandsBesideIt) {
-  Shown<DesktopOnADriveRoot> shown;
-  shown.desktop.files = {"D:\\help\\Tallyrex.hlp"};
-  shown.choose("mnuHelpContents");
-  ASSERT_EQ(shown.desktop.helpRequests.size(), 1u);
-  EXPECT_EQ(shown.desktop.helpRequests[0].file, "D:\\Tallyrex.hlp");
+  DesktopOnADriveRoot desktop;
+  desktop.files = {"D:\\help\\Tallyrex.hlp"};
+  EXPECT_EQ(findHelpFile(desktop), "D:\\Tallyrex.hlp");
 }
 
 TEST(MainWindow, DecimalsBoxKeepsTheFocusWhenTheTabThatLedThereComesUp) {

@@ -1,0 +1,39 @@
+#include "shell/text_box_colors.h"
+
+namespace shell {
+
+using controls::Color;
+
+namespace {
+
+constexpr Color kWhite = Color::rgb(0xFFFFFF);
+constexpr std::uint32_t kLargestColor = 0xFFFFFF;
+
+}  // namespace
+
+void TextBoxColors::restore() {
+  const double stored = settings_.number("glngTextBackColor", kDefaultFocusColor.value());
+  const bool isColor = stored >= 0 && stored <= kLargestColor;
+  program_.setFocusColor(isColor ? Color::rgb(static_cast<std::uint32_t>(stored))
+                                 : kDefaultFocusColor);
+}
+
+void TextBoxColors::mark(controls::TextBox& box) {
+  controls::TextBox& entry = window_.textBox("txtEntry");
+  if (&box != &entry) entry.setBackColor(kWhite);
+  box.setBackColor(program_.focusColor());
+}
+
+void TextBoxColors::choose() {
+  desktop_.showMessage(
+      {.text = "On the next screen choose the color you would like as the background color "
+               "for the text boxes. Choose Cancel on the next screen to quit."});
+  const auto color = desktop_.chooseColor(program_.focusColor().value());
+  // 0, black, counts as no colour chosen.
+  if (!color || *color == 0) return;
+  program_.setFocusColor(Color::rgb(*color));
+  settings_.writeNumber("glngTextBackColor", *color);
+  if (window_.focusedControl()) window_.focusedControl()->setBackColor(program_.focusColor());
+}
+
+}  // namespace shell

@@ -1,0 +1,119 @@
+// Which control does what: one line for each.
+#include "shell/frm_calc.h"
+
+namespace shell {
+
+namespace {
+
+constexpr controls::KeyCode kKeyPoint = 190;
+
+}  // namespace
+
+void frmCalc::wireKeys() {
+  const auto button = [this](std::string_view name) -> std::function<void()>& {
+    return window_->button(name).onClick;
+  };
+  const auto toggle = [this](std::string_view name) -> std::function<void()>& {
+    return window_->toggleButton(name).onClick;
+  };
+  button("cmdPlus") = [this] { machine_.plus(); };
+  button("cmdMinus") = [this] { machine_.minus(); };
+  button("cmdTimes") = [this] { machine_.times(); };
+  button("cmdDivide") = [this] { machine_.divide(); };
+  button("cmdEquals") = [this] { machine_.equals(); };
+  button("cmdPercent") = [this] { machine_.percent(); };
+  button("cmdSquareRoot") = [this] { machine_.squareRoot(); };
+  button("cmdChangeSign") = [this] { machine_.changeSign(); };
+  button("cmdClearCurrent") = [this] { machine_.clearEntry(); };
+  button("cmdClearCalc") = [this] { machine_.clearTotal(); };
+  button("cmdClearTape") = [this] { machine_.clearTape(); };
+  button("cmdClearAll") = [this] { machine_.clearAll(); };
+  button("cmdMemPlus") = [this] { machine_.memory().add(); };
+  button("cmdMemStore") = [this] { machine_.memory().store(); };
+  button("cmdMemRecall") = [this] { machine_.memory().recall(); };
+  button("cmdMemClear") = [this] { machine_.memory().clear(); };
+  button("cmdPeriod") = [this] { typeKey(kKeyPoint, '.'); };
+  button("cmdArrow") = [this] { typeKey(controls::kKeyBackspace, controls::kKeyBackspace); };
+  for (int digit = 0; digit <= 9; ++digit)
+    button("cmdNumber(" + std::to_string(digit) + ")") = [this, digit] {
+      typeKey('0' + digit, '0' + digit);
+    };
+  toggle("chkFloatingDec") = [this] { decimalsBox_.floatingChanged(); };
+  toggle("chkShiftDec") = [this] { decimalsBox_.stationaryChanged(); };
+  toggle("chkTapeOff") = [this] { tapeOptions_.offChanged(); };
+}
+
+// A key of the keypad types into the entry box, as the keyboard does.
+void frmCalc::typeKey(controls::KeyCode key, controls::KeyAscii character) {
+  window_->textBox("txtEntry").setFocus();
+  window_->sendKey(key, character);
+}
+
+void frmCalc::wireEntry() {
+  controls::TextBox& txtEntry = window_->textBox("txtEntry");
+  txtEntry.onKeyPress = [this](controls::KeyAscii& key) { machine_.keyPress(key); };
+  txtEntry.onKeyUp = [this](controls::KeyCode key) { machine_.entry().keyUp(key); };
+  txtEntry.onChange = [this](controls::ChangedBy by) { machine_.entry().changed(by); };
+  txtEntry.onMouseUp = [this](controls::MouseEdit edit) { machine_.entryPaste().mouseUp(edit); };
+  txtEntry.onPasteCommand = [this](const std::optional<std::string>& text) {
+    machine_.entryPaste().paste(text);
+  };
+  // What the mouse pastes is judged with the rest of the entry, when the mouse is up.
+  txtEntry.onPaste = [](std::string& text) { text = controls::withoutLineEnd(std::move(text)); };
+  txtEntry.onGotFocus = [this, &txtEntry] { colors_.mark(txtEntry); };
+}
+
+void frmCalc::wireOtherBoxes() {
+  controls::TextBox& txtTape = window_->textBox("txtTape");
+  controls::TextBox& txtDec = window_->textBox("txtDec");
+  txtTape.onGotFocus = [this, &txtTape] {
+    txtTape.moveCaretToEnd();
+    colors_.mark(txtTape);
+  };
+  txtTape.onLostFocus = [&txtTape] { txtTape.setBackColor(controls::Color::window()); };
+  txtDec.onGotFocus = [this, &txtDec] {
+    colors_.mark(txtDec);
+    txtDec.selectAll();
+  };
+  txtDec.onLostFocus = [this] { decimalsBox_.lostFocus(); };
+  txtDec.onKeyPress = [this](controls::KeyAscii& key) { decimalsBox_.keyPress(key); };
+  txtDec.onKeyUp = [this](controls::KeyCode key) { decimalsBox_.keyUp(key); };
+  txtDec.onPaste = [this](std::string& text) { decimalsBox_.paste(text); };
+  window_->control("Label1").onDblClick = [this] { colors_.choose(); };
+}
+
+void frmCalc::wireFileAndEditMenu() {
+  const auto item = [this](std::string_view name) -> std::function<void()>& {
+    return window_->menuItem(name).onClick;
+  };
+  item("mnuFileSave") = [this] { tapeOutput_.save(); };
+  item("mnuFilePrint") = [this] { tapeOutput_.print(); };
+  item("mnuFileExit") = [this] { unload(); };
+  item("mnuEditCut") = [this] { editMenu_.cut(); };
+  item("mnuEditCopy") = [this] { editMenu_.copy(); };
+  item("mnuEditPaste") = [this] { editMenu_.paste(); };
+  item("mnuEditFloatingDecimal") = [this] { decimalsBox_.toggleFloating(); };
+  item("mnuEditStationaryDecimal") = [this] { decimalsBox_.toggleStationary(); };
+  item("mnuEditCopyTape") = [this] { tapeOutput_.copyTape(); };
+  item("mnuEditTapeToNotepad") = [this] { tapeOutput_.openInNotepad(); };
+}
+
+void frmCalc::wireWinAndHelpMenu() {
+  using common::AnnuityKind;
+  const auto item = [this](std::string_view name) -> std::function<void()>& {
+    return window_->menuItem(name).onClick;
+  };
+  item("mnuWinAlwaysOnTop") = [this] { place_.toggleOnTop(); };
+  item("mnuWinMicroWindow") = [this] { place_.switchLayout(); };
+  item("mnuWinMode(0)") = [this] { chooseMode(engine::Mode::Add); };
+  item("mnuWinMode(1)") = [this] { chooseMode(engine::Mode::Calculator); };
+  item("mnuWinFinCalcLoan") = [this] { openFinancialCalc(AnnuityKind::Loan); };
+  item("mnuWinFinCalcInv") = [this] { openFinancialCalc(AnnuityKind::Investment); };
+  item("mnuFinCalcStandard") = [this] { openFinancialCalc(AnnuityKind::Standard); };
+  item("mnuWinPadTape") = [this] { tapeOptions_.togglePadding(); };
+  item("mnuWinTapeOff") = [this] { tapeOptions_.toggleOff(); };
+  item("mnuHelpContents") = [this] { showHelp(); };
+  item("mnuHelpAbout") = [this] { showAbout(); };
+}
+
+}  // namespace shell
