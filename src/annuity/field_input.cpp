@@ -1,8 +1,8 @@
+#include "annuity/allow_key.h"
 #include "annuity/field_text.h"
 #include "annuity/frm_annuity.h"
 #include "common/number_text.h"
 #include "controls/number_field.h"
-#include "engine/allow_key.h"
 
 namespace annuity {
 
@@ -39,7 +39,7 @@ void frmAnnuity::enterField(TextBox& field) {
 
 void frmAnnuity::takeKey(TextBox& field, KeyAscii& key) {
   if (takeEnterAsTab(key)) return;
-  if (!engine::AllowKey(key, "fraction", field.textWithoutSelection(), desktop_)) key = 0;
+  if (!allowKey(key, "fraction", field.textWithoutSelection(), desktop_)) key = 0;
 }
 
 bool frmAnnuity::takeEnterAsTab(KeyAscii& key) {

@@ -1,4 +1,4 @@
-#include "engine/allow_key.h"
+#include "annuity/allow_key.h"
 
 #include <gtest/gtest.h>
 
@@ -6,7 +6,7 @@
 
 #include "inmemory/desktop.h"
 
-namespace engine {
+namespace annuity {
 namespace {
 
 struct Case {
@@ -47,11 +47,11 @@ TEST(AllowKey, SaysWhetherACharacterMayBeTyped) {
   };
   for (const Case& each : cases) {
     inmemory::Desktop desktop;
-    EXPECT_EQ(AllowKey(each.key, each.kind, each.text, desktop), each.allowed)
+    EXPECT_EQ(allowKey(each.key, each.kind, each.text, desktop), each.allowed)
         << each.whatAUserSees;
     EXPECT_EQ(desktop.beeps, each.allowed ? 0 : 1) << each.whatAUserSees;
   }
 }
 
 }  // namespace
-}  // namespace engine
+}  // namespace annuity

@@ -1,9 +1,9 @@
-#include "engine/allow_key.h"
+#include "annuity/allow_key.h"
 
 #include <algorithm>
 #include <array>
 
-namespace engine {
+namespace annuity {
 namespace {
 
 // Comma, and the characters of Ctrl+C, Ctrl+V, Ctrl+X and Ctrl+Z.
@@ -19,11 +19,11 @@ bool isAllowed(controls::KeyAscii key, std::string_view kind, std::string_view t
 
 }  // namespace
 
-bool AllowKey(controls::KeyAscii key, std::string_view kind, std::string_view text,
+bool allowKey(controls::KeyAscii key, std::string_view kind, std::string_view text,
               controls::Desktop& desktop) {
   const bool allowed = isAllowed(key, kind, text);
   if (!allowed) desktop.beep();
   return allowed;
 }
 
-}  // namespace engine
+}  // namespace annuity
