@@ -17,8 +17,8 @@ void NumberField::rewrite(std::string_view text, int caret) {
 void NumberField::reformat(std::string_view text) {
   const int caret = box_.selStart();
   const int moved = caret + static_cast<int>(common::toUtf16(text).size()) - box_.length();
-  // Where more has gone than stood in front of the caret, it has gone from the end.
-  rewrite(text, moved >= 0 ? moved : caret);
+  const bool cutAtTheEnd = moved < 0 || box_.text().starts_with(text);
+  rewrite(text, cutAtTheEnd ? caret : moved);
 }
 
 void NumberField::stepOverSeparator() {

@@ -83,7 +83,7 @@ class AddingMachine {
   bool printShown();
   bool printShownAsTotal();
   void takeSquareRoot();
-  void takePercent();
+  void showPercent(const Amount& amount);
   bool entryIsTyped(const std::string& text) const;
   void askForPlusOrMinus(const std::string& text);
   void clearCalculation();

@@ -68,7 +68,7 @@ void Entry::finish() {
 
 std::string Entry::settle() {
   if (isPosted()) return box_.text();
-  repairSign();
+  repair();
   common::trap([&] { reformat(); }, [](const common::RunTimeError&) {});
   field_.dropLeadingCommas();
   return box_.text();
@@ -97,7 +97,7 @@ void Entry::changeSign() {
 }
 
 void Entry::keyUp(controls::KeyCode key) {
-  repairSign();
+  repair();
   if (!controls::isNavigationKey(key)) tidy();
 }
 
@@ -113,8 +113,10 @@ bool Entry::hasSign(const std::string& text) const {
   return text.starts_with('-') || (!isValue() && text.find('-') != std::string::npos);
 }
 
-void Entry::repairSign() {
+// What was typed where it cannot stay.
+void Entry::repair() {
   if (hasSign(box_.text())) field_.repairSign();
+  field_.dropSeparatorsBehindPoint();
 }
 
 void Entry::reformat() {

@@ -49,8 +49,6 @@ class Entry {
   /// Puts a changed entry in shape for the key that takes it, and gives its text. What is no number
   /// is left for that key to report.
   std::string settle();
-  /// As settle, but a value stays as it stands.
-  std::string settleKeyed() { return isValue() ? text() : settle(); }
   /// The number that the text of the entry stands for; nothing, and the error reported, where it
   /// stands for none.
   std::optional<Amount> amountIn(const std::string& text) const;
@@ -86,9 +84,9 @@ class Entry {
   }
   void takePoint();
   bool acceptsPoint(const std::string& text) const;
-  bool acceptsDigit(const std::string& text) const;
+  bool acceptsDigit(const std::string& text, char digit) const;
   bool hasSign(const std::string& text) const;
-  void repairSign();
+  void repair();
   /// Raises error 13 when the text cannot be put in shape; then it stays.
   void reformat();
   std::string formatted(std::string text);

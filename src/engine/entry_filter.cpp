@@ -1,6 +1,6 @@
 #include <algorithm>
-#include <cctype>
 
+#include "common/unicode.h"
 #include "engine/entry.h"
 
 namespace engine {
@@ -19,9 +19,9 @@ int charactersBehindPoint(const std::string& text) {
 }
 
 // Zeros in front take no room: they are not part of the number.
-int significantDigits(const std::string& text) {
-  const auto isDigit = [](unsigned char c) { return std::isdigit(c) != 0; };
-  const auto first = std::ranges::find_if(text, [](char c) { return c >= '1' && c <= '9'; });
+int significantDigits(const std::u16string& text) {
+  const auto isDigit = [](char16_t c) { return c >= u'0' && c <= u'9'; };
+  const auto first = std::ranges::find_if(text, [](char16_t c) { return c >= u'1' && c <= u'9'; });
   return static_cast<int>(std::count_if(first, text.end(), isDigit));
 }
 
@@ -38,7 +38,7 @@ bool Entry::accepts(controls::KeyAscii key) {
     }
   }
   if (key == kCtrlV) return true;
-  return key >= '0' && key <= '9' && acceptsDigit(text);
+  return key >= '0' && key <= '9' && acceptsDigit(text, static_cast<char>(key));
 }
 
 void Entry::takePoint() {
@@ -50,13 +50,15 @@ bool Entry::acceptsPoint(const std::string& text) const {
   return !hasPoint(text) || (decimals_.stationary() && origin_ == Origin::Digits);
 }
 
-bool Entry::acceptsDigit(const std::string& text) const {
+bool Entry::acceptsDigit(const std::string& text, char digit) const {
   const bool stationary = decimals_.stationary();
   const bool placed = !stationary || hasOwnPoint();
   if (!decimals_.floating() && placed && hasPoint(text) &&
       charactersBehindPoint(text) == decimals_.places())
     return false;
-  if (stationary && significantDigits(text) >= kStationaryDigits) return false;
+  std::u16string typed = common::toUtf16(text);
+  typed.insert(static_cast<std::size_t>(box_.selStart()), 1, static_cast<char16_t>(digit));
+  if (stationary && significantDigits(typed) > kStationaryDigits) return false;
   return text.size() < kEntryLength;
 }
 

@@ -24,12 +24,12 @@ void Memory::store() {
   entry_.setFocus();
 }
 
-// An entry of 0 is not kept; one written out, such as 0.00, is.
+// An entry of 0 is not kept; one written out, such as 0.00, is. Behind a -0 digits may still come.
 void Memory::keep(double base) {
-  const std::string text = entry_.settleKeyed();
-  if (text.empty()) return;
-  const auto amount = entry_.take(text);
-  if (!amount || amount->text == "0") return;
+  const std::string text = entry_.settle();
+  if (text.empty() || text == "0" || text == "-0") return;
+  const auto amount = entry_.amountIn(text);
+  if (!amount) return;
   const double sum = base + amount->value;
   if (!std::isfinite(sum)) {
     showError(desktop_, common::kOverflow);

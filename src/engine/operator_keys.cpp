@@ -104,20 +104,18 @@ void AddingMachine::lockModes(bool locked) {
 }
 
 void AddingMachine::percent() {
-  takePercent();
+  const std::string text = entry_.settle();
+  const auto amount = text.empty() ? std::nullopt : entry_.amountIn(text);
+  if (amount) showPercent(*amount);
   entry_.setFocus();
-  entry_.moveCaretToEnd();
 }
 
-void AddingMachine::takePercent() {
-  const std::string text = entry_.settleKeyed();
-  if (text.empty()) return;
-  const auto amount = entry_.amountIn(text);
-  if (!amount) return;
-  entry_.showValue(common::toText(amount->value * 0.01));
+void AddingMachine::showPercent(const Amount& amount) {
+  entry_.showValue(common::toText(amount.value * 0.01));
   entry_.takeAsResult();
   entry_.format();
   if (mode_ == Mode::Product) total();
+  entry_.moveCaretToEnd();
 }
 
 }  // namespace engine

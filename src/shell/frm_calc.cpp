@@ -35,6 +35,7 @@ frmCalc::frmCalc(controls::Desktop& desktop, Program& program)
       tapeOutput_(*window_, desktop),
       place_(*window_, settings_) {
   wireKeys();
+  wireFigures();
   wireEntry();
   wireOtherBoxes();
   wireFileAndEditMenu();

@@ -45,6 +45,8 @@ class frmCalc {
   void wireWinAndHelpMenu();
 
   void typeKey(controls::KeyCode key, controls::KeyAscii character);
+  void wireFigures();
+  void typeIntoEntry(controls::KeyAscii& key);
   void resize();
   void restoreSettings();
   void activate();

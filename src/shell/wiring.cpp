@@ -1,4 +1,6 @@
 // Which control does what: one line for each.
+#include <utility>
+
 #include "shell/frm_calc.h"
 
 namespace shell {
@@ -47,6 +49,21 @@ void frmCalc::wireKeys() {
 void frmCalc::typeKey(controls::KeyCode key, controls::KeyAscii character) {
   window_->textBox("txtEntry").setFocus();
   window_->sendKey(key, character);
+}
+
+void frmCalc::wireFigures() {
+  for (const auto& control : window_->controls()) {
+    auto* key = dynamic_cast<controls::ClickControl*>(control.get());
+    if (key) key->onKeyPress = [this](controls::KeyAscii& character) { typeIntoEntry(character); };
+  }
+}
+
+// A figure typed while a key or a toggle has the focus.
+void frmCalc::typeIntoEntry(controls::KeyAscii& key) {
+  if (key != '.' && (key < '0' || key > '9')) return;
+  controls::TextBox& txtEntry = window_->textBox("txtEntry");
+  txtEntry.setFocus();
+  txtEntry.typeCharacter(std::exchange(key, 0));
 }
 
 void frmCalc::wireEntry() {

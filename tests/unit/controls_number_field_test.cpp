@@ -128,9 +128,12 @@ TEST_F(NumberFieldTest, SeparatorsBehindThePointGo) {
   put("8.,123,456", 2);
   field_.dropSeparatorsBehindPoint();
   EXPECT_EQ(shown(), "8.123456 2+0");
-  put("1,234.5,6", 9);
+  put("1,234.5,678", 8);
   field_.dropSeparatorsBehindPoint();
-  EXPECT_EQ(shown(), "1,234.56 8+0");
+  EXPECT_EQ(shown(), "1,234.5678 7+0");
+  put("1,234.5", 1, 2);
+  field_.dropSeparatorsBehindPoint();
+  EXPECT_EQ(shown(), "1,234.5 1+2");
   put("1,234", 2);
   field_.dropSeparatorsBehindPoint();
   EXPECT_EQ(shown(), "1,234 2+0");
