@@ -35,7 +35,6 @@ void NumberField::repairSign() {
 
 void NumberField::dropLeadingCommas() {
   const std::string text = box_.text();
-  if (!text.starts_with(',')) return;
   const auto commas = std::min(text.find_first_not_of(','), text.size());
   rewrite(std::string_view(text).substr(commas), box_.selStart() - static_cast<int>(commas));
 }

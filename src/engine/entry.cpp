@@ -115,8 +115,10 @@ bool Entry::hasSign(const std::string& text) const {
 
 // What was typed where it cannot stay.
 void Entry::repair() {
-  if (hasSign(box_.text())) field_.repairSign();
-  field_.dropSeparatorsBehindPoint();
+  const std::string text = box_.text();
+  if (hasSign(text)) field_.repairSign();
+  const auto point = std::min(text.find('.'), text.size());
+  if (text.find(',', point) != std::string::npos) field_.dropSeparatorsBehindPoint();
 }
 
 void Entry::reformat() {

@@ -5,24 +5,43 @@
 
 namespace engine {
 
+// In a ledger of another country 12,50 is not 1,250.
 void EntryPaste::paste(const std::optional<std::string>& text) {
-  take(text.value_or(""));
+  const std::string pasted = controls::withoutLineEnd(text.value_or(""));
+  if (common::hasOddCommas(pasted)) {
+    refuse();
+  } else {
+    take(pasted);
+  }
 }
 
-// A box that the mouse has emptied had nothing pasted into it.
+void EntryPaste::mousePaste(std::string& text) {
+  text = controls::withoutLineEnd(std::move(text));
+  mousePasteIsOdd_ = common::hasOddCommas(text);
+}
+
+// The separators that stood in the entry before are the program's own, wherever they stand now. A
+// box that the mouse has emptied had nothing pasted into it.
 void EntryPaste::mouseUp(controls::MouseEdit edit) {
-  const std::string text = entry_.text();
-  if (edit == controls::MouseEdit::Pasted && !text.empty()) take(text);
+  std::string text = entry_.text();
   if (edit == controls::MouseEdit::Edited) entry_.tidy();
+  if (edit != controls::MouseEdit::Pasted || text.empty()) return;
+  if (mousePasteIsOdd_) {
+    refuse();
+  } else {
+    std::erase(text, ',');
+    take(text);
+  }
 }
 
 void EntryPaste::take(const std::string& text) {
-  common::trap(
-      [&] { entry_.showPasted(withPlaces(common::toPlainText(controls::withoutLineEnd(text)))); },
-      [&](const common::RunTimeError&) {
-        desktop_.showMessage({.text = "Pasted entry is not a valid number."});
-        entry_.clear();
-      });
+  common::trap([&] { entry_.showPasted(withPlaces(common::toPlainText(text))); },
+               [&](const common::RunTimeError&) { refuse(); });
+}
+
+void EntryPaste::refuse() {
+  desktop_.showMessage({.text = "Pasted entry is not a valid number."});
+  entry_.clear();
 }
 
 // Decimals beyond the places set are cut off, not rounded.

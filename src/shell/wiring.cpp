@@ -75,8 +75,7 @@ void frmCalc::wireEntry() {
   txtEntry.onPasteCommand = [this](const std::optional<std::string>& text) {
     machine_.entryPaste().paste(text);
   };
-  // What the mouse pastes is judged with the rest of the entry, when the mouse is up.
-  txtEntry.onPaste = [](std::string& text) { text = controls::withoutLineEnd(std::move(text)); };
+  txtEntry.onPaste = [this](std::string& text) { machine_.entryPaste().mousePaste(text); };
   txtEntry.onGotFocus = [this, &txtEntry] { colors_.mark(txtEntry); };
 }
 
