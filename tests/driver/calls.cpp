@@ -1,5 +1,9 @@
 #include "driver/calls.h"
 
+#include <algorithm>
+#include <array>
+#include <string_view>
+
 #include "annuity/time_value.h"
 #include "common/number_pattern.h"
 #include "common/number_text.h"
@@ -27,15 +31,17 @@ void expect(const std::vector<Json>& arguments, std::size_t least, std::size_t m
     throw CommandError("wrong number of arguments");
 }
 
-using FourAmounts = double (*)(double, double, double, double, int);
+using Arguments = std::vector<Json>;
+using TimeValue = double (*)(double, double, double, double, int);
 
-double callTimeValue(FourAmounts function, const std::vector<Json>& a) {
+template <TimeValue function>
+Json callTimeValue(const Arguments& a) {
   expect(a, 5, 5);
   return function(number(a, 0), number(a, 1), number(a, 2), number(a, 3),
                   static_cast<int>(number(a, 4)));
 }
 
-double callRate(const std::vector<Json>& a) {
+Json callRate(const Arguments& a) {
   expect(a, 5, 6);
   const int due = static_cast<int>(number(a, 4));
   if (a.size() == 5)
@@ -43,35 +49,45 @@ double callRate(const std::vector<Json>& a) {
   return annuity::rate(number(a, 0), number(a, 1), number(a, 2), number(a, 3), due, number(a, 5));
 }
 
-std::string callFormat(const std::vector<Json>& a) {
+Json callFormat(const Arguments& a) {
   expect(a, 2, 2);
   return a[0].is_number() ? common::formatNumber(number(a, 0), text(a, 1))
                           : common::formatText(text(a, 0), text(a, 1));
 }
 
-Json valueOf(const std::string& name, const std::vector<Json>& a) {
-  if (name == "Pmt") return callTimeValue(annuity::pmt, a);
-  if (name == "PV") return callTimeValue(annuity::pv, a);
-  if (name == "FV") return callTimeValue(annuity::fv, a);
-  if (name == "NPer") return callTimeValue(annuity::nper, a);
-  if (name == "Rate") return callRate(a);
-  if (name == "Format") return callFormat(a);
-  if (name == "Value") {
-    expect(a, 1, 1);
-    return common::toNumber(text(a, 0));
-  }
-  if (name == "Text") {
-    expect(a, 1, 1);
-    return common::toText(number(a, 0));
-  }
-  throw CommandError("no such function: " + name);
+Json callValue(const Arguments& a) {
+  expect(a, 1, 1);
+  return common::toNumber(text(a, 0));
 }
+
+Json callText(const Arguments& a) {
+  expect(a, 1, 1);
+  return common::toText(number(a, 0));
+}
+
+struct Function {
+  std::string_view name;
+  Json (*call)(const Arguments&);
+};
+
+constexpr auto kFunctions = std::to_array<Function>({
+    {"Pmt", callTimeValue<annuity::pmt>},
+    {"PV", callTimeValue<annuity::pv>},
+    {"FV", callTimeValue<annuity::fv>},
+    {"NPer", callTimeValue<annuity::nper>},
+    {"Rate", callRate},
+    {"Format", callFormat},
+    {"Value", callValue},
+    {"Text", callText},
+});
 
 }  // namespace
 
 Json callFunction(const std::string& name, const std::vector<Json>& arguments) {
+  const auto function = std::ranges::find(kFunctions, name, &Function::name);
+  if (function == kFunctions.end()) throw CommandError("no such function: " + name);
   try {
-    return {{"value", valueOf(name, arguments)}};
+    return {{"value", function->call(arguments)}};
   } catch (const common::RunTimeError& error) {
     return {{"raised", error.number()}};
   }
