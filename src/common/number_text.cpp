@@ -241,7 +241,7 @@ DecimalDigits toDigits(double value) {
   if (value == 0) return result;
   result.negative = value < 0;
   // The C library rounds as correctly as to_chars, whose tables would weigh a quarter of the
-  // program. What stands for the point does not matter here.
+  // program. Which character is the point does not matter here.
   char buffer[32];
   const int length =
       std::snprintf(buffer, sizeof buffer, "%.*e", kSignificantDigits - 1, std::abs(value));
@@ -284,7 +284,7 @@ std::string toPlainText(std::string_view text) {
     if (written.hasPoint) plain += '.';
     plain += written.fraction;
   } else if (magnitude == 0) {
-    // A size that vanishes in a double could have more zeros than memory holds.
+    // A size that vanishes in a double could have more zeros than fit into memory.
     plain += '0';
   } else {
     appendFixed(plain, significand.digits, significand.point);

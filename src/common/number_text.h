@@ -6,7 +6,7 @@
 
 namespace common {
 
-/// The number that a text stands for. Accepted: blanks and tabs around; one sign in front or a
+/// The number that a text represents. Accepted: blanks and tabs around; one sign in front or a
 /// minus behind; "$"; parentheses for a negative; digits with "," anywhere in the integer part; a
 /// "." ; an exponent. Nothing for any other text, and beyond the range of a double.
 std::optional<double> tryNumber(std::string_view text);

@@ -4,7 +4,7 @@
 
 namespace engine {
 
-/// An amount as it stands in the entry box: its text, and the number that the text stands for.
+/// An amount as it is in the entry box: its text, and the number that the text represents.
 struct Amount {
   std::string text;
   double value = 0;

@@ -19,7 +19,7 @@ class Decimals {
   bool stationary() const { return !floating() && stationary_.value() == 1; }
   /// The decimals box when it holds one digit, else 0.
   int places() const;
-  /// Writes the 0 that an empty decimals box stands for.
+  /// Writes the 0 that an empty decimals box means.
   void fillEmptyBox();
 
  private:

@@ -49,8 +49,8 @@ class Entry {
   /// Puts a changed entry in shape for the key that takes it, and gives its text. What is no number
   /// is left for that key to report.
   std::string settle();
-  /// The number that the text of the entry stands for; nothing, and the error reported, where it
-  /// stands for none.
+  /// The number that the text of the entry represents; nothing, and the error reported, if it
+  /// represents none.
   std::optional<Amount> amountIn(const std::string& text) const;
   /// The same for a key that takes the entry: the minus in front of typed zeros waited for digits
   /// that did not come, and goes.

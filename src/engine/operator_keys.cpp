@@ -60,7 +60,7 @@ bool AddingMachine::takeEntry(const std::string& text, Operator key) {
   return amount && applyOperator(*amount, key);
 }
 
-// False when the amount was refused; then the calculation stands where it stood.
+// False when the amount was refused; then the calculation is unchanged.
 bool AddingMachine::applyOperator(const Amount& amount, Operator key) {
   const double largest = decimals_.floating() ? kLargestFloatingTotal : kLargestFixedTotal;
   const Outcome outcome = addMode() ? calculation_.add(amount, key, largest)

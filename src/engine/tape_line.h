@@ -6,7 +6,7 @@
 
 namespace engine {
 
-/// What stands behind an amount on the tape: what was done with it.
+/// What follows an amount on the tape: what was done with it.
 enum class Mark { First, Plus, Minus, Times, Divide, Root, Total };
 
 /// An amount on the tape, and its mark.
@@ -30,7 +30,7 @@ inline constexpr int kTapeWidth = 26;
 /// The tape's first line.
 std::string tapeHeader(bool padded);
 
-/// A line as it stands on the tape; in a padded tape a longer one is written as it is.
+/// A line as it is on the tape; in a padded tape a longer one is written as it is.
 std::string tapeText(const TapeLine& line, const TapeForm& form);
 
 /// The line behind a total.

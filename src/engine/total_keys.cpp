@@ -39,7 +39,8 @@ void AddingMachine::askForPlusOrMinus(const std::string& text) {
   desktop_.beep();
 }
 
-// The zero that a total or C&Total leaves in the box was not typed, though nobody has posted it.
+// The zero that a total or C&Total leaves in the box was not typed, though it has not been posted
+// either.
 bool AddingMachine::entryIsTyped(const std::string& text) const {
   if (!entry_.isResult()) return true;
   const bool nothingTaken = !calculation_.isOpen();

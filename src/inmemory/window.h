@@ -20,7 +20,7 @@ class Window : public controls::Window {
   void bringToFront() override { noteActivated(); }
 
  private:
-  // Where the window stands when it is neither maximized nor minimized.
+  // Where the window is when it is neither maximized nor minimized.
   controls::Rect normalBounds_;
   bool maximized_ = false;
 };

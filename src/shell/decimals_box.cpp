@@ -77,7 +77,7 @@ void DecimalsBox::keyPress(controls::KeyAscii& key) {
   desktop_.beep();
 }
 
-// One key stroke sets the places, and typing goes on in the entry box. The release of Tab, and of
+// One keystroke sets the places, and typing goes on in the entry box. The release of Tab, and of
 // the Shift held with it, belongs to the stroke that led here.
 void DecimalsBox::keyUp(controls::KeyCode key) {
   if (key != controls::kKeyTab && key != kKeyShift) txtEntry_.setFocus();

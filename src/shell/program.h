@@ -15,7 +15,7 @@ inline constexpr controls::Color kDefaultFocusColor = controls::Color::rgb(16777
 class Program {
  public:
   virtual ~Program() = default;
-  /// Opens the financial calculator afresh, for one kind of problem.
+  /// Opens the financial calculator again, for one kind of problem.
   virtual void openFinancialCalc(common::AnnuityKind kind) = 0;
   /// Shows the About box in front of everything; `closed` runs when it has been closed.
   virtual void showAbout(std::function<void()> closed) = 0;

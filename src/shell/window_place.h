@@ -7,7 +7,7 @@
 
 namespace shell {
 
-/// Where the main window stands, and how large: as it was left, as the micro window, on top.
+/// The place and size of the main window: as it was left, as the micro window, on top.
 class WindowPlace {
  public:
   WindowPlace(controls::Window& window, Settings& settings);

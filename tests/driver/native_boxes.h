@@ -13,7 +13,7 @@
 
 namespace driver {
 
-/// A message box as it stood on the screen, and its answer.
+/// A message box as it was on the screen, and its answer.
 struct SeenBox {
   std::string text;
   std::string title;
@@ -32,7 +32,7 @@ class NativeBoxes {
   /// Nothing cancels the colour picker.
   void queueColor(const std::optional<std::uint32_t>& color) { colors_.push_back(color); }
 
-  /// Deals with the dialog that stands open or is about to, and returns when it has gone. False
+  /// Deals with the dialog that is open or is about to open, and returns when it has gone. False
   /// without one.
   bool attend();
   /// The program's thread: what the program took the last box's answer for.
