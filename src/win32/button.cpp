@@ -5,9 +5,8 @@
 namespace win32 {
 
 Button::Button(Window& frame, const controls::ControlLayout& layout)
-    : Native(frame, layout, {L"BUTTON", BS_PUSHBUTTON}), face_(frame, *this) {
-  putText();
-}
+    : Native(frame, layout, {L"BUTTON", BS_PUSHBUTTON, 0, keyName(layout, layout.caption)}),
+      face_(frame, *this) {}
 
 void Button::takeNotification(UINT code) {
   if (code == BN_CLICKED) click();
@@ -23,9 +22,9 @@ void Button::refresh() {
 }
 
 ToggleButton::ToggleButton(Window& frame, const controls::ControlLayout& layout)
-    : Native(frame, layout, {L"BUTTON", BS_CHECKBOX | BS_PUSHLIKE}), face_(frame, *this) {
-  putText();
-}
+    : Native(frame, layout,
+             {L"BUTTON", BS_CHECKBOX | BS_PUSHLIKE, 0, keyName(layout, layout.caption)}),
+      face_(frame, *this) {}
 
 void ToggleButton::takeNotification(UINT code) {
   if (code == BN_CLICKED) click();

@@ -16,7 +16,7 @@ class Button : public Native<controls::Button> {
   void refresh() override;
 
  protected:
-  std::wstring windowText() const override { return keyName(*this); }
+  std::wstring windowText() const override { return keyName(Native::layout(), caption()); }
 
  private:
   KeyFace face_;
@@ -32,7 +32,7 @@ class ToggleButton : public Native<controls::ToggleButton> {
   void refresh() override;
 
  protected:
-  std::wstring windowText() const override { return keyName(*this); }
+  std::wstring windowText() const override { return keyName(Native::layout(), caption()); }
   void showValue() override;
 
  private:

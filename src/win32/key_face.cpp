@@ -47,10 +47,9 @@ void drawClassicKey(const NMCUSTOMDRAW& draw, bool down) {
 
 }  // namespace
 
-std::wstring keyName(const controls::Control& key) {
-  const controls::ControlLayout& layout = key.layout();
+std::wstring keyName(const controls::ControlLayout& layout, std::string_view caption) {
   if (!layout.accessibleName.empty()) return wide(layout.accessibleName);
-  return wide(layout.face.empty() ? key.caption() : std::string(layout.face));
+  return wide(layout.face.empty() ? caption : layout.face);
 }
 
 // A caption that is the name of its key is drawn by the system.

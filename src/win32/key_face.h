@@ -15,7 +15,7 @@ class Window;
 
 /// What the system and a screen reader know a button by: the words for it, where its caption,
 /// symbol or picture does not say what it does.
-std::wstring keyName(const controls::Control& key);
+std::wstring keyName(const controls::ControlLayout& layout, std::string_view caption);
 
 /// What is seen on a button that shows a short caption, a symbol or a picture in the place of its
 /// name, or that has a colour. It is drawn in the system's own style.

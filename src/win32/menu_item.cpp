@@ -55,9 +55,9 @@ void MenuItem::showState() {
   showOnBar();
 }
 
-// What stands in the bar itself is drawn anew only on request.
+// What stands in the bar of a window is drawn again only on request.
 void MenuItem::showOnBar() {
-  if (!parent()) DrawMenuBar(frame_.handle());
+  if (!parent() && GetMenu(frame_.handle())) DrawMenuBar(frame_.handle());
 }
 
 }  // namespace win32

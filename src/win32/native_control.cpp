@@ -10,7 +10,8 @@ namespace win32 {
 NativeControl::NativeControl(Window& frame, controls::Control& control, const NativeStyle& style)
     : frame_(frame), control_(control) {
   const RECT place = frame.scale().toPixels(control.bounds());
-  handle_ = CreateWindowExW(style.exStyle, style.windowClass, wide(control.caption()).c_str(),
+  const std::wstring text = style.text.empty() ? wide(control.caption()) : style.text;
+  handle_ = CreateWindowExW(style.exStyle, style.windowClass, text.c_str(),
                             WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS | style.style, place.left,
                             place.top, place.right - place.left, place.bottom - place.top,
                             frame.handle(), nullptr, GetModuleHandleW(nullptr), nullptr);
@@ -61,6 +62,10 @@ std::optional<LRESULT> NativeControl::take(const Message& message) {
       frame_.focusControl(control_);
       return result;
     }
+    case WM_NCPAINT:
+      // The system asks and computes much to draw no edge at all.
+      if (!(GetWindowLongW(handle_, GWL_EXSTYLE) & WS_EX_CLIENTEDGE)) return 0;
+      return {};
     case WM_KEYDOWN:
       // The native control does not act on keys by itself: their characters do.
       return 0;

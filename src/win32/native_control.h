@@ -18,6 +18,8 @@ struct NativeStyle {
   const wchar_t* windowClass;
   DWORD style = 0;
   DWORD exStyle = 0;
+  /// The window text; empty for the control's caption.
+  std::wstring text = {};
 };
 
 /// The system's side of a control: its window handle, which lives as long as the control does.
