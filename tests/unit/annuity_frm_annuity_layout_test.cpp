@@ -1,0 +1,118 @@
+#include "annuity/frm_annuity_layout.h"
+
+#include "unit/layout_rules.h"
+
+namespace annuity {
+namespace {
+
+using controls::Alignment;
+using controls::ControlKind;
+using layout_rules::Seen;
+
+constexpr ControlKind kBox = ControlKind::TextBox;
+constexpr ControlKind kButton = ControlKind::Button;
+constexpr ControlKind kLabel = ControlKind::Label;
+constexpr ControlKind kFrame = ControlKind::Frame;
+constexpr ControlKind kOption = ControlKind::OptionButton;
+
+constexpr std::string_view kSans = "MS Sans Serif";
+
+TEST(FrmAnnuityLayout, EveryControlIsInSight) {
+  layout_rules::expectAllInSight(frmAnnuityLayout());
+}
+
+TEST(FrmAnnuityLayout, FieldsStandUnderEachOtherBesideTheirLabels) {
+  const auto& layout = frmAnnuityLayout();
+  const std::vector<std::string_view> labels = {"Label2", "Label3", "Label4", "Label5", "Label6"};
+  const std::vector<std::string_view> fields = {"txtNper", "txtRate", "txtPmt", "txtPV", "txtFV"};
+  layout_rules::expectColumn(layout, labels);
+  layout_rules::expectColumn(layout, fields);
+  for (std::size_t i = 0; i < fields.size(); ++i) {
+    const auto& label = layout_rules::placeOf(layout, labels[i]);
+    const auto& field = layout_rules::placeOf(layout, fields[i]);
+    EXPECT_LT(layout_rules::right(label), field.left);
+    EXPECT_GT(label.top, field.top);
+    EXPECT_LT(layout_rules::bottom(label), layout_rules::bottom(field));
+  }
+}
+
+TEST(FrmAnnuityLayout, ButtonsAndOptionsStandInRows) {
+  const auto& layout = frmAnnuityLayout();
+  layout_rules::expectRow(layout, {"cmdRotateLabels", "cmdPrintToTape", "cmdClearAll", "cmdHelp"});
+  layout_rules::expectRow(layout, {"optNper(0)", "optNper(1)"});
+  EXPECT_EQ(layout_rules::placeOf(layout, "optNper(0)").top,
+            layout_rules::placeOf(layout, "txtNper").top);
+  const auto& frame = layout_rules::placeOf(layout, "fraDueBy");
+  for (const auto name : {"optDue(0)", "optDue(1)", "Label7"}) {
+    const auto& place = layout_rules::placeOf(layout, name);
+    EXPECT_GT(place.left, frame.left) << name;
+    EXPECT_GT(place.top, frame.top) << name;
+    EXPECT_LT(layout_rules::right(place), layout_rules::right(frame)) << name;
+    EXPECT_LT(layout_rules::bottom(place), layout_rules::bottom(frame)) << name;
+  }
+}
+
+TEST(FrmAnnuityLayout, AnswerStandsUnderTheKeyThatAsksForIt) {
+  const auto& layout = frmAnnuityLayout();
+  const auto below = [&](const char* upper, const char* lower) {
+    EXPECT_LE(layout_rules::bottom(layout_rules::placeOf(layout, upper)),
+              layout_rules::placeOf(layout, lower).top)
+        << lower;
+  };
+  below("txtFV", "Label8");
+  below("Label8", "cmdCalculate");
+  below("cmdCalculate", "lblResultType");
+  below("lblResultType", "lblAnswer");
+  EXPECT_EQ(layout_rules::right(layout_rules::placeOf(layout, "lblAnswer")),
+            layout_rules::right(layout_rules::placeOf(layout, "txtFV")));
+}
+
+TEST(FrmAnnuityLayout, OptionsOfAGroupExcludeEachOther) {
+  const auto& layout = frmAnnuityLayout();
+  for (const auto& control : layout.controls) {
+    const bool term = control.name.starts_with("optNper");
+    const bool timing = control.name.starts_with("optDue");
+    EXPECT_EQ(control.optionGroup, term ? 1 : timing ? 2 : 0) << control.name;
+    EXPECT_EQ(control.chosen, control.name == "optNper(0)" || control.name == "optDue(0)")
+        << control.name;
+  }
+  EXPECT_FALSE(layout.resizable);
+}
+
+constexpr Seen kListed[] = {
+    {0, "Label1", kLabel, "Leave one blank to calculate its result.", "", "", "", kSans, 83, false,
+     Alignment::Right},
+    {1, "Label2", kLabel, "", "", "", "", kSans, 83, false, Alignment::Right},
+    {2, "txtNper", kBox, "", "", "", "", kSans, 98, false, Alignment::Right},
+    {3, "Label3", kLabel, "Annual Interest &Rate:", "", "", "", kSans, 83, false, Alignment::Right},
+    {4, "txtRate", kBox, "", "", "", "", kSans, 98, false, Alignment::Right},
+    {5, "Label4", kLabel, "", "", "", "", kSans, 83, false, Alignment::Right},
+    {6, "txtPmt", kBox, "", "", "", "", kSans, 98, false, Alignment::Right},
+    {7, "Label5", kLabel, "", "", "", "", kSans, 83, false, Alignment::Right},
+    {8, "txtPV", kBox, "", "", "", "", kSans, 98, false, Alignment::Right},
+    {9, "Label6", kLabel, "", "", "", "", kSans, 83, false, Alignment::Right},
+    {10, "txtFV", kBox, "", "", "", "", kSans, 98, false, Alignment::Right},
+    {11, "cmdCalculate", kButton, "", "", "", "", kSans, 98},
+    {12, "optNper(0)", kOption, "", "", "", "", kSans, 83},
+    {13, "optNper(1)", kOption, "", "", "", "", kSans, 83},
+    {14, "optDue(0)", kOption, "", "", "", "", kSans, 83},
+    {15, "optDue(1)", kOption, "", "", "", "", kSans, 83},
+    {16, "lblAnswer", kLabel, "", "", "", "", kSans, 150, false, Alignment::Right},
+    {17, "lblResultType", kLabel, "", "", "", "", kSans, 98, true, Alignment::Right},
+    {18, "fraDueBy", kFrame, "Payments are due by:", "", "", "", kSans, 83},
+    {19, "Label7", kLabel, "of the period.", "", "", "", kSans, 83},
+    {20, "cmdRotateLabels", kButton, "", "", "Rotate configuration",
+     "Rotate the financial annuity configuration.", kSans, 83},
+    {21, "Label8", kLabel, "For normal loans balloon pmt = zero.", "", "", "", kSans, 83, false,
+     Alignment::Right},
+    {22, "cmdPrintToTape", kButton, "", "", "Print to tape", "Send Info to Tape.", kSans, 83},
+    {23, "cmdClearAll", kButton, "", "", "Clear all boxes", "Clear all boxes.", kSans, 83},
+    {24, "cmdHelp", kButton, "", "", "Help", "Pulls up help.", kSans, 83},
+};
+
+TEST(FrmAnnuityLayout, EveryControlIsSeenAsListed) {
+  layout_rules::expectSeen(frmAnnuityLayout(), kListed);
+}
+
+}  // namespace
+}  // namespace annuity

@@ -1,0 +1,123 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <span>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "controls/layout.h"
+
+namespace layout_rules {
+
+using controls::ControlKind;
+using controls::ControlLayout;
+using controls::Rect;
+using controls::Twips;
+using controls::WindowLayout;
+
+inline Twips right(const Rect& place) {
+  return place.left + place.width;
+}
+
+inline Twips bottom(const Rect& place) {
+  return place.top + place.height;
+}
+
+inline bool overlap(const Rect& one, const Rect& other) {
+  return one.left < right(other) && other.left < right(one) && one.top < bottom(other) &&
+         other.top < bottom(one);
+}
+
+inline const Rect& placeOf(const WindowLayout& layout, std::string_view name) {
+  const auto found = std::ranges::find(layout.controls, name, &ControlLayout::name);
+  if (found == layout.controls.end()) throw std::invalid_argument(std::string(name));
+  return found->place;
+}
+
+/// No control covers another, but a frame what it surrounds; and each lies inside the window.
+inline void expectAllInSight(const WindowLayout& layout) {
+  const Rect client = {0, 0, layout.place.width - controls::kFrameWidth,
+                       layout.place.height - layout.frameHeight()};
+  for (const ControlLayout& one : layout.controls) {
+    SCOPED_TRACE(one.name);
+    EXPECT_GT(one.place.width, 0);
+    EXPECT_GT(one.place.height, 0);
+    EXPECT_GE(one.place.left, client.left);
+    EXPECT_GE(one.place.top, client.top);
+    EXPECT_LE(right(one.place), client.width);
+    EXPECT_LE(bottom(one.place), client.height);
+    for (const ControlLayout& other : layout.controls) {
+      if (&one == &other || one.kind == ControlKind::Frame || other.kind == ControlKind::Frame)
+        continue;
+      EXPECT_FALSE(overlap(one.place, other.place)) << "covers " << other.name;
+    }
+  }
+}
+
+/// Controls side by side: of one height, on one line, the same gap between each two.
+inline void expectRow(const WindowLayout& layout, const std::vector<std::string_view>& names) {
+  ASSERT_GE(names.size(), 2U);
+  const Rect& first = placeOf(layout, names[0]);
+  const Twips gap = placeOf(layout, names[1]).left - right(first);
+  EXPECT_GT(gap, 0);
+  for (std::size_t i = 1; i < names.size(); ++i) {
+    const Rect& place = placeOf(layout, names[i]);
+    EXPECT_EQ(place.left - right(placeOf(layout, names[i - 1])), gap) << names[i];
+    EXPECT_EQ(place.top, first.top) << names[i];
+  }
+}
+
+/// Controls below each other: of one width, under one another, the same gap between each two.
+inline void expectColumn(const WindowLayout& layout, const std::vector<std::string_view>& names) {
+  ASSERT_GE(names.size(), 2U);
+  const Rect& first = placeOf(layout, names[0]);
+  const Twips gap = placeOf(layout, names[1]).top - bottom(first);
+  EXPECT_GT(gap, 0);
+  for (std::size_t i = 1; i < names.size(); ++i) {
+    const Rect& place = placeOf(layout, names[i]);
+    EXPECT_EQ(place.top - bottom(placeOf(layout, names[i - 1])), gap) << names[i];
+    EXPECT_EQ(place.left, first.left) << names[i];
+    EXPECT_EQ(place.width, first.width) << names[i];
+  }
+}
+
+/// What a user, and a screen reader, knows of a control.
+struct Seen {
+  int tabIndex;
+  std::string_view name;
+  ControlKind kind;
+  std::string_view caption;
+  std::string_view face;
+  std::string_view accessibleName;
+  std::string_view toolTip;
+  std::string_view font;
+  int tenthsOfPoint;
+  bool bold = false;
+  controls::Alignment alignment = controls::Alignment::Left;
+};
+
+/// Each control is as the list says, and the list has them all.
+inline void expectSeen(const WindowLayout& layout, std::span<const Seen> list) {
+  EXPECT_EQ(layout.controls.size(), list.size());
+  for (const Seen& seen : list) {
+    SCOPED_TRACE(seen.name);
+    const auto control = std::ranges::find(layout.controls, seen.name, &ControlLayout::name);
+    ASSERT_NE(control, layout.controls.end());
+    EXPECT_EQ(control->tabIndex, seen.tabIndex);
+    EXPECT_EQ(control->kind, seen.kind);
+    EXPECT_EQ(control->caption, seen.caption);
+    EXPECT_EQ(control->face, seen.face);
+    EXPECT_EQ(control->accessibleName, seen.accessibleName);
+    EXPECT_EQ(control->toolTip, seen.toolTip);
+    EXPECT_EQ(control->font.name, seen.font);
+    EXPECT_EQ(control->font.tenthsOfPoint, seen.tenthsOfPoint);
+    EXPECT_EQ(control->font.bold, seen.bold);
+    EXPECT_EQ(control->alignment, seen.alignment);
+  }
+}
+
+}  // namespace layout_rules

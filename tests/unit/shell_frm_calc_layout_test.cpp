@@ -1,0 +1,178 @@
+#include "shell/frm_calc_layout.h"
+
+#include "unit/layout_rules.h"
+
+namespace shell {
+namespace {
+
+using controls::Alignment;
+using controls::ControlKind;
+using layout_rules::Seen;
+
+constexpr ControlKind kBox = ControlKind::TextBox;
+constexpr ControlKind kButton = ControlKind::Button;
+constexpr ControlKind kLabel = ControlKind::Label;
+constexpr ControlKind kToggle = ControlKind::ToggleButton;
+
+constexpr std::string_view kSans = "MS Sans Serif";
+constexpr std::string_view kCourier = "Courier New";
+constexpr std::string_view kTerminal = "Terminal";
+
+TEST(FrmCalcLayout, EveryControlIsInSight) {
+  layout_rules::expectAllInSight(frmCalcLayout());
+}
+
+TEST(FrmCalcLayout, DigitsStandWhereFingersKnowThem) {
+  const auto& layout = frmCalcLayout();
+  layout_rules::expectRow(
+      layout, {"cmdNumber(7)", "cmdNumber(8)", "cmdNumber(9)", "cmdTimes", "cmdPercent"});
+  layout_rules::expectRow(
+      layout, {"cmdNumber(4)", "cmdNumber(5)", "cmdNumber(6)", "cmdMinus", "cmdChangeSign"});
+  layout_rules::expectRow(layout,
+                          {"cmdNumber(1)", "cmdNumber(2)", "cmdNumber(3)", "cmdPlus", "cmdEquals"});
+  layout_rules::expectRow(layout,
+                          {"chkFloatingDec", "chkShiftDec", "chkTapeOff", "cmdDivide", "cmdArrow"});
+  layout_rules::expectRow(layout, {"cmdNumber(0)", "cmdPeriod"});
+  layout_rules::expectColumn(layout,
+                             {"chkFloatingDec", "cmdNumber(7)", "cmdNumber(4)", "cmdNumber(1)"});
+  layout_rules::expectColumn(layout,
+                             {"chkShiftDec", "cmdNumber(8)", "cmdNumber(5)", "cmdNumber(2)"});
+  layout_rules::expectColumn(
+      layout, {"chkTapeOff", "cmdNumber(9)", "cmdNumber(6)", "cmdNumber(3)", "cmdPeriod"});
+  layout_rules::expectColumn(layout, {"cmdDivide", "cmdTimes", "cmdMinus", "cmdPlus"});
+  layout_rules::expectColumn(layout, {"cmdArrow", "cmdPercent", "cmdChangeSign", "cmdEquals"});
+}
+
+TEST(FrmCalcLayout, ClearAndMemoryKeysStandInColumnsBesideTheDigits) {
+  const auto& layout = frmCalcLayout();
+  layout_rules::expectColumn(
+      layout, {"cmdClearCurrent", "cmdClearCalc", "cmdClearTape", "cmdClearAll", "cmdSquareRoot"});
+  layout_rules::expectColumn(layout, {"cmdMemClear", "cmdMemRecall", "cmdMemStore", "cmdMemPlus"});
+  layout_rules::expectRow(layout, {"cmdClearCurrent", "cmdMemClear"});
+  layout_rules::expectRow(layout, {"cmdMemRecall", "cmdNumber(7)"});
+  for (const auto name : {"cmdMemPlus", "cmdPlus", "cmdEquals"})
+    EXPECT_EQ(layout_rules::bottom(layout_rules::placeOf(layout, name)),
+              layout_rules::bottom(layout_rules::placeOf(layout, "cmdPeriod")))
+        << name;
+}
+
+TEST(FrmCalcLayout, KeysOfOneSortAreOfOneSize) {
+  const auto& layout = frmCalcLayout();
+  const auto& digit = layout_rules::placeOf(layout, "cmdNumber(5)");
+  const controls::Twips gap =
+      layout_rules::placeOf(layout, "cmdNumber(6)").left - layout_rules::right(digit);
+  EXPECT_EQ(layout_rules::placeOf(layout, "cmdNumber(0)").width, 2 * digit.width + gap);
+  for (const auto& control : layout.controls) {
+    if (control.kind != kButton && control.kind != kToggle) continue;
+    const bool high =
+        control.name == "cmdMemPlus" || control.name == "cmdPlus" || control.name == "cmdEquals";
+    EXPECT_EQ(control.place.height, high ? 2 * digit.height + gap : digit.height) << control.name;
+  }
+}
+
+constexpr Seen kListed[] = {
+    {0, "txtEntry", kBox, "", "", "Entry", "", kCourier, 120, true, Alignment::Right},
+    {1, "cmdClearCurrent", kButton, "CE&ntry", "", "Clear e&ntry", "Clears only the entry.", kSans,
+     83},
+    {2, "cmdMemClear", kButton, "", "MC", "Memory clear", "Clear memory total only.", kSans, 83},
+    {3, "cmdDivide", kButton, "", "\u00F7", "Divide", "", kSans, 135},
+    {4, "cmdArrow", kButton, "", "\u2190", "Backspace", "", kSans, 135},
+    {5, "cmdClearCalc", kButton, "C&Total", "", "Clear &total",
+     "Clears only the total and sets it to zero.", kSans, 83},
+    {6, "cmdMemRecall", kButton, "", "MR", "Memory recall", "Recall memory total.", kSans, 83},
+    {7, "cmdNumber(7)", kButton, "", "7", "", "", kSans, 120},
+    {8, "cmdNumber(8)", kButton, "", "8", "", "", kSans, 120},
+    {9, "cmdNumber(9)", kButton, "", "9", "", "", kSans, 120},
+    {10, "cmdTimes", kButton, "", "\u00D7", "Multiply", "", kSans, 135},
+    {11, "cmdPercent", kButton, "", "%", "Percent", "", kSans, 120},
+    {12, "cmdClearTape", kButton, "CTa&pe", "", "Clear ta&pe", "Clears only the tape.", kSans, 83},
+    {13, "cmdMemStore", kButton, "", "MS", "Memory store", "Replace memory total with entry.",
+     kSans, 83},
+    {14, "cmdNumber(4)", kButton, "", "4", "", "", kSans, 120},
+    {15, "cmdNumber(5)", kButton, "", "5", "", "", kSans, 120},
+    {16, "cmdNumber(6)", kButton, "", "6", "", "", kSans, 120},
+    {17, "cmdMinus", kButton, "", "\u2212", "Minus", "", kSans, 135},
+    {18, "cmdChangeSign", kButton, "", "\u00B1", "Change sign", "Change Sign", kSans, 120},
+    {19, "cmdClearAll", kButton, "C&All", "", "Clear &all",
+     "Clears the entry box, the tape and resets the total to zero but does not clear the memory.",
+     kSans, 83},
+    {20, "cmdMemPlus", kButton, "&M +", "", "&Memory plus", "Add entry to memory total.", kSans,
+     83},
+    {21, "cmdNumber(1)", kButton, "", "1", "", "", kSans, 120},
+    {22, "cmdNumber(2)", kButton, "", "2", "", "", kSans, 120},
+    {23, "cmdNumber(3)", kButton, "", "3", "", "", kSans, 120},
+    {24, "cmdPlus", kButton, "", "+", "Plus", "", kSans, 135},
+    {25, "cmdEquals", kButton, "", "=", "Equals", "", kSans, 135},
+    {26, "cmdSquareRoot", kButton, "sqrt", "", "Square root", "Square Root", kSans, 83},
+    {27, "cmdNumber(0)", kButton, "", "0", "", "", kSans, 120},
+    {28, "cmdPeriod", kButton, "", ".", "Decimal point", "", kSans, 120},
+    {29, "chkFloatingDec", kToggle, "", "Float\ndec.", "Floating decimal",
+     "Floating decimal is on when pressed down.", kSans, 68},
+    {30, "chkShiftDec", kToggle, "", "Stat.\ndec.", "Stationary decimal",
+     "The decimal is stationary until keyed when pressed down.", kSans, 68},
+    {31, "chkTapeOff", kToggle, "", "Tape\noff", "Tape off", "Tape is off when pressed down.",
+     kSans, 68},
+    {32, "txtTape", kBox, "", "", "Tape", "", kTerminal, 72, false, Alignment::Right},
+    {33, "Label1", kLabel, "Decimals:", "", "", "", kSans, 83, false, Alignment::Right},
+    {34, "txtDec", kBox, "", "", "Decimal places", "Number of decimal places allowed.", kCourier,
+     120, true},
+};
+
+TEST(FrmCalcLayout, EveryControlIsSeenAsListed) {
+  layout_rules::expectSeen(frmCalcLayout(), kListed);
+}
+
+TEST(FrmCalcLayout, MenusAreAsListed) {
+  std::vector<std::string> menu;
+  for (const auto& item : frmCalcLayout().menu)
+    menu.push_back(std::string(2 * static_cast<std::size_t>(item.level), ' ') +
+                   std::string(item.caption) +
+                   (item.shortcut.empty() ? "" : "|" + std::string(item.shortcut)) +
+                   (item.checked ? "|checked" : ""));
+  const std::vector<std::string> listed = {"&File",
+                                           "  &Save",
+                                           "  &Print",
+                                           "  E&xit",
+                                           "&Edit",
+                                           "  Cu&t|Ctrl+X",
+                                           "  &Copy|Ctrl+C",
+                                           "  &Paste|Ctrl+V",
+                                           "  -",
+                                           "  &Floating Decimal|Ctrl+F",
+                                           "  &Stationary Decimal|Ctrl+D",
+                                           "  -",
+                                           "  Copy &Entire Tape",
+                                           "  Tape to &Notepad|Ctrl+N",
+                                           "&Win",
+                                           "  &Always on Top",
+                                           "  &Micro Window|Ctrl+S",
+                                           "  M&odes",
+                                           "    &Adding Machine|Ctrl+A",
+                                           "    &Calculator|Ctrl+T|checked",
+                                           "  &Financial Calc",
+                                           "    Loan Calc",
+                                           "    Investment Calc",
+                                           "    Standard Calc",
+                                           "  &Pad Tape",
+                                           "  &Tape Off|Ctrl+O",
+                                           "&Help",
+                                           "  Tallyrex &Help",
+                                           "  -",
+                                           "  &About Tallyrex"};
+  EXPECT_EQ(menu, listed);
+}
+
+TEST(FrmCalcLayout, WindowIsAsDesigned) {
+  const auto& layout = frmCalcLayout();
+  EXPECT_EQ(layout.place, (controls::Rect{500, 500, 6690, 3525}));
+  EXPECT_TRUE(layout.resizable);
+  EXPECT_EQ(layout.smallestWidth, 2280);
+  EXPECT_EQ(layout.smallestHeight, 1095);
+  EXPECT_EQ(layout_rules::placeOf(layout, "txtEntry").left, 0);
+  EXPECT_EQ(layout_rules::placeOf(layout, "txtEntry").top, 0);
+  EXPECT_EQ(layout_rules::placeOf(layout, "txtTape").left, 4000);
+  EXPECT_EQ(layout_rules::placeOf(layout, "txtTape").top, 40);
+}
+
+}  // namespace
+}  // namespace shell
