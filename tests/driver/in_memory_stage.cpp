@@ -34,9 +34,20 @@ void InMemoryStage::click(controls::Control& control) {
   if (auto* clickable = dynamic_cast<controls::ClickControl*>(&control)) clickable->click();
 }
 
+// To a button it is two clicks, unless the first took the button away.
 void InMemoryStage::doubleClick(controls::Control& control) {
-  moveTo(control);
-  control.doubleClick();
+  if (!dynamic_cast<controls::ClickControl*>(&control)) {
+    moveTo(control);
+    control.doubleClick();
+    return;
+  }
+  const std::string window = control.window().name();
+  const std::string name = control.name();
+  click(control);
+  const controls::Window* still = findWindow(window);
+  if (!still || !still->visible() || !still->enabled()) return;
+  controls::Control* again = still->findControl(name);
+  if (again->visible() && again->enabled()) click(*again);
 }
 
 void InMemoryStage::focus(controls::Control& control) {
