@@ -13,6 +13,8 @@ SystemDialog::SystemDialog(Desktop& desktop) : desktop_(desktop), owner_(desktop
 SystemDialog::~SystemDialog() {
   std::erase(desktop_.dialogs_, this);
   desktop_.showWhoTakesInput(nullptr);
+  // A window that came to the front meanwhile could not take the keys before.
+  if (desktop_.activeWindow_ != owner_) desktop_.bringActiveToFront();
 }
 
 void SystemDialog::noteAnswered() const {
@@ -45,6 +47,10 @@ Window* Desktop::frontWindow() const {
 void Desktop::setModal(Window* window) {
   modal_ = window;
   showWhoTakesInput(nullptr);
+}
+
+void Desktop::bringActiveToFront() {
+  if (activeWindow_) activeWindow_->bringToFront();
 }
 
 void Desktop::showWhoTakesInput(const Window* except) {

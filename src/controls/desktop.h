@@ -147,6 +147,7 @@ class Desktop {
   /// The window takes all input; null gives it back to all.
   void setModal(Window* window);
   void showWhoTakesInput(const Window* except);
+  void bringActiveToFront();
   /// The dialogs in front of a window that is to be closed go first.
   void clearWayOf(Window& window);
   template <class IsMeant>

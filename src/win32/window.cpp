@@ -125,6 +125,8 @@ void Window::bringToFront() {
   SetForegroundWindow(handle_);
   SetActiveWindow(handle_);
   noteActivated();
+  // A window that was active while it took no input has not given the keys to its control.
+  if (GetActiveWindow() == handle_) focusNative();
 }
 
 void Window::handOver(controls::Window& next) {
