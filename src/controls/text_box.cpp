@@ -62,6 +62,10 @@ std::string TextBox::textWithoutSelection() const {
 }
 
 bool TextBox::replaceSelection(std::string_view text) {
+  if (!layout().multiLine && text.size() > kLongestEdit) {
+    window().desktop().beep();
+    return false;
+  }
   const Selection selection = loadSelection();
   std::string before = loadPart(selection.start, selection.length);
   if (before == text) {

@@ -18,6 +18,9 @@ enum class MouseEdit { None, Edited, Pasted };
 /// What a box's own menu offers.
 enum class BoxCommand { None, Undo, Cut, Copy, Paste, Delete, SelectAll };
 
+/// How many bytes of text an edit may put into a box of one line.
+inline constexpr std::size_t kLongestEdit = 32767;
+
 /// A text without the one line end behind it, with which a cell copied from a spreadsheet ends.
 std::string withoutLineEnd(std::string text);
 
@@ -68,7 +71,8 @@ class TextBox : public Control {
   std::string textWithoutSelection() const;
 
   /// A user's edits. Each raises Change once when it changes the text, leaves the caret behind what
-  /// it put there, and tells whether it changed the text.
+  /// it put there, and tells whether it changed the text. What is too long for a box of one line is
+  /// refused with a beep.
   bool replaceSelection(std::string_view text);
   /// These take whole characters away: a line end, or a character of two units, goes as one, also
   /// with the caret inside it.

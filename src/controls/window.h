@@ -135,7 +135,7 @@ class Window {
   bool takeShortcut(const KeyStroke& stroke);
   bool takePaste(const KeyStroke& stroke);
   bool takeHelp(const KeyStroke& stroke);
-  bool takeAccessKey(char letter);
+  bool takeAccessKey(KeyCode character);
   bool takeArrow(const KeyStroke& stroke);
   void raiseResizeIfSized(const Rect& before);
 

@@ -52,7 +52,7 @@ void Window::moveFocus(bool forward) {
 }
 
 bool Window::takeKey(const KeyStroke& stroke) {
-  if (stroke.alt) return takeAccessKey(static_cast<char>(stroke.key));
+  if (stroke.alt) return takeAccessKey(stroke.key);
   if (takeShortcut(stroke) || takePaste(stroke) || takeHelp(stroke)) return true;
   if (stroke.key == kKeyTab && !stroke.control) {
     moveFocus(!stroke.shift);
@@ -68,7 +68,9 @@ bool Window::takeKey(const KeyStroke& stroke) {
   return takeArrow(stroke);
 }
 
+// All shortcuts of menus are keys with Ctrl.
 bool Window::takeShortcut(const KeyStroke& stroke) {
+  if (!stroke.control) return false;
   for (const auto& item : menuItems_) {
     if (!item->hasShortcut(stroke)) continue;
     item->choose();
@@ -89,9 +91,12 @@ bool Window::takeHelp(const KeyStroke& stroke) {
   return true;
 }
 
-// An access key of a label leads to the control behind it; any other control is clicked.
-bool Window::takeAccessKey(char letter) {
-  const char wanted = static_cast<char>(std::toupper(static_cast<unsigned char>(letter)));
+// An access key of a label leads to the control behind it; any other control is clicked. All of
+// them are ASCII.
+bool Window::takeAccessKey(KeyCode character) {
+  constexpr KeyCode kLastOfAscii = 127;
+  if (character <= 0 || character > kLastOfAscii) return false;
+  const char wanted = static_cast<char>(std::toupper(character));
   const std::vector<Control*> order = tabOrder();
   for (auto here = order.begin(); here != order.end(); ++here) {
     Control& control = **here;

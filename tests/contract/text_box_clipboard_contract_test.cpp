@@ -119,6 +119,15 @@ TEST_F(OneLineContract, LineBreakEndsAPaste) {
   EXPECT_EQ(first_.text(), "12");
 }
 
+TEST_F(OneLineContract, EditThatIsTooLongIsRefused) {
+  paste(first_, std::string(controls::kLongestEdit, '7'));
+  EXPECT_EQ(first_.length(), static_cast<int>(controls::kLongestEdit));
+  first_.setText("12");
+  first_.selectAll();
+  paste(first_, std::string(controls::kLongestEdit + 1, '7'));
+  EXPECT_EQ(first_.text(), "12");
+}
+
 TEST_F(OneLineContract, PasteHandlerDecidesAboutLineBreaks) {
   first_.onPaste = [](std::string&) {};
   paste(first_, "12\r\n34");

@@ -212,6 +212,30 @@ TEST_F(WindowContract, ShiftInsertOnAButtonPastesNothing) {
   EXPECT_TRUE(button_.focused());
 }
 
+TEST_F(WindowContract, KeyPressMayHandTheCharacterToAnotherControl) {
+  button_.onKeyPress = [this](controls::KeyAscii& key) {
+    first_.setFocus();
+    first_.typeCharacter(std::exchange(key, 0));
+  };
+  button_.onKeyUp = [this](controls::KeyCode) { note("up at the button"); };
+  first_.onKeyUp = [this](controls::KeyCode) { note("up at the box"); };
+  button_.setFocus();
+  kind_->settle();
+  type("7.");
+  EXPECT_EQ(first_.text(), "7.");
+  EXPECT_TRUE(first_.focused());
+  EXPECT_EQ(takeLog(), (Log{"up at the box", "up at the box"}));
+}
+
+// Their lowest eight bits are those of "G" and "S".
+TEST_F(WindowContract, LettersBeyondAsciiPressNothing) {
+  button_.onClick = [this] { note("click"); };
+  for (const controls::KeyCode character : {0x0147, 0x0647, 0x0153, 0x10047, -0xB9, 0})
+    EXPECT_FALSE(window_->takeKey({.key = character, .alt = true})) << character;
+  EXPECT_EQ(takeLog(), Log{});
+  EXPECT_TRUE(first_.focused());
+}
+
 TEST_F(WindowContract, WindowWithoutMenuLeavesTheClipboardKeysToTheBox) {
   const auto plain = kind_->desktop().createWindow(plainLayout());
   plain->show();
