@@ -12,6 +12,7 @@ namespace {
 
 // The key stroke that the window in front may take before a control sees it.
 std::optional<controls::KeyStroke> strokeOf(const MSG& message) {
+  if (message.message != WM_KEYDOWN && message.message != WM_SYSCHAR) return {};
   controls::KeyStroke stroke{.key = static_cast<controls::KeyCode>(message.wParam),
                              .shift = isDown(VK_SHIFT),
                              .control = isDown(VK_CONTROL),
@@ -25,15 +26,16 @@ std::optional<controls::KeyStroke> strokeOf(const MSG& message) {
     return stroke;
   }
   // Ctrl with Alt types characters that have no key of their own.
-  if (message.message != WM_KEYDOWN || stroke.alt || isModifier(message.wParam)) return {};
+  if (stroke.alt || isModifier(message.wParam)) return {};
   return stroke;
 }
 
 bool isTaken(Desktop& desktop, const MSG& message) {
-  const auto* window = static_cast<Window*>(desktop.activeWindow());
-  if (!window || GetAncestor(message.hwnd, GA_ROOT) != window->handle()) return false;
   const auto stroke = strokeOf(message);
-  return stroke && desktop.activeWindow()->takeKey(*stroke);
+  if (!stroke) return false;
+  auto* window = static_cast<Window*>(desktop.activeWindow());
+  return window && GetAncestor(message.hwnd, GA_ROOT) == window->handle() &&
+         window->takeKey(*stroke);
 }
 
 // The decimal key types a point whatever the keyboard's layout makes of it.
@@ -61,9 +63,19 @@ void dispatch(Desktop& desktop, const MSG& message) {
 
 }  // namespace
 
+// A message that the system cannot hand over, as one with a text of a million characters from
+// another program, is no end of the program: it stays in front of the others until its sender gives
+// it up.
 void runMessageLoop(Desktop& desktop) {
+  constexpr DWORD kPause = 10;
   MSG message;
-  while (GetMessageW(&message, nullptr, 0, 0) > 0) dispatch(desktop, message);
+  while (const BOOL got = GetMessageW(&message, nullptr, 0, 0)) {
+    if (got > 0) {
+      dispatch(desktop, message);
+    } else {
+      Sleep(kPause);
+    }
+  }
 }
 
 void endMessageLoop() {

@@ -30,15 +30,18 @@ NativeControl& NativeControl::of(controls::Control& control) {
   return dynamic_cast<NativeControl&>(control);
 }
 
-NativeControl* NativeControl::of(HWND handle) {
-  if (GetWindowLongPtrW(handle, GWLP_WNDPROC) != reinterpret_cast<LONG_PTR>(receive))
-    return nullptr;
-  return reinterpret_cast<NativeControl*>(GetWindowLongPtrW(handle, GWLP_USERDATA));
+// Its window procedure does not tell: an input method, a screen reader or a macro tool may have put
+// its own in front of it.
+NativeControl* NativeControl::find(const Window& frame, HWND handle) {
+  for (const auto& control : frame.controls())
+    if (of(*control).handle_ == handle) return &of(*control);
+  return nullptr;
 }
 
 LRESULT CALLBACK NativeControl::receive(HWND handle, UINT id, WPARAM wParam, LPARAM lParam) {
   auto* control = reinterpret_cast<NativeControl*>(GetWindowLongPtrW(handle, GWLP_USERDATA));
   const Message message{id, wParam, lParam};
+  if (endsWindow(message) && control->frame_.isAlive()) return 0;
   if (id == WM_NCDESTROY) {
     const LRESULT result = control->passOn(message);
     control->handle_ = nullptr;

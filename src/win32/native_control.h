@@ -32,8 +32,8 @@ class NativeControl {
 
   /// That of a control of a win32::Window.
   static NativeControl& of(controls::Control& control);
-  /// Nothing for a window that is no control of the program.
-  static NativeControl* of(HWND handle);
+  /// The control of a window that has this handle; nothing for a handle of anything else.
+  static NativeControl* find(const Window& frame, HWND handle);
 
   HWND handle() const { return handle_; }
   controls::Control& control() const { return control_; }

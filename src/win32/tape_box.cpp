@@ -7,6 +7,7 @@
 #include <algorithm>
 
 #include "win32/colors.h"
+#include "win32/input_method.h"
 #include "win32/keys.h"
 #include "win32/text.h"
 
@@ -53,6 +54,8 @@ void TapeBox::putColors() {
 }
 
 std::optional<LRESULT> TapeBox::take(const Message& message) {
+  if (message.id == WM_IME_STARTCOMPOSITION)
+    composeAt(handle(), view_.pointOf(view_.caret()), view_.font());
   if (const auto taken = takeMouse(message)) return taken;
   if (const auto taken = input_.take(message)) return taken;
   switch (message.id) {
@@ -113,7 +116,7 @@ std::optional<LRESULT> TapeBox::takeScrolling(const Message& message) {
     view_.takeScrollBar(LOWORD(message.wParam));
   } else if (message.id == WM_MOUSEWHEEL) {
     turnWheel(GET_WHEEL_DELTA_WPARAM(message.wParam));
-  } else {
+  } else if (dragging_) {
     POINT mouse;
     GetCursorPos(&mouse);
     ScreenToClient(handle(), &mouse);

@@ -5,6 +5,7 @@
 #include <vssym32.h>
 
 #include <algorithm>
+#include <cstdlib>
 #include <cstring>
 
 #include "win32/tape_box.h"
@@ -73,13 +74,13 @@ std::optional<LRESULT> TapeBox::takeTextMessage(const Message& message) {
     case WM_GETTEXTLENGTH:
       return lines.length();
     case WM_GETTEXT: {
-      if (message.wParam == 0) return 0;
+      if (message.wParam == 0 || !text) return 0;
       const LRESULT taken = copyOut(lines.text(), text, message.wParam - 1);
       text[taken] = L'\0';
       return taken;
     }
     case EM_GETLINE:
-      if (static_cast<int>(message.wParam) >= lines.count()) return 0;
+      if (!text || message.wParam >= static_cast<WPARAM>(lines.count())) return 0;
       // The buffer begins with its own size.
       return copyOut(lines.line(static_cast<int>(message.wParam)), text, static_cast<WORD>(*text));
     case EM_GETSEL: {
@@ -90,18 +91,17 @@ std::optional<LRESULT> TapeBox::takeTextMessage(const Message& message) {
       return MAKELRESULT(start, end);
     }
     case EM_SETSEL: {
-      const int end = message.lParam < 0 ? lines.length() : static_cast<int>(message.lParam);
-      const int start = static_cast<int>(message.wParam);
-      select(start, std::max(0, end - start));
+      const auto placeOf = [&lines](LPARAM wanted) {
+        return wanted < 0 ? lines.length()
+                          : static_cast<int>(std::min<LPARAM>(wanted, lines.length()));
+      };
+      const auto start = static_cast<LPARAM>(message.wParam);
+      // Without a start nothing is selected.
+      const int from = start < 0 ? view_.caret() : placeOf(start);
+      const int to = start < 0 ? from : placeOf(message.lParam);
+      select(std::min(from, to), std::abs(to - from));
       return 0;
     }
-    case WM_SETTEXT:
-      selectAll();
-      replaceSelection(narrow(text));
-      return TRUE;
-    case EM_REPLACESEL:
-      replaceSelection(narrow(text));
-      return 0;
     default:
       return {};
   }

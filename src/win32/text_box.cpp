@@ -1,5 +1,6 @@
 #include "win32/text_box.h"
 
+#include "win32/input_method.h"
 #include "win32/text.h"
 
 namespace win32 {
@@ -16,7 +17,8 @@ TextBox::TextBox(Window& frame, const controls::ControlLayout& layout)
     : Native(frame, layout, {L"EDIT", styleOf(layout), WS_EX_CLIENTEDGE}),
       input_(*this, *this),
       name_(handle(), layout.accessibleName) {
-  send(EM_SETLIMITTEXT, 0);
+  passOn({EM_SETLIMITTEXT, 0, 0});
+  switchOffComposition(handle());
   putLine();
 }
 
@@ -40,12 +42,10 @@ std::optional<LRESULT> TextBox::take(const Message& message) {
     case WM_GETOBJECT:
       name_.announce();
       return {};
-    case WM_SETTEXT:
-      selectAll();
-      replaceSelection(narrow(reinterpret_cast<const wchar_t*>(message.lParam)));
-      return TRUE;
-    case EM_REPLACESEL:
-      replaceSelection(narrow(reinterpret_cast<const wchar_t*>(message.lParam)));
+    case EM_SETLIMITTEXT:
+    case EM_SETWORDBREAKPROC:
+    case EM_SETHANDLE:
+      // What the box can hold, and how it works, is not for others to say.
       return 0;
     default:
       return Native::take(message);

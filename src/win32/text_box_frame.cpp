@@ -36,6 +36,7 @@ std::optional<LRESULT> TextBox::takeFrame(const Message& message) {
 
 // Figures stand on the line of writing and have nothing below it: it is they that are centred.
 LRESULT TextBox::placeLine(const Message& message) {
+  if (!message.lParam) return 0;
   auto& area = *reinterpret_cast<RECT*>(message.lParam);
   const POINT corner = {area.left, area.top};
   const LRESULT result = passOn(message);

@@ -40,6 +40,9 @@ std::optional<LRESULT> TextInput::take(const Message& message) {
     case WM_RBUTTONUP:
     case WM_CONTEXTMENU:
       return takeMouse(message);
+    case WM_SETTEXT:
+    case EM_REPLACESEL:
+      return takeText(message);
     case WM_CUT:
     case WM_COPY:
     case WM_PASTE:
@@ -105,6 +108,14 @@ void TextInput::showMenu(POINT screenPlace) {
   const BOOL chosen = TrackPopupMenu(menu.get(), TPM_RETURNCMD | TPM_RIGHTBUTTON, screenPlace.x,
                                      screenPlace.y, 0, native_.handle(), nullptr);
   box_.closeMenu(static_cast<BoxCommand>(chosen));
+}
+
+// No text is an empty one.
+LRESULT TextInput::takeText(const Message& message) {
+  const auto* text = reinterpret_cast<const wchar_t*>(message.lParam);
+  if (message.id == WM_SETTEXT) box_.selectAll();
+  box_.replaceSelection(text ? narrow(text) : std::string());
+  return message.id == WM_SETTEXT ? TRUE : 0;
 }
 
 std::optional<LRESULT> TextInput::takeEdit(const Message& message) {

@@ -22,6 +22,7 @@ class TextInput {
   std::optional<LRESULT> takeKey(WPARAM key);
   std::optional<LRESULT> takeMouse(const Message& message);
   std::optional<LRESULT> takeEdit(const Message& message);
+  LRESULT takeText(const Message& message);
   void showMenu(POINT screenPlace);
   POINT menuPlace(const Message& message) const;
 

@@ -20,6 +20,8 @@ class Window : public controls::Window {
   ~Window() override;
 
   HWND handle() const { return handle_; }
+  /// It has been made, and its end has not begun.
+  bool isAlive() const { return GetWindowLongPtrW(handle_, GWLP_USERDATA) != 0; }
   const Scale& scale() const { return scale_; }
   Fonts& fonts() { return fonts_; }
   const ToolTips& toolTips() const { return toolTips_; }

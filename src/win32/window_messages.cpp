@@ -10,6 +10,7 @@ LRESULT CALLBACK Window::receive(HWND handle, UINT id, WPARAM wParam, LPARAM lPa
   auto* window = reinterpret_cast<Window*>(GetWindowLongPtrW(handle, GWLP_USERDATA));
   if (!window) return DefWindowProcW(handle, id, wParam, lParam);
   const Message message{id, wParam, lParam};
+  if (endsWindow(message)) return 0;
   return atTheEdge(window->desktop().events(), [&] {
     const std::optional<LRESULT> result = window->take(message);
     return result ? *result : window->passOn(message);
@@ -28,7 +29,9 @@ std::optional<LRESULT> Window::take(const Message& message) {
     case WM_SYSCOMMAND:
     case WM_GETMINMAXINFO:
     case WM_WINDOWPOSCHANGED:
+      return takeGeometry(message);
     case WM_DPICHANGED:
+      if (LOWORD(message.wParam) == 0 || !pointsTo<RECT>(message)) return 0;
       return takeGeometry(message);
     case WM_COMMAND:
     case WM_NOTIFY:
@@ -58,14 +61,17 @@ std::optional<LRESULT> Window::takeFocus(const Message& message) {
 
 std::optional<LRESULT> Window::takeControl(const Message& message) {
   if (message.id == WM_NOTIFY) {
+    if (!pointsTo<NMCUSTOMDRAW>(message)) return 0;
     auto& header = *reinterpret_cast<NMHDR*>(message.lParam);
     if (header.code != NM_CUSTOMDRAW) return {};
-    NativeControl* control = NativeControl::of(header.hwndFrom);
+    NativeControl* control = NativeControl::find(*this, header.hwndFrom);
     if (!control) return {};
     return control->customDraw(reinterpret_cast<NMCUSTOMDRAW&>(header));
   }
+  // A command that comes from outside while a dialog stands in front is too late or too early.
+  if (!IsWindowEnabled(handle_)) return 0;
   if (message.lParam) {
-    NativeControl* control = NativeControl::of(reinterpret_cast<HWND>(message.lParam));
+    NativeControl* control = NativeControl::find(*this, reinterpret_cast<HWND>(message.lParam));
     if (control) control->takeNotification(HIWORD(message.wParam));
     return 0;
   }
@@ -79,7 +85,7 @@ std::optional<LRESULT> Window::takeColors(const Message& message) {
     refreshControls();
     return {};
   }
-  NativeControl* control = NativeControl::of(reinterpret_cast<HWND>(message.lParam));
+  NativeControl* control = NativeControl::find(*this, reinterpret_cast<HWND>(message.lParam));
   if (!control) return {};
   return reinterpret_cast<LRESULT>(control->prepareColors(reinterpret_cast<HDC>(message.wParam)));
 }
