@@ -1,14 +1,15 @@
 # Cross-builds for 64-bit Windows; the programs run their tests under Wine.
 set(CMAKE_SYSTEM_NAME Windows)
 set(CMAKE_SYSTEM_PROCESSOR x86_64)
-set(CMAKE_C_COMPILER x86_64-w64-mingw32-gcc-posix)
-set(CMAKE_CXX_COMPILER x86_64-w64-mingw32-g++-posix)
-set(CMAKE_RC_COMPILER x86_64-w64-mingw32-windres)
-# An assertion names its file from the root of the sources, wherever that is built.
-get_filename_component(sources ${CMAKE_CURRENT_LIST_DIR} DIRECTORY)
-set(CMAKE_CXX_FLAGS_INIT "-fmacro-prefix-map=${sources}/=")
+set(triplet x86_64-w64-mingw32)
+# Of two, as some distributions have them, the one with the threads of the standard library.
+find_program(TALLYREX_MINGW_C NAMES ${triplet}-gcc-posix ${triplet}-gcc REQUIRED)
+find_program(TALLYREX_MINGW_CXX NAMES ${triplet}-g++-posix ${triplet}-g++ REQUIRED)
+set(CMAKE_C_COMPILER ${TALLYREX_MINGW_C})
+set(CMAKE_CXX_COMPILER ${TALLYREX_MINGW_CXX})
+set(CMAKE_RC_COMPILER ${triplet}-windres)
 set(CMAKE_EXE_LINKER_FLAGS_INIT "-static")
-set(CMAKE_FIND_ROOT_PATH /usr/x86_64-w64-mingw32)
+set(CMAKE_FIND_ROOT_PATH /usr/${triplet} /usr/${triplet}/sys-root/mingw)
 set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
 set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)

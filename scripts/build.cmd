@@ -1,6 +1,7 @@
 @echo off
 rem Finds or installs the tools, then builds with them:  scripts\build.cmd ON/OFF [TARGET...]
-rem ON builds the tests too, which need vcpkg (VCPKG_ROOT) or a MinGW with GoogleTest and nlohmann-json.
+rem ON builds the tests too, and lets a warning stop the build. The tests need vcpkg (VCPKG_ROOT) or a MinGW with
+rem GoogleTest and nlohmann-json.
 rem TALLYREX_TOOLCHAIN=msvc or mingw chooses the compiler; without it, Visual Studio is preferred.
 cd /d "%~dp0.."
 set tests=%1
@@ -61,7 +62,7 @@ goto configure
 :configureOnce
 if exist build\windows-msvc\build.ninja goto build
 :configure
-cmake --preset windows-msvc -DTALLYREX_TESTS=%tests% %toolchain%
+cmake --preset windows-msvc -DTALLYREX_TESTS=%tests% -DTALLYREX_WARNINGS_AS_ERRORS=%tests% %toolchain%
 if errorlevel 1 exit /b 1
 :build
 if not defined targets cmake --build --preset windows-msvc
