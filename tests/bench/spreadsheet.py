@@ -1,8 +1,8 @@
-"""Asks a spreadsheet program what Tallyrex is asked:  spreadsheet.py BUILD/bin
+"""Asks a spreadsheet program what Tallyrex is asked:  spreadsheet.py DRIVER
 
-Writes one sheet with the everyday problems for RATE and the reference cases of the five functions, lets
-the program (soffice, without its window) calculate it in a folder of its own, and prints how its answers
-and those of Tallyrex stand to the exact ones.
+Writes one sheet with the reference cases of the five functions, lets the program (soffice, without its
+window) calculate it in a folder of its own, and prints how its answers and those of Tallyrex stand to the
+exact ones.
 """
 import decimal
 import json
@@ -60,29 +60,6 @@ def of_tallyrex(driver, calls):
     return [json.loads(line).get("value") for line in done.stdout.splitlines()]
 
 
-def everyday_problems(program):
-    """The problems for Rate: (arguments, rate, tolerance)."""
-    said = subprocess.run([str(program), "--problems"], stdout=subprocess.PIPE, text=True, check=True)
-    problems = []
-    for line in said.stdout.splitlines():
-        *arguments, due, rate, tolerance = line.split()
-        problems.append(([float(a) for a in arguments] + [int(due)], float(rate), float(tolerance)))
-    return problems
-
-
-def print_rates(who, problems, answers):
-    """Counts the rates that are the bank's but for the half cent to which the amounts are rounded."""
-    right = wrong = none = 0
-    for (_, rate, tolerance), answer in zip(problems, answers):
-        if answer is None:
-            none += 1
-        elif abs(answer - rate) <= tolerance + 1e-7:
-            right += 1
-        else:
-            wrong += 1
-    print("%-12s %d everyday rates: %d right, %d wrong, %d none" % (who, len(problems), right, wrong, none))
-
-
 def distance(case, answer):
     """How far an answer is from the exact one, as a share of it; of a rate, from the nearest one."""
     if case["function"] == "Rate":
@@ -118,20 +95,14 @@ def is_tiny(case):
     return case["kind"].startswith(("tiny rate", "rate beyond"))
 
 
-def main(programs):
-    folder = pathlib.Path(programs)
-    problems = everyday_problems(folder / "tallyrex-rate-comparison")
+def main(driver):
     cases = [case for case in json.loads(DATA.read_text()) if "exact" in case]
-    calls = [("Rate", arguments) for arguments, _, _ in problems]
-    calls += [(case["function"], case["args"]) for case in cases]
-    for who, answers in [("Tallyrex", of_tallyrex(folder / "tallyrex-driver", calls)),
-                         ("spreadsheet", of_spreadsheet(calls))]:
-        print_rates(who, problems, answers)
-        pairs = list(zip(cases, answers[len(problems):]))
+    calls = [(case["function"], case["args"]) for case in cases]
+    for who, answers in [("Tallyrex", of_tallyrex(driver, calls)), ("spreadsheet", of_spreadsheet(calls))]:
+        pairs = list(zip(cases, answers))
         print_digits(who, "ordinary rates", *zip(*[pair for pair in pairs if not is_tiny(pair[0])]))
         print_digits(who, "tiny rates", *zip(*[pair for pair in pairs if is_tiny(pair[0])]))
-    return 0
 
 
 if __name__ == "__main__":
-    sys.exit(main(sys.argv[1]))
+    main(sys.argv[1])

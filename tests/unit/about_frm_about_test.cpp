@@ -2,6 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
+
+#include "inmemory/desktop.h"
+
 namespace about {
 namespace {
 
@@ -13,6 +17,16 @@ TEST(VersionText, NamesTheVersion) {
 TEST(VersionText, NamesTheRevisionThatIsNotZero) {
   EXPECT_EQ(versionText({.major = 1, .minor = 0, .revision = 7}),
             "Software Version:  1.0   Revision 7");
+}
+
+// The text of the label, and where the number comes from.
+TEST(VersionText, IsShownAsTheBuildHasIt) {
+  inmemory::Desktop desktop;
+  frmAbout box(desktop, programVersion(), [] {});
+  EXPECT_EQ(box.window().control("lblVersion").caption(), versionText(programVersion()));
+  const auto [major, minor, revision] = programVersion();
+  EXPECT_EQ(std::to_string(major) + "." + std::to_string(minor) + "." + std::to_string(revision),
+            TALLYREX_PROJECT_VERSION);
 }
 
 }  // namespace

@@ -36,25 +36,6 @@ Picture::Picture(const RECT& place)
   ReleaseDC(nullptr, screen);
 }
 
-bool Picture::save(const std::wstring& file) const {
-  const BITMAPINFOHEADER header = headerOf(width_, height_);
-  BITMAPFILEHEADER start = {};
-  start.bfType = 0x4D42;
-  start.bfOffBits = sizeof start + sizeof header;
-  const std::size_t bytes = dots_.size() * sizeof(std::uint32_t);
-  start.bfSize = start.bfOffBits + static_cast<DWORD>(bytes);
-  const HANDLE out = CreateFileW(file.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS,
-                                 FILE_ATTRIBUTE_NORMAL, nullptr);
-  if (out == INVALID_HANDLE_VALUE) return false;
-  const auto put = [out](const void* data, std::size_t size) {
-    DWORD written = 0;
-    return WriteFile(out, data, static_cast<DWORD>(size), &written, nullptr) && written == size;
-  };
-  const bool written =
-      put(&start, sizeof start) && put(&header, sizeof header) && put(dots_.data(), bytes);
-  return CloseHandle(out) && written;
-}
-
 COLORREF colorAt(POINT place) {
   const HDC screen = GetDC(nullptr);
   const COLORREF color = GetPixel(screen, place.x, place.y);

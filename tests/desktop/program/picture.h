@@ -3,7 +3,6 @@
 #include <windows.h>
 
 #include <cstdint>
-#include <string>
 #include <vector>
 
 namespace program {
@@ -15,8 +14,6 @@ class Picture {
 
   /// The dots from the top left, row by row, as 0x00RRGGBB.
   const std::vector<std::uint32_t>& dots() const { return dots_; }
-  /// Writes it as a bitmap file; whether that could be done.
-  bool save(const std::wstring& file) const;
 
  private:
   int width_;

@@ -11,7 +11,6 @@ constexpr int kTextOfMessage = 0xFFFF;
 }  // namespace
 
 TestedProgram* ProgramTest::program_ = nullptr;
-std::wstring ProgramTest::pictureFolder_;
 
 void ProgramTest::SetUp() {
   settings_.clear();

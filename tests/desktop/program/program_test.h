@@ -18,16 +18,12 @@ namespace program {
 class ProgramTest : public testing::Test {
  public:
   static void setProgram(TestedProgram& program) { program_ = &program; }
-  /// Where pictures are to be put.
-  static void setPictureFolder(const std::wstring& folder) { pictureFolder_ = folder; }
 
  protected:
   void SetUp() override;
   void TearDown() override;
 
   static TestedProgram& program() { return *program_; }
-  /// Empty when there is none.
-  static const std::wstring& pictureFolder() { return pictureFolder_; }
   UserSettings& settings() { return settings_; }
 
   void start() { program().start(); }
@@ -65,7 +61,6 @@ class ProgramTest : public testing::Test {
 
  private:
   static TestedProgram* program_;
-  static std::wstring pictureFolder_;
   UserSettings settings_{program_->name()};
   std::vector<HWND> shownBefore_;
 };
