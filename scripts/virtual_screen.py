@@ -1,9 +1,8 @@
 """The virtual screen that a command has beside scripts/in-wine: what is on it, and its keys."""
 import pathlib
 import subprocess
+import tempfile
 import time
-
-from screenshot import png, read_pixels
 
 PATIENCE = 30
 # How many screenshots in a row must be the same, and how far apart.
@@ -13,18 +12,10 @@ BETWEEN_LOOKS = 0.1
 POINTER = 64
 
 
-def first_difference(one, other):
-    """The place of the first byte in which two rows differ; None for equal rows."""
-    if one == other:
-        return None
-    low, high = 0, len(one)
-    while high - low > 1:
-        middle = (low + high) // 2
-        if one[low:middle] != other[low:middle]:
-            high = middle
-        else:
-            low = middle
-    return low
+def screen_size():
+    """Width and height of the screen, in pixels."""
+    said = subprocess.run(["xdotool", "getdisplaygeometry"], stdout=subprocess.PIPE, text=True, check=True)
+    return tuple(map(int, said.stdout.split()))
 
 
 class Screen:
@@ -41,7 +32,7 @@ class Screen:
 
     def move_mouse_aside(self):
         """The pointer would be in the picture, and hot what is under it."""
-        width, height, _ = read_pixels(self._file.read_bytes())
+        width, height = screen_size()
         self._do("mousemove", str(width - 1), str(height - 1))
 
     def press(self, keys):
@@ -65,17 +56,17 @@ class Screen:
 
     def save(self, picture):
         """Saves the part of the screen on which there is anything, as a PNG."""
-        width, height, row = read_pixels(self._file.read_bytes())
-        _, _, empty = read_pixels(self._empty)
-        rows = {}
-        for y in range(height - POINTER):
-            now, nothing = (line[:3 * (width - POINTER)] for line in (row(y), empty(y)))
-            if now != nothing:
-                rows[y] = (now, first_difference(now, nothing),
-                           len(now) - 1 - first_difference(now[::-1], nothing[::-1]))
-        if not rows:
+        width, height = screen_size()
+        without_pointer = ["-crop", "%dx%d+0+0" % (width - POINTER, height - POINTER), "+repage"]
+        with tempfile.NamedTemporaryFile() as empty:
+            empty.write(self._empty)
+            empty.flush()
+            changed = self._convert("xwd:" + empty.name, "-compose", "difference", "-composite",
+                                    *without_pointer, "-format", "%@", "info:")
+        if changed.startswith("0x0"):
             raise RuntimeError("%s: there is nothing on the screen" % picture)
-        left = min(first for _, first, _ in rows.values()) // 3
-        right = max(last for _, _, last in rows.values()) // 3 + 1
-        seen = [row(y)[3 * left:3 * right] for y in range(min(rows), max(rows) + 1)]
-        picture.write_bytes(png(right - left, seen))
+        self._convert("-crop", changed, "+repage", "-depth", "8", "-strip", "PNG24:%s" % picture)
+
+    def _convert(self, *arguments):
+        return subprocess.run(["convert", "xwd:%s" % self._file, *arguments], stdout=subprocess.PIPE,
+                              text=True, check=True).stdout
