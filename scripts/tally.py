@@ -1,6 +1,6 @@
 """Adds up the results of test runs:  tally.py RESULTS.xml... [LINT.log...]
 
-Prints what failed, a line for each run, and 'N passed, N failed' as the last line; exits with 1 unless
+Prints the names of what failed, a line for each run, and 'N passed, N failed' as the last line; exits with 1 unless
 all passed. A program that runs many tests counts as many as its own closing line says; a lint of all
 sources counts as one.
 """
@@ -71,8 +71,7 @@ def report(path):
         counts = count(case)
         total = [sum(pair) for pair in zip(total, counts)]
         if counts[1]:
-            print("==== %s: %s failed" % (path.stem, case.get("name")))
-            print((case.findtext("system-out") or "").rstrip())
+            print("%-8s failed: %s" % (path.stem, case.get("name")))
     if sum(total) == 0:
         print("%-8s ran no test" % path.stem)
         return [0, 1, 0]

@@ -7,6 +7,9 @@ import unittest
 
 import tree
 
+sys.path.insert(0, str(tree.ROOT / "tests/scenarios"))
+import run_scenarios  # noqa: E402
+
 # Answers ok, or what one of its arguments COMMAND=ANSWER says for the command; counts the resets.
 DRIVER = """
 import sys, time
@@ -112,6 +115,15 @@ class ScenarioRunner(unittest.TestCase):
             (self.folder / name).write_text("start\n", encoding="utf-8")
         self.assert_passes(self.run_on("start\n", "--only", "tape/off", *self.driver()))
         self.assertEqual(self.run_on("start\n", *self.driver())[1], ["4 passed, 0 failed"])
+
+    def test_parts_are_together_all_scenarios(self):
+        names = [chr(letter) for letter in range(ord("a"), ord("h"))]
+        for parts in (1, 2, 3, 7):
+            ran = [name for number in range(1, parts + 1)
+                   for name in run_scenarios.part_of(names, "%d/%d" % (number, parts))]
+            self.assertEqual(ran, names)
+        (self.folder / "two.txt").write_text("start\n", encoding="utf-8")
+        self.assert_passes(self.run_on("start\n", "--part", "2/2", *self.driver()))
 
     def test_no_scenario_at_all_fails(self):
         self.assertEqual(self.run_on("start\n", "--only", "other", *self.driver())[0], 1)

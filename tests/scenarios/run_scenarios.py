@@ -222,6 +222,12 @@ def find_scenarios(folder, text):
     return [name for name in names if text in name]
 
 
+def part_of(scenarios, part):
+    """The scenarios of a part, as the option names it; all parts together are all scenarios."""
+    number, parts = map(int, part.split("/"))
+    return scenarios[(number - 1) * len(scenarios) // parts:number * len(scenarios) // parts]
+
+
 def parse(arguments):
     parser = argparse.ArgumentParser(description=__doc__,
                                      formatter_class=argparse.RawDescriptionHelpFormatter)
@@ -230,6 +236,7 @@ def parse(arguments):
     parser.add_argument("--real-windows", action="store_true",
                         help="the driver has real windows: one scenario at a time")
     parser.add_argument("--only", default="", metavar="TEXT", help="just files with TEXT in FOLDER/NAME")
+    parser.add_argument("--part", default="1/1", metavar="N/OF", help="the second of three parts: 2/3")
     parser.add_argument("--folder", type=pathlib.Path, default=pathlib.Path(__file__).parent,
                         help="where the scenario files are")
     parser.add_argument("--timeout", type=float, default=120, metavar="SECONDS",
@@ -295,7 +302,7 @@ class Run:
 
 def main(arguments):
     options = parse(arguments)
-    scenarios = find_scenarios(options.folder, options.only)
+    scenarios = part_of(find_scenarios(options.folder, options.only), options.part)
     run = Run(options)
     run.run(scenarios)
     if not scenarios:
