@@ -1,16 +1,14 @@
 #include <array>
-#include <cmath>
-#include <cwchar>
 #include <ostream>
 
-#include "desktop/program/program_test.h"
+#include "desktop/desktop_test.h"
 
-namespace program {
+namespace desktop {
 namespace {
 
 struct Damage {
   const char* name;
-  std::wstring text;
+  std::string text;
 };
 
 void PrintTo(const Damage& damage, std::ostream* out) {
@@ -18,70 +16,71 @@ void PrintTo(const Damage& damage, std::ostream* out) {
 }
 
 // What stands in the settings in the place of what the program has written.
-class DamagedSettingsTest : public ProgramTest, public testing::WithParamInterface<Damage> {
+class DamagedSettingsTest : public DesktopTest, public testing::WithParamInterface<Damage> {
  protected:
+  void SetUp() override { tell("events"); }
+
+  void startWith(const char* key) {
+    stage().clearSettings();
+    tell("store set Settings " + std::string(key) + " " + driver::Json(GetParam().text).dump());
+    tell("start");
+  }
+
   /// The points are there so that a stationary decimal cannot shift the numbers.
-  static void expectToAdd() {
-    type("2.+3.=");
-    const auto sum = [] { return std::wcstod(textOf(program().entry()).c_str(), nullptr); };
-    eventually([&] { return sum() == 5; });
-    EXPECT_EQ(sum(), 5);
+  void expectToAdd() {
+    tell("type \"2.+3.\"");
+    tell("press Enter");
+    EXPECT_EQ(std::stod(entry()), 5);
+    EXPECT_EQ(tell("events")["boxes"], driver::Json::array());
+    tell("close frmCalc");
   }
 };
 
 TEST_P(DamagedSettingsTest, EachInTurnLeavesAProgramThatAdds) {
   constexpr std::array kKeys = {
-      L"frmCalcAtUnloadLeft",
-      L"frmCalcAtUnloadTop",
-      L"frmCalcAtUnloadHeight",
-      L"frmCalcAtUnloadWidth",
-      L"glngTextBackColor",
-      L"frmCalcchkShiftDec",
-      L"frmCalcchkFloatingDec",
-      L"frmCalcchkTapeOff",
-      L"frmCalcmnuWinAlwaysOnTop",
-      L"frmCalcmnuWinMicroWindow",
-      L"frmCalcmnuWinPadTape",
-      L"frmCalcmintMode",
-      L"frmCalctxtDec",
+      "frmCalcAtUnloadLeft",
+      "frmCalcAtUnloadTop",
+      "frmCalcAtUnloadHeight",
+      "frmCalcAtUnloadWidth",
+      "glngTextBackColor",
+      "frmCalcchkShiftDec",
+      "frmCalcchkFloatingDec",
+      "frmCalcchkTapeOff",
+      "frmCalcmnuWinAlwaysOnTop",
+      "frmCalcmnuWinMicroWindow",
+      "frmCalcmnuWinPadTape",
+      "frmCalcmintMode",
+      "frmCalctxtDec",
   };
-  for (const wchar_t* key : kKeys) {
-    SCOPED_TRACE(std::string(key, key + std::wcslen(key)));
-    settings().clear();
-    settings().set(key, GetParam().text);
-    start();
+  for (const char* key : kKeys) {
+    SCOPED_TRACE(key);
+    startWith(key);
     expectToAdd();
-    EXPECT_EQ(program().dialog(), nullptr);
-    close();
   }
 }
 
 // These are read when the user goes over to the micro window. It may then lie beside the screen,
 // where the system takes the keys away from it; so the sum waits for the next start.
 TEST_P(DamagedSettingsTest, EachOfTheMicroWindowLeavesAProgramThatAdds) {
-  constexpr std::array kKeys = {L"frmCalcMicroLeft", L"frmCalcMicroTop", L"frmCalcMicroHeight",
-                                L"frmCalcMicroWidth"};
-  for (const wchar_t* key : kKeys) {
-    SCOPED_TRACE(std::string(key, key + std::wcslen(key)));
-    settings().clear();
-    settings().set(key, GetParam().text);
-    start();
-    pressWith(VK_CONTROL, 'S');
-    await("the micro window", [this] { return !settings().get(L"frmCalcWidth").empty(); });
-    close();
-    EXPECT_EQ(settings().get(L"frmCalcmnuWinMicroWindow"), L"True");
-    start();
+  constexpr std::array kKeys = {"frmCalcMicroLeft", "frmCalcMicroTop", "frmCalcMicroHeight",
+                                "frmCalcMicroWidth"};
+  for (const char* key : kKeys) {
+    SCOPED_TRACE(key);
+    startWith(key);
+    tell("press Ctrl+S");
+    tell("close frmCalc");
+    EXPECT_EQ(tell("store get Settings frmCalcmnuWinMicroWindow")["value"], "True");
+    tell("start");
     expectToAdd();
-    close();
   }
 }
 
 INSTANTIATE_TEST_SUITE_P(Kinds, DamagedSettingsTest,
-                         testing::Values(Damage{"Empty", L""}, Damage{"Letters", L"rubbish"},
-                                         Damage{"Huge", L"999999999999999999999999"},
-                                         Damage{"Negative", L"-99999"},
-                                         Damage{"Long", std::wstring(32'768, L'x')}),
+                         testing::Values(Damage{"Empty", ""}, Damage{"Letters", "rubbish"},
+                                         Damage{"Huge", "999999999999999999999999"},
+                                         Damage{"Negative", "-99999"},
+                                         Damage{"Long", std::string(32'768, 'x')}),
                          [](const auto& damage) { return damage.param.name; });
 
 }  // namespace
-}  // namespace program
+}  // namespace desktop

@@ -1,0 +1,1 @@
+// The precompiled headers of the tests need a source to belong to.
