@@ -1,8 +1,10 @@
 #include "desktop/desktop_test.h"
-#include "desktop/input.h"
+#include "support/input.h"
 
 namespace desktop {
 namespace {
+
+using namespace support;
 
 class TypingTest : public DesktopTest {
  protected:

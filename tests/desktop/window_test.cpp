@@ -1,11 +1,13 @@
 #include <iterator>
 
 #include "desktop/desktop_test.h"
-#include "desktop/input.h"
 #include "driver/native_handles.h"
+#include "support/input.h"
 
 namespace desktop {
 namespace {
+
+using namespace support;
 
 constexpr int kTwipsPerInch = 1440;
 

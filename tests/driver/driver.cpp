@@ -56,7 +56,7 @@ std::string Driver::answer(const std::string& line) {
   try {
     Command command(line);
     carryOut(command);
-  } catch (const CommandError& error) {
+  } catch (const std::runtime_error& error) {
     value_ = {{"error", error.what()}};
   }
   return value_.dump(-1, ' ', false, Json::error_handler_t::replace);

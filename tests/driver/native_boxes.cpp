@@ -5,6 +5,8 @@
 
 #include "driver/command.h"
 #include "driver/native_handles.h"
+#include "support/wait.h"
+#include "support/windows.h"
 #include "win32/text.h"
 
 namespace driver {
@@ -18,7 +20,7 @@ constexpr int kRedOfPicker = 706;
 constexpr int kGreenOfPicker = 707;
 constexpr int kBlueOfPicker = 708;
 
-constexpr DWORD kPatience = 10000;
+constexpr ULONGLONG kPatience = 10000;
 
 // Also one that is still hidden: the system shows a dialog when nothing else is left to be done.
 HWND findDialog() {
@@ -31,17 +33,11 @@ HWND findDialog() {
 
 template <class Condition>
 void waitUntil(Condition condition) {
-  const ULONGLONG until = GetTickCount64() + kPatience;
-  while (!condition()) {
-    if (GetTickCount64() > until) throw CommandError("a dialog does not answer");
-    Sleep(1);
-  }
+  if (!support::eventually(condition, kPatience)) throw CommandError("a dialog does not answer");
 }
 
 std::string textOf(HWND window) {
-  std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(window)) + 1, L'\0');
-  const int length = GetWindowTextW(window, text.data(), static_cast<int>(text.size()));
-  return win32::narrow({text.data(), static_cast<std::size_t>(length)});
+  return win32::narrow(support::textOf(window));
 }
 
 struct Parts {
@@ -51,7 +47,7 @@ struct Parts {
 
 BOOL CALLBACK takePart(HWND child, LPARAM found) {
   auto& parts = *reinterpret_cast<Parts*>(found);
-  const std::wstring kind = classOf(child);
+  const std::wstring kind = support::classOf(child);
   const LONG_PTR style = GetWindowLongPtrW(child, GWL_STYLE);
   if ((style & WS_VISIBLE) == 0) return TRUE;
   if (kind == L"Button") parts.buttons.push_back(child);

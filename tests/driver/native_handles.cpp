@@ -1,8 +1,8 @@
 #include "driver/native_handles.h"
 
 #include <algorithm>
-#include <iterator>
 
+#include "support/windows.h"
 #include "win32/native_control.h"
 #include "win32/window.h"
 
@@ -39,16 +39,8 @@ HWND handleOf(controls::Control& control) {
   return win32::NativeControl::of(control).handle();
 }
 
-std::wstring classOf(HWND window) {
-  wchar_t name[32] = L"";
-  const int length = GetClassNameW(window, name, static_cast<int>(std::size(name)));
-  return {name, static_cast<std::size_t>(length)};
-}
-
 bool isOurs(HWND window) {
-  DWORD process = 0;
-  GetWindowThreadProcessId(window, &process);
-  return process == GetCurrentProcessId();
+  return support::processOf(window) == GetCurrentProcessId();
 }
 
 bool isInFront() {

@@ -2,7 +2,6 @@
 
 #include <windows.h>
 
-#include <string>
 #include <vector>
 
 #include "controls/window.h"
@@ -12,8 +11,6 @@ namespace driver {
 HWND handleOf(const controls::Window& window);
 HWND handleOf(controls::Control& control);
 
-/// The class of a window, by which the system knows what it is.
-std::wstring classOf(HWND window);
 /// Whether a window is the program's.
 bool isOurs(HWND window);
 /// Whether a window of the program is in front.

@@ -3,28 +3,14 @@
 #include <algorithm>
 
 #include "driver/native_handles.h"
+#include "support/wait.h"
+#include "support/windows.h"
 
 namespace driver {
 
 namespace {
 
-constexpr DWORD kPatience = 3000;
-
-template <class Condition>
-bool comesTrue(Condition condition) {
-  const ULONGLONG until = GetTickCount64() + kPatience;
-  while (!condition()) {
-    if (GetTickCount64() > until) return false;
-    Sleep(2);
-  }
-  return true;
-}
-
-LRESULT ask(HWND window, UINT message, WPARAM wParam = 0) {
-  DWORD_PTR answer = 0;
-  SendMessageTimeoutW(window, message, wParam, 0, SMTO_ABORTIFHUNG, kPatience, &answer);
-  return static_cast<LRESULT>(answer);
-}
+constexpr ULONGLONG kPatience = 3000;
 
 BOOL CALLBACK takeWindow(HWND window, LPARAM found) {
   if (IsWindowVisible(window) && !isOurs(window))
@@ -34,7 +20,7 @@ BOOL CALLBACK takeWindow(HWND window, LPARAM found) {
 
 // The editors of the system have one text box.
 BOOL CALLBACK takeTextBox(HWND child, LPARAM found) {
-  const std::wstring kind = classOf(child);
+  const std::wstring kind = support::classOf(child);
   if (kind != L"Edit" && !kind.starts_with(L"RichEdit")) return TRUE;
   *reinterpret_cast<HWND*>(found) = child;
   return FALSE;
@@ -63,16 +49,18 @@ std::vector<HWND> windowsSince(const std::vector<HWND>& before) {
 }
 
 bool waitForText(HWND window) {
-  return comesTrue([window] {
-    HWND box = textBoxOf(window);
-    return box && ask(box, WM_GETTEXTLENGTH) > 0;
-  });
+  return support::eventually(
+      [window] {
+        HWND box = textBoxOf(window);
+        return box && support::ask(box, WM_GETTEXTLENGTH) > 0;
+      },
+      kPatience);
 }
 
 void closeUnsaved(HWND window) {
-  if (HWND box = textBoxOf(window)) ask(box, EM_SETMODIFY, FALSE);
+  if (HWND box = textBoxOf(window)) support::ask(box, EM_SETMODIFY, FALSE);
   PostMessageW(window, WM_CLOSE, 0, 0);
-  comesTrue([window] { return !IsWindow(window); });
+  support::eventually([window] { return !IsWindow(window); }, kPatience);
 }
 
 }  // namespace driver

@@ -5,6 +5,7 @@
 
 #include "driver/command_loop.h"
 #include "driver/native_stage.h"
+#include "support/retries.h"
 
 // The program has the first thread, as ever; the person in front of it does what standard input
 // says.
@@ -21,4 +22,5 @@ int main() {
     stage.run();
     person.join();
   }
+  return support::retriesAreFew() ? 0 : 1;
 }

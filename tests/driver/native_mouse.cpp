@@ -3,6 +3,8 @@
 #include <iterator>
 #include <string_view>
 
+#include "support/windows.h"
+
 namespace driver {
 
 namespace {
@@ -13,7 +15,7 @@ constexpr UINT kGetMenuHandle = 0x01E1;
 
 // The menu that an open menu's window shows; nothing for any other window.
 HMENU menuIn(HWND window) {
-  if (classOf(window) != kMenuClass) return nullptr;
+  if (support::classOf(window) != kMenuClass) return nullptr;
   return reinterpret_cast<HMENU>(SendMessageW(window, kGetMenuHandle, 0, 0));
 }
 
@@ -58,7 +60,7 @@ INPUT mouseButton(MouseButton button, bool up, ULONG_PTR extra) {
 }
 
 bool isButton(HWND control) {
-  return classOf(control) == L"Button";
+  return support::classOf(control) == L"Button";
 }
 
 bool placeToClick(HWND control, POINT& place) {

@@ -4,6 +4,7 @@
 
 #include "controls/desktop.h"
 #include "driver/native_handles.h"
+#include "support/windows.h"
 #include "win32/text.h"
 #include "win32/window.h"
 
@@ -21,9 +22,7 @@ bool isNear(LONG seen, int meant) {
 }
 
 std::string textOn(HWND window) {
-  std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(window)) + 1, L'\0');
-  const int length = GetWindowTextW(window, text.data(), static_cast<int>(text.size()));
-  return win32::narrow({text.data(), static_cast<std::size_t>(length)});
+  return win32::narrow(support::textOf(window));
 }
 
 bool hasStyle(HWND window, LONG_PTR style) {

@@ -5,6 +5,7 @@
 #include <map>
 #include <vector>
 
+#include "support/registry.h"
 #include "win32/handles.h"
 #include "win32/text.h"
 
@@ -67,23 +68,14 @@ std::string storedKey(const std::string& application) {
 
 std::optional<std::string> readStored(const std::string& application, const std::string& section,
                                       const std::string& key) {
-  const std::wstring path = pathOf(application, section);
-  const std::wstring name = win32::wide(key);
-  DWORD bytes = 0;
-  if (RegGetValueW(HKEY_CURRENT_USER, path.c_str(), name.c_str(), RRF_RT_REG_SZ, nullptr, nullptr,
-                   &bytes) != ERROR_SUCCESS)
-    return {};
-  std::wstring text(bytes / sizeof(wchar_t) + 1, L'\0');
-  RegGetValueW(HKEY_CURRENT_USER, path.c_str(), name.c_str(), RRF_RT_REG_SZ, nullptr, text.data(),
-               &bytes);
-  return win32::narrow(text.c_str());
+  const auto text = support::readUserText(pathOf(application, section), win32::wide(key));
+  if (!text) return {};
+  return win32::narrow(*text);
 }
 
 void writeStored(const std::string& application, const std::string& section, const std::string& key,
                  const std::string& text) {
-  const std::wstring wide = win32::wide(text);
-  RegSetKeyValueW(HKEY_CURRENT_USER, pathOf(application, section).c_str(), win32::wide(key).c_str(),
-                  REG_SZ, wide.c_str(), static_cast<DWORD>((wide.size() + 1) * sizeof(wchar_t)));
+  support::writeUserText(pathOf(application, section), win32::wide(key), win32::wide(text));
 }
 
 void deleteStored(const std::string& application, const std::string& section,

@@ -4,10 +4,11 @@
 #include <utility>
 
 #include "driver/command.h"
-#include "driver/native_clipboard.h"
 #include "driver/native_handles.h"
 #include "driver/native_screen.h"
 #include "driver/native_settings.h"
+#include "support/clipboard.h"
+#include "support/retries.h"
 #include "win32/message_loop.h"
 
 namespace driver {
@@ -30,7 +31,7 @@ void sendInputs(std::vector<INPUT> inputs) {
 }  // namespace
 
 NativeStage::NativeStage() {
-  writeClipboard(ui_.window(), {});
+  support::setClipboardText({}, ui_.window());
   clearAllStored();
 }
 
@@ -92,6 +93,7 @@ void NativeStage::checkScreen() {
 
 // A mark is lost when no window of the program was there to take it.
 void NativeStage::remark() {
+  support::noteRetry("a mark");
   if (isInFront()) return sendInputs({ui_.nextMark()});
   ui_.forgetMarks();
   ui_.markRest();
@@ -139,7 +141,10 @@ void NativeStage::putProgramInFront() {
   if (isInFront()) return;
   const controls::Window* active = nullptr;
   inspect([&] { active = desktop_.activeWindow(); });
-  if (active) putInFront(*active);
+  if (active && support::isWine()) {
+    support::noteRetry("the program brought to the front");
+    putInFront(*active);
+  }
   if (!isInFront()) throw CommandError("the program is not in front");
 }
 

@@ -1,8 +1,8 @@
 // What the person's hands do: on the keyboard, with the mouse, to the windows.
 #include "driver/command.h"
-#include "driver/native_clipboard.h"
 #include "driver/native_handles.h"
 #include "driver/native_stage.h"
+#include "support/retries.h"
 
 namespace driver {
 
@@ -26,6 +26,7 @@ void NativeStage::keyDown(const controls::KeyStroke& stroke, controls::KeyAscii 
     ui_.expectKey(isTyped ? static_cast<WPARAM>(character) : 0);
     send(inputs);
     if (ui_.hit()) return;
+    support::noteRetry("a key");
     putProgramInFront();
     inputs = keyboard_.downAgain();
   }
@@ -72,6 +73,7 @@ void NativeStage::moveMouse(POINT place) {
     ui_.expectMove(place);
     SetCursorPos(place.x, place.y);
     if (ui_.waitForMove(kReportIsLate)) return;
+    support::noteRetry("a move of the mouse");
     SetCursorPos(place.x + 1, place.y);
   }
 }
@@ -82,6 +84,7 @@ bool NativeStage::moveButton(MouseButton button, bool up, POINT place, HWND seen
     ui_.expectClick(place, seen, pressed);
     send({mouseButton(button, up, UiThread::kAimedInput)});
     if (!ui_.missed()) return true;
+    support::noteRetry("a click");
   }
   return false;
 }
@@ -161,6 +164,7 @@ void NativeStage::choose(controls::MenuItem& item) {
   for (int i = 0; i < kTriesOfMenu; ++i) {
     clickThrough(way, place);
     if (ui_.commandTaken()) return;
+    support::noteRetry("a menu");
     cancelMouse();
   }
   throw CommandError("the menu does not stay open");

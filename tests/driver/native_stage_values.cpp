@@ -1,20 +1,24 @@
 // What the person looks up, and prepares before the program is started.
-#include "driver/native_clipboard.h"
 #include "driver/native_settings.h"
 #include "driver/native_stage.h"
+#include "support/clipboard.h"
+#include "win32/text.h"
 
 namespace driver {
 
 std::optional<std::string> NativeStage::clipboardText() {
   clearAway();
-  std::optional<std::string> text;
-  inspect([&] { text = readClipboard(ui_.window()); });
-  return text;
+  std::optional<std::wstring> text;
+  inspect([&] { text = support::clipboardText(ui_.window()); });
+  if (!text) return {};
+  return win32::narrow(*text);
 }
 
 void NativeStage::setClipboard(const std::optional<std::string>& text) {
   clearAway();
-  inspect([&] { writeClipboard(ui_.window(), text); });
+  std::optional<std::wstring> wide;
+  if (text) wide = win32::wide(*text);
+  inspect([&] { support::setClipboardText(wide, ui_.window()); });
 }
 
 std::optional<std::string> NativeStage::readSetting(const std::string& section,

@@ -3,14 +3,15 @@
 #include <cctype>
 #include <vector>
 
-#include "desktop/input.h"
-#include "desktop/program/outside.h"
-#include "desktop/program/wait.h"
+#include "support/input.h"
+#include "support/wait.h"
+#include "support/windows.h"
 
 namespace program {
-namespace {
 
-using desktop::Inputs;
+using namespace support;
+
+namespace {
 
 void send(Inputs& inputs) {
   SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT));
@@ -51,21 +52,21 @@ void addClick(Inputs& inputs) {
 
 void type(std::string_view keys) {
   Inputs inputs;
-  for (const char cap : keys) desktop::tap(inputs, keyOf(cap));
+  for (const char cap : keys) tap(inputs, keyOf(cap));
   send(inputs);
 }
 
 void press(WORD key) {
   Inputs inputs;
-  desktop::tap(inputs, key);
+  tap(inputs, key);
   send(inputs);
 }
 
 void pressWith(WORD modifier, WORD key) {
   Inputs inputs;
-  desktop::keyDown(inputs, modifier);
-  desktop::tap(inputs, key);
-  desktop::keyUp(inputs, modifier);
+  keyDown(inputs, modifier);
+  tap(inputs, key);
+  keyUp(inputs, modifier);
   send(inputs);
 }
 

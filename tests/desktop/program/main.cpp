@@ -3,6 +3,7 @@
 #include <cstdio>
 
 #include "desktop/program/program_test.h"
+#include "support/retries.h"
 
 // The tests of the finished program, which is started for each of them:
 //   tallyrex-program-tests PROGRAM HELPFILE
@@ -14,5 +15,6 @@ int wmain(int count, wchar_t** arguments) {
   }
   program::TestedProgram tested(arguments[1], arguments[2]);
   program::ProgramTest::setProgram(tested);
-  return RUN_ALL_TESTS();
+  const int result = RUN_ALL_TESTS();
+  return support::retriesAreFew() ? result : 1;
 }

@@ -1,6 +1,6 @@
-#include "desktop/program/clipboard.h"
 #include "desktop/program/other_program.h"
 #include "desktop/program/program_test.h"
+#include "support/clipboard.h"
 
 namespace program {
 namespace {

@@ -1,9 +1,11 @@
 #include "desktop/program/other_program.h"
 
-#include "desktop/program/outside.h"
-#include "desktop/program/wait.h"
+#include "support/wait.h"
+#include "support/windows.h"
 
 namespace program {
+
+using namespace support;
 
 OtherProgram::OtherProgram()
     : window_(CreateWindowExW(0, L"EDIT", L"", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 800, 600, 300, 100,

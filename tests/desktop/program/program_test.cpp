@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "support/retries.h"
+
 namespace program {
 namespace {
 
@@ -55,9 +57,13 @@ void ProgramTest::answer(WORD key) {
 }
 
 void ProgramTest::awaitInFront(HWND window) {
-  await("a window in front", [window] {
+  bool brought = false;
+  await("a window in front", [window, &brought] {
     const HWND front = GetForegroundWindow();
-    if (!program().owns(front)) SetForegroundWindow(window);
+    if (isWine() && !program().owns(front)) {
+      if (!std::exchange(brought, true)) noteRetry("the program brought to the front");
+      SetForegroundWindow(window);
+    }
     return front == window;
   });
 }

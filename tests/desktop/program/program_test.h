@@ -6,12 +6,14 @@
 #include <vector>
 
 #include "desktop/program/hands.h"
-#include "desktop/program/outside.h"
 #include "desktop/program/tested_program.h"
 #include "desktop/program/user_settings.h"
-#include "desktop/program/wait.h"
+#include "support/wait.h"
+#include "support/windows.h"
 
 namespace program {
+
+using namespace support;
 
 /// The program on a user's desktop. It starts without settings, and nothing that it has opened is
 /// left behind, however a test ends.

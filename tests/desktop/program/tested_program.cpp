@@ -3,10 +3,13 @@
 #include <algorithm>
 #include <string_view>
 
-#include "desktop/program/outside.h"
-#include "desktop/program/wait.h"
+#include "support/wait.h"
+#include "support/windows.h"
 
 namespace program {
+
+using namespace support;
+
 namespace {
 
 constexpr wchar_t kWindowClass[] = L"TallyrexWindow";

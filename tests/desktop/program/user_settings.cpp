@@ -2,6 +2,8 @@
 
 #include <windows.h>
 
+#include "support/registry.h"
+
 namespace program {
 
 UserSettings::UserSettings(const std::wstring& programName)
@@ -13,25 +15,12 @@ void UserSettings::clear() {
 
 void UserSettings::write(const std::wstring& section, const std::wstring& key,
                          const std::wstring& text) {
-  const auto bytes = static_cast<DWORD>((text.size() + 1) * sizeof(wchar_t));
-  RegSetKeyValueW(HKEY_CURRENT_USER, (root_ + L"\\" + section).c_str(), key.c_str(), REG_SZ,
-                  text.c_str(), bytes);
+  support::writeUserText(root_ + L"\\" + section, key, text);
 }
 
 std::optional<std::wstring> UserSettings::read(const std::wstring& section,
                                                const std::wstring& key) const {
-  const std::wstring path = root_ + L"\\" + section;
-  DWORD bytes = 0;
-  if (RegGetValueW(HKEY_CURRENT_USER, path.c_str(), key.c_str(), RRF_RT_REG_SZ, nullptr, nullptr,
-                   &bytes) != ERROR_SUCCESS)
-    return {};
-  std::wstring text(bytes / sizeof(wchar_t), L'\0');
-  if (RegGetValueW(HKEY_CURRENT_USER, path.c_str(), key.c_str(), RRF_RT_REG_SZ, nullptr,
-                   text.data(), &bytes) != ERROR_SUCCESS)
-    return {};
-  // Its size counts the zero behind the text.
-  text.resize(bytes / sizeof(wchar_t) - 1);
-  return text;
+  return support::readUserText(root_ + L"\\" + section, key);
 }
 
 }  // namespace program

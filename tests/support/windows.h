@@ -6,9 +6,12 @@
 #include <string_view>
 #include <vector>
 
-namespace program {
+namespace support {
 
 /// What one program can see of the windows of another.
+
+/// What a window answers; 0 when it does not.
+LRESULT ask(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
 
 /// The text that a window gives away; empty when it does not answer.
 std::wstring textOf(HWND window);
@@ -24,4 +27,4 @@ HWND childOfClass(HWND window, std::wstring_view name);
 /// The place on the screen.
 RECT placeOf(HWND window);
 
-}  // namespace program
+}  // namespace support

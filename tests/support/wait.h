@@ -5,7 +5,7 @@
 #include <stdexcept>
 #include <string>
 
-namespace program {
+namespace support {
 
 /// What a test waits for has not come.
 class NotSeen : public std::runtime_error {
@@ -13,12 +13,14 @@ class NotSeen : public std::runtime_error {
   explicit NotSeen(const std::string& awaited) : std::runtime_error("not seen: " + awaited) {}
 };
 
-/// Whether the condition comes to hold within half a minute, which is ample on a busy machine.
+/// Half a minute, which is ample on a busy machine.
+inline constexpr ULONGLONG kPatience = 30'000;
+
+/// Whether the condition comes to hold within so many milliseconds.
 template <class Condition>
-bool eventually(Condition condition) {
-  constexpr ULONGLONG kPatience = 30'000;
-  constexpr DWORD kPoll = 5;
-  const ULONGLONG until = GetTickCount64() + kPatience;
+bool eventually(Condition condition, ULONGLONG patience = kPatience) {
+  constexpr DWORD kPoll = 2;
+  const ULONGLONG until = GetTickCount64() + patience;
   while (!condition()) {
     if (GetTickCount64() > until) return false;
     Sleep(kPoll);
@@ -40,4 +42,4 @@ HWND awaitWindow(const std::string& what, Find find) {
   return found;
 }
 
-}  // namespace program
+}  // namespace support

@@ -1,6 +1,6 @@
-#include "desktop/input.h"
+#include "support/input.h"
 
-namespace desktop {
+namespace support {
 
 namespace {
 
@@ -62,4 +62,4 @@ Inputs keypad(std::string_view caps) {
   return inputs;
 }
 
-}  // namespace desktop
+}  // namespace support

@@ -1,17 +1,11 @@
-#include "desktop/program/outside.h"
+#include "support/windows.h"
 
 #include <iterator>
 
-namespace program {
+namespace support {
 namespace {
 
 constexpr UINT kAnswerLimit = 10'000;
-
-LRESULT ask(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
-  DWORD_PTR answer = 0;
-  SendMessageTimeoutW(window, message, wParam, lParam, SMTO_ABORTIFHUNG, kAnswerLimit, &answer);
-  return static_cast<LRESULT>(answer);
-}
 
 BOOL CALLBACK addShown(HWND window, LPARAM list) {
   if (IsWindowVisible(window)) reinterpret_cast<std::vector<HWND>*>(list)->push_back(window);
@@ -19,6 +13,12 @@ BOOL CALLBACK addShown(HWND window, LPARAM list) {
 }
 
 }  // namespace
+
+LRESULT ask(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+  DWORD_PTR answer = 0;
+  SendMessageTimeoutW(window, message, wParam, lParam, SMTO_ABORTIFHUNG, kAnswerLimit, &answer);
+  return static_cast<LRESULT>(answer);
+}
 
 std::wstring textOf(HWND window) {
   const auto length = static_cast<std::size_t>(ask(window, WM_GETTEXTLENGTH));
@@ -65,4 +65,4 @@ RECT placeOf(HWND window) {
   return place;
 }
 
-}  // namespace program
+}  // namespace support

@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-namespace desktop {
+namespace support {
 
 /// What the keyboard and the mouse send, in order.
 using Inputs = std::vector<INPUT>;
@@ -17,4 +17,4 @@ void tap(Inputs& inputs, WORD key);
 /// Keys of the keypad by what their caps show; 'E' is its Enter key.
 Inputs keypad(std::string_view caps);
 
-}  // namespace desktop
+}  // namespace support

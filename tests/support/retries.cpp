@@ -1,0 +1,40 @@
+#include "support/retries.h"
+
+#include <windows.h>
+
+#include <cstdio>
+#include <map>
+#include <mutex>
+#include <string>
+
+namespace support {
+namespace {
+
+constexpr int kMost = 100;
+
+std::mutex mutex;
+std::map<std::string, int> counts;
+
+}  // namespace
+
+void noteRetry(const char* what) {
+  const std::scoped_lock lock(mutex);
+  ++counts[what];
+}
+
+bool retriesAreFew() {
+  const std::scoped_lock lock(mutex);
+  int all = 0;
+  for (const auto& [what, count] : counts) {
+    std::fprintf(stderr, "Done again: %s, %d times\n", what.c_str(), count);
+    all += count;
+  }
+  if (all > kMost) std::fprintf(stderr, "That is too often: %d times, at most %d\n", all, kMost);
+  return all <= kMost;
+}
+
+bool isWine() {
+  return GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "wine_get_version") != nullptr;
+}
+
+}  // namespace support
