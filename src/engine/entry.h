@@ -85,6 +85,7 @@ class Entry {
   void takePoint();
   bool acceptsPoint(const std::string& text) const;
   bool acceptsDigit(const std::string& text, char digit) const;
+  bool fitsBehindImpliedPoint(const std::string& text, char digit) const;
   bool hasSign(const std::string& text) const;
   void repair();
   /// Raises error 13 when the text cannot be put in shape; then it stays.

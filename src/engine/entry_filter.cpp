@@ -56,10 +56,14 @@ bool Entry::acceptsDigit(const std::string& text, char digit) const {
   if (!decimals_.floating() && placed && hasPoint(text) &&
       charactersBehindPoint(text) == decimals_.places())
     return false;
+  if (stationary && !fitsBehindImpliedPoint(text, digit)) return false;
+  return text.size() < kEntryLength;
+}
+
+bool Entry::fitsBehindImpliedPoint(const std::string& text, char digit) const {
   std::u16string typed = common::toUtf16(text);
   typed.insert(static_cast<std::size_t>(box_.selStart()), 1, static_cast<char16_t>(digit));
-  if (stationary && significantDigits(typed) > kStationaryDigits) return false;
-  return text.size() < kEntryLength;
+  return significantDigits(typed) <= kStationaryDigits;
 }
 
 }  // namespace engine
