@@ -27,6 +27,9 @@ MESSAGES = [
         "choice must be selected before keying in the numbers.",
     ),
     ("Error finding or displaying NotePad.exe",),
+    ("Tallyrex did not end normally the last time.  Its tape was kept.  Open it in Notepad?",),
+    ("The help was not found. It belongs beside the program, as ...",),
+    ("No program was found that shows the help. It can be read in ...",),
     (
         "This option copies the Tape Display to the clipboard and executes Notepad.  If you would like to use another "
         "program other than Notepad choose Edit from the main menu and then Copy Entire Tape.  Do you wish to "

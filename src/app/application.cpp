@@ -12,8 +12,27 @@ Application::~Application() {
   desktop_.onEndSession = nullptr;
 }
 
-void Application::start() {
+void Application::start(controls::WindowState state) {
   showMainWindow();
+  calc_->window().setState(state);
+  offerLostTapes();
+}
+
+// They are offered until the question is answered. Where Notepad cannot be had, they are on the
+// clipboard.
+void Application::offerLostTapes() {
+  const std::string tapes = desktop_.tapeSafe().lostTapes();
+  if (tapes.empty()) return;
+  const int answer = desktop_.showMessage(
+      {.text = "Tallyrex did not end normally the last time.  Its tape was kept.  Open it in "
+               "Notepad?",
+       .buttons = controls::Buttons::YesNo});
+  if (answer == controls::kNoAnswer) return;
+  if (answer == controls::kAnswerYes && !desktop_.openText("NotePad.exe", tapes)) {
+    desktop_.setClipboardText(tapes);
+    desktop_.showMessage({.text = "Error finding or displaying NotePad.exe"});
+  }
+  desktop_.tapeSafe().forgetLostTapes();
 }
 
 void Application::loadCalc() {
@@ -55,6 +74,7 @@ void Application::unloadAbout() {
 }
 
 void Application::unloadCalc() {
+  desktop_.tapeSafe().clear();
   unload(calc_);
 }
 
@@ -102,6 +122,7 @@ void Application::endWithLastWindow() {
   if (isShown(calc_) || isShown(annuity_) || isShown(about_)) return;
   calc_.reset();
   annuity_.reset();
+  desktop_.tapeSafe().clear();
   if (onEnded) onEnded();
 }
 

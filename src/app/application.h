@@ -21,8 +21,8 @@ class Application : private shell::Program, private annuity::Program {
   /// The last window has gone.
   std::function<void()> onEnded;
 
-  /// Loads and shows the main window.
-  void start();
+  /// Loads and shows the main window; then offers the tape of a run that did not end normally.
+  void start(controls::WindowState state = controls::WindowState::Normal);
   bool ended() const { return !calc_ && !annuity_ && !about_; }
   /// The loaded window of that name; none when it is not loaded.
   controls::Window* findWindow(std::string_view name) const;
@@ -42,6 +42,7 @@ class Application : private shell::Program, private annuity::Program {
   void unloadAnnuity() override;
 
   void loadCalc();
+  void offerLostTapes();
   void unloadAbout();
   template <class Form>
   void unload(std::unique_ptr<Form>& form);

@@ -10,6 +10,7 @@
 
 #include "common/settings_store.h"
 #include "controls/event_loop.h"
+#include "controls/tape_safe.h"
 #include "controls/window.h"
 
 namespace controls {
@@ -111,12 +112,17 @@ class Desktop {
   /// when any of this fails; no key stroke has been sent to anything else then.
   virtual bool startProgramAndPaste(const std::string& program) = 0;
 
+  /// Shows a text in a program that opens text files. False when it cannot be started.
+  virtual bool openText(const std::string& program, std::string_view text) = 0;
+
   virtual void showHelp(const HelpRequest& request) = 0;
   /// The colour that the user picks, who is shown the present one; nothing on Cancel.
   virtual std::optional<std::uint32_t> chooseColor(std::uint32_t present) = 0;
 
   /// The settings of the application, under the name of its executable file.
   virtual common::SettingsStore& settings() = 0;
+  /// What keeps the tape of this run.
+  virtual TapeSafe& tapeSafe() = 0;
   /// A text value under the machine's registry root, a number in its decimal text.
   virtual std::optional<RegistryValue> registryValue(std::string_view key,
                                                      std::string_view name) = 0;

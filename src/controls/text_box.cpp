@@ -25,6 +25,7 @@ TextBox::TextBox(Window& window, const ControlLayout& layout)
 
 void TextBox::setText(std::string_view text) {
   lastEdit_.reset();
+  if (onEdit) onEdit({.removed = length(), .inserted = text});
   storeText(text);
   storeSelection(0, 0);
   raise(onChange, ChangedBy::Program);
@@ -32,6 +33,7 @@ void TextBox::setText(std::string_view text) {
 
 void TextBox::append(std::string_view text) {
   lastEdit_.reset();
+  if (onEdit) onEdit({.start = length(), .inserted = text});
   storeAppended(text);
   raise(onChange, ChangedBy::Program);
 }
@@ -73,6 +75,7 @@ bool TextBox::replaceSelection(std::string_view text) {
     return false;
   }
   const int behind = length() - selection.start - selection.length;
+  if (onEdit) onEdit({.start = selection.start, .removed = selection.length, .inserted = text});
   storePart(selection.start, selection.length, text);
   const int end = length() - behind;
   storeSelection(end, 0);

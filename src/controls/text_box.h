@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 
+#include "common/edit_log.h"
 #include "controls/control.h"
 
 namespace controls {
@@ -37,6 +38,8 @@ class TextBox : public Control {
 
   /// Raised when the text was assigned, or when an edit has changed it; tells whose doing it was.
   std::function<void(ChangedBy)> onChange;
+  /// Raised when the text is about to change: what of it gives way to what.
+  std::function<void(const common::TextEdit&)> onEdit;
   /// A text about to be pasted in the place of the selection; the handler may change it, or empty
   /// it to discard it. A one-line box without a handler takes the text up to its first line break.
   std::function<void(std::string&)> onPaste;

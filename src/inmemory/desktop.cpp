@@ -37,13 +37,19 @@ bool Desktop::setClipboardText(std::string_view text) {
 
 bool Desktop::startProgram(const std::string& program) {
   if (!programs.contains(program)) return false;
-  launches.push_back({program, ""});
+  launches.push_back({program, "", {}});
   return true;
 }
 
 bool Desktop::startProgramAndPaste(const std::string& program) {
   if (!programs.contains(program)) return false;
-  launches.push_back({program, "^V"});
+  launches.push_back({program, "^V", {}});
+  return true;
+}
+
+bool Desktop::openText(const std::string& program, std::string_view text) {
+  if (!programs.contains(program)) return false;
+  launches.push_back({program, "", std::string(text)});
   return true;
 }
 

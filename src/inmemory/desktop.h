@@ -6,6 +6,7 @@
 
 #include "controls/desktop.h"
 #include "inmemory/settings.h"
+#include "inmemory/tape_safe.h"
 
 namespace inmemory {
 
@@ -18,10 +19,12 @@ struct ShownBox {
   int answer;
 };
 
-/// A program as it was started; `keys` were sent to its window ("^V" is Ctrl+V).
+/// A program as it was started; `keys` were sent to its window ("^V" is Ctrl+V), or it was given a
+/// text to open.
 struct Launch {
   std::string program;
   std::string keys;
+  std::optional<std::string> text;
 };
 
 /// The desktop without a screen: it records what the program asks for, and answers as it was told
@@ -35,9 +38,11 @@ class Desktop : public controls::Desktop {
   bool setClipboardText(std::string_view text) override;
   bool startProgram(const std::string& program) override;
   bool startProgramAndPaste(const std::string& program) override;
+  bool openText(const std::string& program, std::string_view text) override;
   void showHelp(const controls::HelpRequest& request) override { helpRequests.push_back(request); }
   std::optional<std::uint32_t> chooseColor(std::uint32_t present) override;
   common::SettingsStore& settings() override { return stores[name]; }
+  inmemory::TapeSafe& tapeSafe() override { return tapeSafe_; }
   std::optional<controls::RegistryValue> registryValue(std::string_view key,
                                                        std::string_view valueName) override;
   bool fileExists(const std::string& path) override { return files.contains(path); }
@@ -68,6 +73,8 @@ class Desktop : public controls::Desktop {
 
  private:
   void stayOpen();
+
+  TapeSafe tapeSafe_;
 };
 
 }  // namespace inmemory

@@ -27,12 +27,18 @@ void TapeOutput::copyTape() {
 }
 
 void TapeOutput::openInNotepad() {
+  if (handingOver_) {
+    desktop_.beep();
+    return;
+  }
+  handingOver_ = true;
   if (!mnuWinPadTape_.checked())
     desktop_.showMessage(
         {.text = "Note: This option will work better if the Win | Pad Tape choice is selected from "
                  "the main menu.  This choice must be selected before keying in the numbers."});
   if (!copyWholeTape() || !desktop_.startProgramAndPaste("NotePad.exe"))
     desktop_.showMessage({.text = "Error finding or displaying NotePad.exe"});
+  handingOver_ = false;
 }
 
 void TapeOutput::save() {

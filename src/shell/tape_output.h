@@ -12,6 +12,7 @@ class TapeOutput {
   TapeOutput(controls::Window& window, controls::Desktop& desktop);
 
   void copyTape();
+  /// Beeps while Notepad is still awaited.
   void openInNotepad();
   /// Save and Print of the File menu ask whether Notepad is wanted.
   void save();
@@ -25,6 +26,8 @@ class TapeOutput {
   controls::TextBox& txtTape_;
   controls::TextBox& txtEntry_;
   controls::MenuItem& mnuWinPadTape_;
+  // Notepad is awaited, while the window goes on working.
+  bool handingOver_ = false;
 };
 
 }  // namespace shell

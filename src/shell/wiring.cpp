@@ -82,6 +82,9 @@ void frmCalc::wireEntry() {
 void frmCalc::wireOtherBoxes() {
   controls::TextBox& txtTape = window_->textBox("txtTape");
   controls::TextBox& txtDec = window_->textBox("txtDec");
+  txtTape.onEdit = [this](const common::TextEdit& edit) {
+    window_->desktop().tapeSafe().record(edit);
+  };
   txtTape.onGotFocus = [this, &txtTape] {
     txtTape.moveCaretToEnd();
     colors_.mark(txtTape);

@@ -61,10 +61,12 @@ bool writeClipboard(std::string_view text) {
   if (!clipboard.isOpen() || !EmptyClipboard()) return false;
   const HGLOBAL data = GlobalAlloc(GMEM_MOVEABLE, bytes);
   if (!data) return false;
-  std::memcpy(GlobalLock(data), units.c_str(), bytes);
-  GlobalUnlock(data);
-  // What the clipboard has taken belongs to it.
-  if (SetClipboardData(CF_UNICODETEXT, data)) return true;
+  if (void* place = GlobalLock(data)) {
+    std::memcpy(place, units.c_str(), bytes);
+    GlobalUnlock(data);
+    // What the clipboard has taken belongs to it.
+    if (SetClipboardData(CF_UNICODETEXT, data)) return true;
+  }
   GlobalFree(data);
   return false;
 }

@@ -8,8 +8,10 @@
 #include <string_view>
 
 #include "win32/clipboard.h"
+#include "win32/editor_paste.h"
 #include "win32/help_viewer.h"
 #include "win32/late_function.h"
+#include "win32/message_loop.h"
 #include "win32/paths.h"
 #include "win32/programs.h"
 #include "win32/registry.h"
@@ -36,7 +38,8 @@ BOOL CALLBACK dismissDialog(HWND window, LPARAM) {
 }  // namespace
 
 Desktop::Desktop(const std::string& settingsRoot)
-    : settings_(settingsRoot + "\\" + narrow(baseNameOf(programPath()))) {
+    : settings_(settingsRoot + "\\" + narrow(baseNameOf(programPath()))),
+      tapeSafe_(tapeFolder(narrow(baseNameOf(programPath())))) {
   mixedColors_.fill(RGB(255, 255, 255));
 }
 
@@ -70,11 +73,18 @@ bool Desktop::setClipboardText(std::string_view text) {
 }
 
 bool Desktop::startProgram(const std::string& program) {
-  return win32::startProgram(program).has_value();
+  return win32::startProgram(program) != nullptr;
 }
 
 bool Desktop::startProgramAndPaste(const std::string& program) {
-  return win32::startProgramAndPaste(program);
+  return win32::startProgramAndPaste(program, [this] {
+    // An end that was asked for meanwhile is for the loop that waits outside.
+    if (!dispatchWaiting(*this)) endMessageLoop();
+  });
+}
+
+bool Desktop::openText(const std::string& program, std::string_view text) {
+  return win32::openText(program, text);
 }
 
 void Desktop::showHelp(const controls::HelpRequest& request) {

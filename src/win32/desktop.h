@@ -6,6 +6,7 @@
 
 #include "controls/desktop.h"
 #include "win32/registry_settings.h"
+#include "win32/tape_safe.h"
 
 namespace win32 {
 
@@ -24,9 +25,11 @@ class Desktop : public controls::Desktop {
   bool setClipboardText(std::string_view text) override;
   bool startProgram(const std::string& program) override;
   bool startProgramAndPaste(const std::string& program) override;
+  bool openText(const std::string& program, std::string_view text) override;
   void showHelp(const controls::HelpRequest& request) override;
   std::optional<std::uint32_t> chooseColor(std::uint32_t present) override;
   common::SettingsStore& settings() override { return settings_; }
+  controls::TapeSafe& tapeSafe() override { return tapeSafe_; }
   std::optional<controls::RegistryValue> registryValue(std::string_view key,
                                                        std::string_view name) override;
   bool fileExists(const std::string& path) override;
@@ -39,6 +42,7 @@ class Desktop : public controls::Desktop {
 
  private:
   RegistrySettings settings_;
+  TapeSafe tapeSafe_;
   // The colours that the user has mixed in the colour picker; white where none is.
   std::array<std::uint32_t, 16> mixedColors_;
 };

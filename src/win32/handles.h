@@ -2,10 +2,10 @@
 
 #include <windows.h>
 
-#include <uxtheme.h>
-
 #include <memory>
 #include <type_traits>
+
+#include "win32/theme.h"
 
 namespace win32 {
 
@@ -22,7 +22,7 @@ struct DestroyOwnedMenu {
 };
 
 struct CloseTheme {
-  void operator()(HTHEME theme) const noexcept { CloseThemeData(theme); }
+  void operator()(HTHEME theme) const noexcept { closeTheme(theme); }
 };
 
 struct CloseRegistryKey {

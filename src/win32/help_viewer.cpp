@@ -4,6 +4,8 @@
 
 #include <shellapi.h>
 
+#include <algorithm>
+
 #include "win32/late_function.h"
 #include "win32/paths.h"
 #include "win32/text.h"
@@ -26,11 +28,29 @@ bool hasViewer() {
   return false;
 }
 
+bool isAscii(std::wstring_view text) {
+  return std::ranges::all_of(text, [](wchar_t unit) { return unit < 0x80; });
+}
+
+// The viewer takes a path byte by byte, and finds none with other letters in it. Their folders have
+// short names as well, where the disk keeps such.
+std::string pathForViewer(const std::string& file) {
+  std::wstring path = wide(file);
+  if (!isAscii(path)) {
+    std::wstring shortPath(GetShortPathNameW(path.c_str(), nullptr, 0), L'\0');
+    shortPath.resize(
+        GetShortPathNameW(path.c_str(), shortPath.data(), static_cast<DWORD>(shortPath.size())));
+    path = shortPath;
+  }
+  return isAscii(path) ? narrow(path) : std::string();
+}
+
 // The viewer blocks its caller over a file that is not there.
 bool openInViewer(const controls::HelpRequest& request, HWND owner) {
   if (!isFile(wide(request.file)) || !hasViewer()) return false;
-  return WinHelpA(owner, request.file.c_str(), static_cast<UINT>(request.command),
-                  static_cast<ULONG_PTR>(request.data));
+  const std::string path = pathForViewer(request.file);
+  return !path.empty() && WinHelpA(owner, path.c_str(), static_cast<UINT>(request.command),
+                                   static_cast<ULONG_PTR>(request.data));
 }
 
 // The page lies beside the file of the viewer, or in the help folder.

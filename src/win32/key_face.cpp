@@ -92,8 +92,8 @@ void KeyFace::drawKey(const NMCUSTOMDRAW& draw, bool down) const {
   if (theme) {
     // A key has round corners, behind which the window is seen.
     FillRect(draw.hdc, &area, GetSysColorBrush(COLOR_BTNFACE));
-    DrawThemeBackground(theme, draw.hdc, BP_PUSHBUTTON, state, &area, nullptr);
-    if (!isTinted()) GetThemeColor(theme, BP_PUSHBUTTON, state, TMT_TEXTCOLOR, &textColor);
+    drawThemeBackground(theme, draw.hdc, BP_PUSHBUTTON, state, area);
+    if (!isTinted()) getThemeColor(theme, BP_PUSHBUTTON, state, TMT_TEXTCOLOR, textColor);
   } else {
     drawClassicKey(draw, down);
     if (down) textColor = GetSysColor(COLOR_HIGHLIGHTTEXT);

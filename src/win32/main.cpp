@@ -2,6 +2,7 @@
 
 #include "app/application.h"
 #include "win32/desktop.h"
+#include "win32/edge.h"
 #include "win32/message_loop.h"
 
 // Libraries and programs are never taken from the current folder.
@@ -11,12 +12,29 @@ static void trustSystemFoldersOnly() {
   SetEnvironmentVariableW(L"NoDefaultCurrentDirectoryInExePath", L"1");
 }
 
-int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int) {
+// How the one who starts the program wants its window: a shortcut may say so.
+static controls::WindowState wantedState(int show) {
+  switch (show) {
+    case SW_SHOWMAXIMIZED:
+      return controls::WindowState::Maximized;
+    case SW_SHOWMINIMIZED:
+    case SW_SHOWMINNOACTIVE:
+    case SW_MINIMIZE:
+      return controls::WindowState::Minimized;
+    default:
+      return controls::WindowState::Normal;
+  }
+}
+
+int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int show) {
   trustSystemFoldersOnly();
   win32::Desktop desktop;
   app::Application application(desktop);
   application.onEnded = win32::endMessageLoop;
-  application.start();
+  win32::atTheEdge(desktop.events(), [&]() -> LRESULT {
+    application.start(wantedState(show));
+    return 0;
+  });
   win32::runMessageLoop(desktop);
   return 0;
 }

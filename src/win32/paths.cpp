@@ -34,6 +34,12 @@ std::wstring baseNameOf(const std::wstring& path) {
   return name.substr(0, name.rfind(L'.'));
 }
 
+std::wstring environmentText(const wchar_t* name) {
+  std::wstring text(GetEnvironmentVariableW(name, nullptr, 0), L'\0');
+  text.resize(GetEnvironmentVariableW(name, text.data(), static_cast<DWORD>(text.size())));
+  return text;
+}
+
 bool isFile(const std::wstring& path) {
   const DWORD attributes = GetFileAttributesW(path.c_str());
   return attributes != INVALID_FILE_ATTRIBUTES && !(attributes & FILE_ATTRIBUTE_DIRECTORY);

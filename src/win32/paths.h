@@ -12,6 +12,9 @@ std::wstring folderOf(const std::wstring& path);
 /// The name of a file without its folder and extension.
 std::wstring baseNameOf(const std::wstring& path);
 
+/// A variable of the program's environment; empty without one.
+std::wstring environmentText(const wchar_t* name);
+
 /// Whether there is such a file; a folder is none.
 bool isFile(const std::wstring& path);
 

@@ -1,6 +1,7 @@
 #include "win32/registry.h"
 
-#include <cstring>
+#include <algorithm>
+#include <cwchar>
 
 #include "win32/handles.h"
 #include "win32/text.h"
@@ -25,30 +26,30 @@ OwnedKey openMachineKey(const std::wstring& path) {
 }
 
 std::optional<DWORD> readDoubleWord(HKEY key, const std::wstring& name) {
-  DWORD type = 0;
   DWORD value = 0;
   DWORD size = sizeof value;
-  const LSTATUS status =
-      RegQueryValueExW(key, name.c_str(), nullptr, &type, reinterpret_cast<BYTE*>(&value), &size);
-  if (status != ERROR_SUCCESS || type != REG_DWORD) return {};
+  if (RegGetValueW(key, nullptr, name.c_str(), RRF_RT_REG_DWORD, nullptr, &value, &size) !=
+      ERROR_SUCCESS)
+    return {};
   return value;
 }
 
 }  // namespace
 
 std::optional<std::wstring> readText(HKEY key, const std::wstring& name) {
-  DWORD type = 0;
-  DWORD size = 0;
-  if (RegQueryValueExW(key, name.c_str(), nullptr, &type, nullptr, &size) != ERROR_SUCCESS ||
-      type != REG_SZ)
-    return {};
-  std::wstring text(size / sizeof(wchar_t), L'\0');
-  if (RegQueryValueExW(key, name.c_str(), nullptr, nullptr, reinterpret_cast<BYTE*>(text.data()),
-                       &size) != ERROR_SUCCESS)
-    return {};
-  text.resize(size / sizeof(wchar_t));
-  // A value may be stored without its terminating zero.
-  if (!text.empty() && text.back() == L'\0') text.pop_back();
+  std::wstring text;
+  LSTATUS status = ERROR_MORE_DATA;
+  for (DWORD size = 0; status == ERROR_MORE_DATA;) {
+    text.resize(size / sizeof(wchar_t) + 1);
+    size = static_cast<DWORD>(text.size() * sizeof(wchar_t));
+    // One of the expandable kind is expanded, and of this kind then.
+    status = RegGetValueW(key, nullptr, name.c_str(), RRF_RT_REG_SZ, nullptr, text.data(), &size);
+    // The size that is said to be needed counts the text as it is stored, not as it is expanded.
+    if (status == ERROR_MORE_DATA)
+      size = std::max(size, static_cast<DWORD>(2 * text.size() * sizeof(wchar_t)));
+  }
+  if (status != ERROR_SUCCESS) return {};
+  text.resize(wcsnlen(text.data(), text.size()));
   return text;
 }
 

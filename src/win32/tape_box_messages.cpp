@@ -110,7 +110,7 @@ std::optional<LRESULT> TapeBox::takeTextMessage(const Message& message) {
 // The border of the system's boxes in the user's theme; without one the classic edge is drawn
 // already.
 void TapeBox::paintFrame() {
-  const HTHEME theme = OpenThemeData(handle(), VSCLASS_EDIT);
+  const OwnedTheme theme(openTheme(handle(), VSCLASS_EDIT));
   if (!theme) return;
   RECT frame;
   GetWindowRect(handle(), &frame);
@@ -119,9 +119,8 @@ void TapeBox::paintFrame() {
   const int y = GetSystemMetrics(SM_CYEDGE);
   const HDC context = GetWindowDC(handle());
   ExcludeClipRect(context, x, y, frame.right - x, frame.bottom - y);
-  DrawThemeBackground(theme, context, EP_EDITTEXT, ETS_NORMAL, &frame, nullptr);
+  drawThemeBackground(theme.get(), context, EP_EDITTEXT, ETS_NORMAL, frame);
   ReleaseDC(handle(), context);
-  CloseThemeData(theme);
 }
 
 }  // namespace win32

@@ -29,6 +29,9 @@ ATOM registerClass(WNDPROC procedure) {
   definition.lpfnWndProc = procedure;
   definition.hInstance = instance;
   definition.hIcon = LoadIconW(instance, kProgramIcon);
+  definition.hIconSm = static_cast<HICON>(LoadImageW(instance, kProgramIcon, IMAGE_ICON,
+                                                     GetSystemMetrics(SM_CXSMICON),
+                                                     GetSystemMetrics(SM_CYSMICON), LR_SHARED));
   definition.hCursor = LoadCursorW(nullptr, IDC_ARROW);
   definition.hbrBackground = GetSysColorBrush(COLOR_BTNFACE);
   definition.lpszClassName = kClassName;
@@ -144,7 +147,7 @@ void Window::focusNative() {
 }
 
 HTHEME Window::buttonTheme() {
-  if (!buttonTheme_) buttonTheme_.reset(OpenThemeData(handle_, VSCLASS_BUTTON));
+  if (!buttonTheme_) buttonTheme_.reset(openTheme(handle_, VSCLASS_BUTTON));
   return buttonTheme_.get();
 }
 

@@ -61,6 +61,18 @@ TEST_F(NativeWindow, UserWhoMovesItKeepsTheDigitsOfItsSize) {
   EXPECT_EQ(window_->bounds(), (Rect{1500, 302, 6203, 3804}));
 }
 
+// The title bar and the taskbar show the picture that was drawn for that size.
+TEST_F(NativeWindow, SmallIconHasTheSmallSize) {
+  const auto icon = reinterpret_cast<HICON>(GetClassLongPtrW(handleOf(*window_), GCLP_HICONSM));
+  ICONINFO info = {};
+  ASSERT_TRUE(GetIconInfo(icon, &info));
+  BITMAP picture = {};
+  GetObjectW(info.hbmColor, sizeof picture, &picture);
+  DeleteObject(info.hbmColor);
+  DeleteObject(info.hbmMask);
+  EXPECT_EQ(picture.bmWidth, GetSystemMetrics(SM_CXSMICON));
+}
+
 TEST_F(NativeWindow, MinimizedWindowKeepsItsPlace) {
   const Rect before = window_->bounds();
   window_->setState(controls::WindowState::Minimized);

@@ -12,6 +12,7 @@ struct Driver::Entry {
 
 const Driver::Entry Driver::kCommands[] = {
     {"start", &Driver::start},
+    {"crash", &Driver::crash},
     {"close", &Driver::close},
     {"askclose", &Driver::askToClose},
     {"endsession", &Driver::endSession},
@@ -118,6 +119,12 @@ void Driver::start(Command& command) {
   command.end();
   if (stage_.running()) throw CommandError("the program runs already");
   stage_.start(name);
+}
+
+void Driver::crash(Command& command) {
+  command.end();
+  requireRunning();
+  stage_.crash();
 }
 
 void Driver::close(Command& command) {

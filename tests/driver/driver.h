@@ -30,6 +30,7 @@ class Driver {
   void carryOut(Command& command);
 
   void start(Command& command);
+  void crash(Command& command);
   void close(Command& command);
   void askToClose(Command& command);
   void endSession(Command& command);

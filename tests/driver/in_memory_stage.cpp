@@ -15,6 +15,11 @@ void InMemoryStage::start(const std::string& name) {
   app_->start();
 }
 
+void InMemoryStage::crash() {
+  desktop_.tapeSafe().lose();
+  app_.reset();
+}
+
 void InMemoryStage::keyDown(const controls::KeyStroke& stroke, controls::KeyAscii character) {
   keyboard_.down(stroke, character);
 }
@@ -129,8 +134,10 @@ Json InMemoryStage::takeEvents() {
                      {"icon", box.icon == controls::Icon::None ? "none" : "question"},
                      {"answer", answer}});
   Json launches = Json::array();
-  for (const auto& [program, keys] : desktop_.launches)
+  for (const auto& [program, keys, text] : desktop_.launches) {
     launches.push_back({{"program", program}, {"keys", keys}});
+    if (text) launches.back()["text"] = *text;
+  }
   Json help = Json::array();
   for (const auto& request : desktop_.helpRequests) {
     const bool winHelp = request.caller == controls::HelpRequest::Caller::WinHelp;

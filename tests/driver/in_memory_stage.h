@@ -16,6 +16,7 @@ class InMemoryStage : public Stage {
   controls::Window* findWindow(std::string_view name) override;
   bool running() override { return app_ && !app_->ended(); }
   void start(const std::string& name) override;
+  void crash() override;
   void close(controls::Window& window) override { window.requestClose(); }
   void bringToFront(controls::Window& window) override { window.noteActivated(); }
   void keyDown(const controls::KeyStroke& stroke, controls::KeyAscii character) override;

@@ -10,6 +10,7 @@ namespace driver {
 
 NativeDesktop::NativeDesktop(NativeBoxes& boxes) : boxes_(boxes), settings_("") {
   setProgramName("Tallyrex");
+  loseTape();
 }
 
 void NativeDesktop::setProgramName(const std::string& name) {
@@ -32,25 +33,50 @@ bool NativeDesktop::startProgram(const std::string& program) {
   const std::vector<HWND> before = windowsOfOthers();
   if (!win32::Desktop::startProgram(program)) return false;
   std::ranges::copy(windowsSince(before), std::back_inserter(launched_));
-  happenings_.launches.push_back({program, ""});
+  happenings_.launches.push_back({program, "", {}});
   return true;
 }
 
 // The keys count when what they paste has come to the other window.
 bool NativeDesktop::startProgramAndPaste(const std::string& program) {
   const std::vector<HWND> before = windowsOfOthers();
-  if (!win32::Desktop::startProgramAndPaste(program)) return false;
+  starting_ = true;
+  const bool started = win32::Desktop::startProgramAndPaste(program);
+  if (!started) {
+    starting_ = false;
+    return false;
+  }
   bool pasted = false;
   for (HWND window : windowsSince(before)) {
     launched_.push_back(window);
     pasted = pasted || waitForText(window);
   }
-  happenings_.launches.push_back({program, pasted ? "^V" : ""});
+  happenings_.launches.push_back({program, pasted ? "^V" : "", {}});
+  starting_ = false;
+  return true;
+}
+
+// The text counts when it has come to the window of the program that was started.
+bool NativeDesktop::openText(const std::string& program, std::string_view text) {
+  const std::vector<HWND> before = windowsOfOthers();
+  if (!win32::Desktop::openText(program, text)) return false;
+  const HWND window = waitForWindowSince(before);
+  if (window) launched_.push_back(window);
+  happenings_.launches.push_back({program, "", textShownIn(window)});
   return true;
 }
 
 void NativeDesktop::showHelp(const controls::HelpRequest& request) {
   happenings_.helpRequests.push_back(request);
+}
+
+void NativeDesktop::loseTape() {
+  tapeSafe_.emplace(win32::tapeFolder("TallyrexDriver"));
+}
+
+void NativeDesktop::clearTapes() {
+  tapeSafe_->lostTapes();
+  tapeSafe_->forgetLostTapes();
 }
 
 void NativeDesktop::closeLaunched() {

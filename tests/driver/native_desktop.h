@@ -1,5 +1,7 @@
 #pragma once
 
+#include <atomic>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -13,6 +15,7 @@ namespace driver {
 struct Launch {
   std::string program;
   std::string keys;
+  std::optional<std::string> text;
 };
 
 /// What the program asked of the desktop besides message boxes.
@@ -31,15 +34,23 @@ class NativeDesktop : public win32::Desktop {
   int showMessage(const controls::UserMessage& box) override;
   void beep() override;
   bool startProgram(const std::string& program) override;
+  bool openText(const std::string& program, std::string_view text) override;
   bool startProgramAndPaste(const std::string& program) override;
   void showHelp(const controls::HelpRequest& request) override;
   common::SettingsStore& settings() override { return settings_; }
+  controls::TapeSafe& tapeSafe() override { return *tapeSafe_; }
   std::string programName() override { return name_; }
   /// The place of an installed program, wherever the driver is.
   std::string programFolder() override { return "C:\\Tallyrex"; }
 
   /// The executable's name, under which the settings are kept.
   void setProgramName(const std::string& name);
+  /// Whether a program is being started, which the windows do not wait for.
+  bool isStarting() const { return starting_; }
+  /// What keeps the tape is gone as when the process ends.
+  void loseTape();
+  /// Drops the tapes that earlier drivers, or a crash, have left behind.
+  void clearTapes();
   /// Closes the windows of the programs that were started.
   void closeLaunched();
 
@@ -51,7 +62,9 @@ class NativeDesktop : public win32::Desktop {
   Happenings happenings_;
   std::string name_;
   win32::RegistrySettings settings_;
+  std::optional<win32::TapeSafe> tapeSafe_;
   std::vector<HWND> launched_;
+  std::atomic<bool> starting_ = false;
 };
 
 }  // namespace driver

@@ -5,6 +5,7 @@
 #include "driver/native_handles.h"
 #include "support/wait.h"
 #include "support/windows.h"
+#include "win32/text.h"
 
 namespace driver {
 
@@ -55,6 +56,22 @@ bool waitForText(HWND window) {
         return box && support::ask(box, WM_GETTEXTLENGTH) > 0;
       },
       kPatience);
+}
+
+HWND waitForWindowSince(const std::vector<HWND>& before) {
+  std::vector<HWND> windows;
+  const bool shown =
+      support::eventually([&] { return !(windows = windowsSince(before)).empty(); }, kPatience);
+  return shown ? windows.front() : nullptr;
+}
+
+std::string textShownIn(HWND window) {
+  if (!waitForText(window)) return {};
+  HWND box = textBoxOf(window);
+  std::wstring text(static_cast<std::size_t>(support::ask(box, WM_GETTEXTLENGTH)) + 1, L'\0');
+  text.resize(static_cast<std::size_t>(
+      SendMessageW(box, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()))));
+  return win32::narrow(text);
 }
 
 void closeUnsaved(HWND window) {

@@ -14,6 +14,10 @@ std::vector<HWND> windowsSince(const std::vector<HWND>& before);
 
 /// Waits until a text has come to the text box of the window. False when none comes.
 bool waitForText(HWND window);
+/// Waits until a window of another program has opened, and gives it; null when none comes.
+HWND waitForWindowSince(const std::vector<HWND>& before);
+/// The text in the text box of the window, once it has come there; empty when none comes.
+std::string textShownIn(HWND window);
 /// Closes a window whose text nobody wants to keep.
 void closeUnsaved(HWND window);
 

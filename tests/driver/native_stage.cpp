@@ -33,10 +33,13 @@ void sendInputs(std::vector<INPUT> inputs) {
 NativeStage::NativeStage() {
   support::setClipboardText({}, ui_.window());
   clearAllStored();
+  desktop_.clearTapes();
 }
 
 NativeStage::~NativeStage() {
   desktop_.closeLaunched();
+  desktop_.tapeSafe().clear();
+  desktop_.clearTapes();
   clearAllStored();
 }
 
@@ -63,9 +66,12 @@ bool NativeStage::running() {
 void NativeStage::settle() {
   const ULONGLONG start = GetTickCount64();
   ULONGLONG marked = start;
+  bool starting = false;
   for (;;) {
     const bool reached = ui_.waitUntilReached(kGlance);
-    if (boxes_.attend()) {
+    // Also once more behind the start of a program, during which marks pass as well.
+    const bool wasStarting = std::exchange(starting, desktop_.isStarting());
+    if (boxes_.attend() || starting || wasStarting) {
       // The box itself may have let the mark pass: the handler behind it goes on from here.
       ui_.post([] {});
     } else if (reached) {
@@ -170,6 +176,14 @@ void NativeStage::start(const std::string& name) {
     desktop_.setProgramName(name);
     app_ = std::make_unique<app::Application>(desktop_);
     app_->start();
+  });
+}
+
+// A process that ends lets go of its files, and its windows are gone.
+void NativeStage::crash() {
+  act([&] {
+    desktop_.loseTape();
+    app_.reset();
   });
 }
 

@@ -33,6 +33,7 @@ class NativeStage : public Stage {
   controls::Window* findWindow(std::string_view name) override;
   bool running() override;
   void start(const std::string& name) override;
+  void crash() override;
   void close(controls::Window& window) override;
   void bringToFront(controls::Window& window) override;
   void keyDown(const controls::KeyStroke& stroke, controls::KeyAscii character) override;

@@ -55,8 +55,10 @@ Json NativeStage::takeEvents() {
   Happenings happenings;
   inspect([&] { happenings = desktop_.takeHappenings(); });
   Json launches = Json::array();
-  for (const auto& [program, keys] : happenings.launches)
+  for (const auto& [program, keys, text] : happenings.launches) {
     launches.push_back({{"program", program}, {"keys", keys}});
+    if (text) launches.back()["text"] = *text;
+  }
   Json help = Json::array();
   for (const auto& request : happenings.helpRequests) {
     const bool winHelp = request.caller == controls::HelpRequest::Caller::WinHelp;

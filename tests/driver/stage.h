@@ -28,6 +28,8 @@ class Stage {
 
   virtual bool running() = 0;
   virtual void start(const std::string& name) = 0;
+  /// Ends the program as a crash does: it does nothing more, and saves nothing.
+  virtual void crash() = 0;
   virtual void close(controls::Window& window) = 0;
   virtual void bringToFront(controls::Window& window) = 0;
 

@@ -18,6 +18,9 @@ CARELESS = pathlib.Path(os.environ["TALLYREX_CARELESS"])
 LOADED_BY_WINDOWS = {"cryptbase.dll", "dwmapi.dll", "hhctrl.ocx", "msctf.dll", "msftedit.dll",
                      "oleacc.dll", "profapi.dll", "propsys.dll", "riched20.dll", "textshaping.dll",
                      "uxtheme.dll", "version.dll", "windows.storage.dll", "winmm.dll"}
+# Those that Windows takes from its own folder whatever lies elsewhere.
+KNOWN_TO_WINDOWS = {"advapi32.dll", "comdlg32.dll", "gdi32.dll", "imm32.dll", "kernel32.dll",
+                    "msvcrt.dll", "ole32.dll", "oleaut32.dll", "shell32.dll", "user32.dll"}
 PROGRAMS = ["notepad.exe", "winhlp32.exe", "hh.exe", "msinfo32.exe", "explorer.exe"]
 FILE_NAME = r"[A-Za-z0-9_.-]{1,30}\.(?:dll|ocx|drv)"
 MAIN_WINDOW = "Tallyrex$"
@@ -77,6 +80,23 @@ class PlantedFiles(unittest.TestCase):
         process = self.start(self.program)
         account.wait_for_window(MAIN_WINDOW)
         account.write("12+")
+        account.press("alt+F4")
+        self.assertEqual(process.wait(30), 0)
+        self.assertEqual(self.marked(), set())
+
+    def test_no_library_is_taken_from_beside_the_program(self):
+        """As where the archive was unpacked among whatever else was downloaded."""
+        names = names_in(self.program.read_bytes()) - KNOWN_TO_WINDOWS
+        self.assertIn("uxtheme.dll", names)
+        for name in names:
+            shutil.copy(LIBRARY, self.program.parent / name)
+        process = self.start(self.program)
+        account.wait_for_window(MAIN_WINDOW)
+        account.write("12+")
+        account.press("alt+h", "a")
+        account.wait_for_window("^About Tallyrex")
+        account.press("Escape")
+        account.wait_for_window(MAIN_WINDOW)
         account.press("alt+F4")
         self.assertEqual(process.wait(30), 0)
         self.assertEqual(self.marked(), set())

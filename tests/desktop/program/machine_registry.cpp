@@ -29,6 +29,14 @@ void MachineKey::setUnterminated(const std::wstring& name, const std::wstring& t
   put(name, REG_SZ, text.data(), text.size() * sizeof(wchar_t));
 }
 
+void MachineKey::setExpandable(const std::wstring& name, const std::wstring& text) {
+  put(name, REG_EXPAND_SZ, text.c_str(), (text.size() + 1) * sizeof(wchar_t));
+}
+
+void MachineKey::setWithAnOddSize(const std::wstring& name, const std::wstring& text) {
+  put(name, REG_SZ, text.c_str(), text.size() * sizeof(wchar_t) + 1);
+}
+
 void MachineKey::set(const std::wstring& name, DWORD number) {
   put(name, REG_DWORD, &number, sizeof number);
 }

@@ -20,6 +20,10 @@ class MachineKey {
   void set(const std::wstring& name, const std::wstring& text);
   /// Without the zero that ends a text.
   void setUnterminated(const std::wstring& name, const std::wstring& text);
+  /// With names of environment variables between percent signs.
+  void setExpandable(const std::wstring& name, const std::wstring& text);
+  /// With half a character behind it.
+  void setWithAnOddSize(const std::wstring& name, const std::wstring& text);
   void set(const std::wstring& name, DWORD number);
   void remove(const std::wstring& name);
 

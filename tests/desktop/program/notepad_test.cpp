@@ -1,5 +1,8 @@
+#include <algorithm>
+
 #include "desktop/program/other_program.h"
 #include "desktop/program/program_test.h"
+#include "desktop/program/replaced_notepad.h"
 #include "support/clipboard.h"
 
 namespace program {
@@ -55,6 +58,40 @@ class NotepadTest : public ProgramTest {
     expectMessage(kNote);
     answer(VK_RETURN);
     expectInNotepad(tape);
+  }
+
+  /// The message comes, and the clipboard keeps the tape.
+  void expectFailure() {
+    start();
+    const std::wstring tape = makeTape(10);
+    pressWith(VK_CONTROL, 'N');
+    expectMessage(kNote);
+    answer(VK_RETURN);
+    expectMessage(L"Error finding or displaying NotePad.exe");
+    EXPECT_EQ(clipboardText(), tape);
+    answer(VK_RETURN);
+    type("5");
+    expectText(program().entry(), L"5");
+  }
+
+  /// As the user starts it.
+  static void startNotepad() {
+    STARTUPINFOW startup = {};
+    startup.cb = sizeof startup;
+    PROCESS_INFORMATION process = {};
+    std::wstring command = L"notepad.exe";
+    if (!CreateProcessW(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
+                        &startup, &process))
+      throw NotSeen("Notepad");
+    CloseHandle(process.hThread);
+    CloseHandle(process.hProcess);
+  }
+
+  static void bringToFront(HWND window) {
+    await("a window in front", [window] {
+      SetForegroundWindow(window);
+      return GetForegroundWindow() == window;
+    });
   }
 
   void expectFileMenuToOfferNotepad(std::string_view letter, const wchar_t* title) {
@@ -117,6 +154,62 @@ TEST_F(NotepadTest, KeepsItsKeysWhileAnotherProgramTakesTheFront) {
   EXPECT_EQ(other.text(), L"");
   EXPECT_EQ(clipboardText(), tape);
   answer(VK_RETURN);
+}
+
+// What is typed while Notepad is awaited goes into the entry box, and the command is not carried
+// out twice.
+TEST_F(NotepadTest, AMissingOneIsReported) {
+  ReplacedNotepad notepad;
+  if (!notepad.byNothing()) GTEST_SKIP() << "the system's Notepad cannot be removed";
+  expectFailure();
+}
+
+TEST_F(NotepadTest, OneWhoseWindowClosesAtOnceIsReported) {
+  ReplacedNotepad notepad;
+  if (!notepad.with(L"vanishing")) GTEST_SKIP() << "the system's Notepad cannot be replaced";
+  expectFailure();
+}
+
+TEST_F(NotepadTest, OneThatIsOpenWithATextInItKeepsThatText) {
+  start();
+  const std::wstring tape = makeTape(10);
+  startNotepad();
+  const HWND old = awaitWindow("Notepad", [this] { return openedWindow(L"Notepad"); });
+  const HWND note = awaitWindow("its text", [old] { return childOfClass(old, L"Edit"); });
+  bringToFront(old);
+  type("99");
+  expectText(note, L"99");
+  bringToFront(program().mainWindow());
+  awaitRest();
+  pressWith(VK_CONTROL, 'N');
+  expectMessage(kNote);
+  answer(VK_RETURN);
+  HWND fresh = nullptr;
+  await("another Notepad", [&] {
+    for (HWND window : shownWindows())
+      if (classOf(window) == L"Notepad" && window != old) fresh = window;
+    return fresh && textOf(childOfClass(fresh, L"Edit")) == tape;
+  });
+  EXPECT_EQ(textOf(note), L"99");
+}
+
+// As where one window holds all documents: the starter hands over to it, and ends.
+TEST_F(NotepadTest, ATextInTheWindowThatComesToTheFrontIsLeftAlone) {
+  ReplacedNotepad notepad;
+  if (!notepad.with(L"tabbed")) GTEST_SKIP() << "the system's Notepad cannot be replaced";
+  startNotepad();
+  const HWND window = awaitWindow("the note", [this] { return openedWindow(L"Notepad"); });
+  const HWND note = awaitWindow("its text", [window] { return childOfClass(window, L"Edit"); });
+  start();
+  const std::wstring tape = makeTape(10);
+  pressWith(VK_CONTROL, 'N');
+  expectMessage(kNote);
+  answer(VK_RETURN);
+  await("the tape in a text beside the note", [&] {
+    const std::vector<HWND> texts = shownChildren(window);
+    return std::ranges::any_of(texts, [&](HWND text) { return textOf(text) == tape; });
+  });
+  EXPECT_EQ(textOf(note), L"an old note");
 }
 
 }  // namespace

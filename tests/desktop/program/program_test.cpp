@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "desktop/program/kept_tapes.h"
 #include "support/retries.h"
 
 namespace program {
@@ -16,6 +17,7 @@ TestedProgram* ProgramTest::program_ = nullptr;
 
 void ProgramTest::SetUp() {
   settings_.clear();
+  clearKeptTapes(program_->name());
   shownBefore_ = shownWindows();
 }
 
@@ -24,6 +26,7 @@ void ProgramTest::TearDown() {
   for (const auto* other : {L"Notepad", L"MS_WINHELP"})
     while (const HWND window = openedWindow(other)) endProcessOf(window);
   settings_.clear();
+  clearKeptTapes(program_->name());
 }
 
 void ProgramTest::close() {

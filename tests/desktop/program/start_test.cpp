@@ -82,5 +82,24 @@ TEST_F(StartTest, ClosedWhileMinimizedItComesUpAsItWasBefore) {
   EXPECT_FALSE(isPressed(L"Tape off"));
 }
 
+// As a shortcut may say of its window.
+TEST_F(StartTest, StartsMinimizedWhereTheStarterSaysSo) {
+  for (const int show : {SW_SHOWMINNOACTIVE, SW_SHOWMINIMIZED}) {
+    program().launch(static_cast<WORD>(show));
+    await("the window as an icon",
+          [] { return program().mainWindow() && IsIconic(program().mainWindow()); });
+    program().kill();
+  }
+}
+
+TEST_F(StartTest, StartsMaximizedWhereTheStarterSaysSo) {
+  program().launch(SW_SHOWMAXIMIZED);
+  await("the window over the whole screen",
+        [] { return program().mainWindow() && IsZoomed(program().mainWindow()); });
+  EXPECT_TRUE(eventually([] { return program().focus() == program().entry(); }));
+  type("5");
+  expectText(program().entry(), L"5");
+}
+
 }  // namespace
 }  // namespace program

@@ -90,6 +90,22 @@ TEST_F(SystemInfoTest, TakesANameStoredWithoutItsEnd) {
   expectStandIn();
 }
 
+TEST_F(SystemInfoTest, TakesANameWithHalfACharacterBehindIt) {
+  path().setWithAnOddSize(L"PATH", program().file());
+  askForSystemInfo();
+  expectStandIn();
+}
+
+TEST_F(SystemInfoTest, ExpandsAnExpandableName) {
+  const std::wstring file = program().file();
+  const auto separator = file.rfind(L'\\');
+  SetEnvironmentVariableW(L"TALLYREX_TEST_FOLDER", file.substr(0, separator).c_str());
+  path().setExpandable(L"PATH", L"%TALLYREX_TEST_FOLDER%" + file.substr(separator));
+  askForSystemInfo();
+  expectStandIn();
+  SetEnvironmentVariableW(L"TALLYREX_TEST_FOLDER", nullptr);
+}
+
 TEST_F(SystemInfoTest, StartsTheProgramInTheFolderThatTheRegistryNames) {
   location().set(L"MSINFO", makeFolder());
   askForSystemInfo();

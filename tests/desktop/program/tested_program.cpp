@@ -31,7 +31,8 @@ HWND lineBox(HWND window, bool leftmost) {
 TestedProgram::TestedProgram(const std::wstring& program, const std::wstring& help) {
   wchar_t temporary[MAX_PATH] = L"";
   GetTempPathW(MAX_PATH, temporary);
-  folder_ = temporary + name_ + std::to_wstring(GetCurrentProcessId());
+  // Users have folders with all kinds of letters in their names.
+  folder_ = temporary + name_ + std::to_wstring(GetCurrentProcessId()) + L" Z\u00E4hler \u8A08";
   CreateDirectoryW(folder_.c_str(), nullptr);
   program_ = folder_ + L"\\" + name_ + L".exe";
   help_ = folder_ + L"\\" + name_ + L".hlp";
@@ -51,9 +52,13 @@ TestedProgram::~TestedProgram() {
   });
 }
 
-void TestedProgram::launch() {
+void TestedProgram::launch(WORD show) {
   STARTUPINFOW startup = {};
   startup.cb = sizeof startup;
+  if (show != SW_SHOWDEFAULT) {
+    startup.dwFlags = STARTF_USESHOWWINDOW;
+    startup.wShowWindow = show;
+  }
   PROCESS_INFORMATION started = {};
   std::wstring commandLine = L"\"" + program_ + L"\"";
   if (!CreateProcessW(program_.c_str(), commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr,
@@ -95,6 +100,25 @@ void TestedProgram::kill() {
   CloseHandle(process_);
   process_ = nullptr;
   processId_ = 0;
+}
+
+void TestedProgram::runAt(ULONG_PTR address) const {
+  const HANDLE thread = CreateRemoteThread(
+      process_, nullptr, 0, reinterpret_cast<LPTHREAD_START_ROUTINE>(address), nullptr, 0, nullptr);
+  if (!thread) throw NotSeen("a thread in the program");
+  CloseHandle(thread);
+}
+
+// The library lies at the same place in every process.
+bool TestedProgram::takeMemory() const {
+  const HMODULE library = GetModuleHandleW(L"msvcrt.dll");
+  if (!library) return false;
+  void* give = reinterpret_cast<void*>(GetProcAddress(library, "malloc"));
+  // xor eax, eax; ret
+  constexpr BYTE kNothing[] = {0x31, 0xC0, 0xC3};
+  DWORD before = 0;
+  return VirtualProtectEx(process_, give, sizeof kNothing, PAGE_EXECUTE_READWRITE, &before) &&
+         WriteProcessMemory(process_, give, kNothing, sizeof kNothing, nullptr);
 }
 
 bool TestedProgram::owns(HWND window) const {

@@ -21,8 +21,8 @@ class TestedProgram {
   const std::wstring& file() const { return program_; }
   const std::wstring& helpFile() const { return help_; }
 
-  /// Starts it, and does not wait.
-  void launch();
+  /// Starts it, and does not wait. Its window is to be shown as SW_... says.
+  void launch(WORD show = SW_SHOWDEFAULT);
   /// Starts it, and waits until keys go to the entry box.
   void start();
   bool running() const;
@@ -32,6 +32,10 @@ class TestedProgram {
   DWORD exitCode() const;
   /// Ends it, whatever it shows.
   void kill();
+  /// Has a thread of it run at an address, where nothing is.
+  void runAt(ULONG_PTR address) const;
+  /// From now on it is given no memory. False where what gives it cannot be found from here.
+  bool takeMemory() const;
   bool owns(HWND window) const;
 
   /// Null while it is not shown.

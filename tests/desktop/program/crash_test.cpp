@@ -1,0 +1,114 @@
+#include "desktop/program/kept_tapes.h"
+#include "desktop/program/machine_registry.h"
+#include "desktop/program/program_test.h"
+
+namespace program {
+namespace {
+
+constexpr wchar_t kQuestion[] =
+    L"Tallyrex did not end normally the last time.  Its tape was kept.  Open it in Notepad?";
+constexpr int kPostings = 1000;
+
+// What ends the program is done to the process itself; what is seen afterwards is what its user
+// sees.
+class CrashTest : public ProgramTest {
+ protected:
+  /// Posts a thousand amounts, and gives the tape with them.
+  std::wstring postAThousand() {
+    start();
+    std::string keys;
+    std::wstring last;
+    for (int amount = 1; amount <= kPostings; ++amount) keys += std::to_string(amount) + "+";
+    chooseFromMenu('W', "OA");
+    type(keys);
+    last = std::to_wstring(kPostings) + L".00 + ";
+    await("the last posting", [&] { return textOf(program().tape()).ends_with(last); });
+    const std::wstring tape = textOf(program().tape());
+    EXPECT_TRUE(tape.starts_with(L"Top\r\n1.00 + \r\n2.00 + ")) << tape.size();
+    return tape;
+  }
+
+  /// Starts the program again, which asks its question once its window is there.
+  void startAgain() {
+    program().launch();
+    awaitDialog();
+    EXPECT_NE(program().mainWindow(), nullptr);
+    expectMessage(kQuestion);
+  }
+
+  std::wstring textInNotepad() {
+    const HWND text = awaitWindow("Notepad", [this] {
+      const HWND notepad = openedWindow(L"Notepad");
+      return notepad ? childOfClass(notepad, L"Edit") : nullptr;
+    });
+    eventually([text] { return !textOf(text).empty(); });
+    return textOf(text);
+  }
+
+  void expectInNotepad(const std::wstring& tape) {
+    startAgain();
+    answer('Y');
+    const std::wstring opened = textInNotepad();
+    EXPECT_TRUE(opened.starts_with(tape))
+        << opened.size() << " characters instead of " << tape.size();
+    EXPECT_TRUE(eventually([] { return keptTapes(program().name()).empty(); }));
+  }
+};
+
+TEST_F(CrashTest, TheTapeOfAProcessThatWasEndedOpensInNotepad) {
+  const std::wstring tape = postAThousand();
+  EXPECT_EQ(keptTapes(program().name()).size(), 1u);
+  program().kill();
+  expectInNotepad(tape);
+  // The new run begins as always, and nothing is asked a second time.
+  expectText(program().tape(), L"Top");
+  close();
+  start();
+  EXPECT_EQ(program().dialog(), nullptr);
+}
+
+TEST_F(CrashTest, TheTapeOfAProcessThatRanIntoRubbishOpensInNotepad) {
+  // Nobody is to be asked about the crash: the process is to end.
+  MachineKey debugger(L"SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion\\AeDebug");
+  if (!debugger.isWritable()) GTEST_SKIP() << "only an administrator can say what follows a crash";
+  debugger.set(L"Debugger", L"none %ld %ld");
+  const std::wstring tape = postAThousand();
+  program().runAt(0x10);
+  program().awaitEnd();
+  program().kill();
+  expectInNotepad(tape);
+}
+
+TEST_F(CrashTest, TheTapeOfAProcessWithoutMemoryOpensInNotepad) {
+  const std::wstring tape = postAThousand();
+  if (!program().takeMemory()) GTEST_SKIP() << "its memory is not given by a library of its own";
+  type("1+");
+  await("the end of the program, or its message",
+        [] { return !program().running() || program().dialog(); });
+  program().kill();
+  expectInNotepad(tape);
+}
+
+TEST_F(CrashTest, NoIsAskedOnceToo) {
+  start();
+  type("12+");
+  await("a kept tape", [] { return keptTapes(program().name()).size() == 1; });
+  program().kill();
+  startAgain();
+  answer('N');
+  await("no kept tape", [] { return keptTapes(program().name()).empty(); });
+  type("7");
+  expectText(program().entry(), L"7");
+  EXPECT_EQ(openedWindow(L"Notepad"), nullptr);
+}
+
+TEST_F(CrashTest, ANormalEndLeavesNothingBehind) {
+  start();
+  type("12+");
+  await("a kept tape", [] { return keptTapes(program().name()).size() == 1; });
+  close();
+  EXPECT_TRUE(keptTapes(program().name()).empty());
+}
+
+}  // namespace
+}  // namespace program
