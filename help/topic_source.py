@@ -139,7 +139,11 @@ def load_topics(folder):
         parse_topic(path.stem, path.read_text(encoding="utf-8"))
         for path in sorted(Path(folder).glob("*.md"))
     ]
-    return sorted(topics, key=lambda topic: topic.number)
+    # A chapter stands where its first topic does, whenever its others were added.
+    first = {}
+    for topic in sorted(topics, key=lambda topic: topic.number):
+        first.setdefault(topic.chapter, topic.number)
+    return sorted(topics, key=lambda topic: (first[topic.chapter], topic.number))
 
 
 def _names(values):

@@ -55,7 +55,7 @@ class HelpTest : public ProgramTest {
 
   /// What the viewer shows when it is asked for it; empty without a viewer.
   Page pageOf(UINT command, ULONG_PTR data) {
-    if (!WinHelpW(GetDesktopWindow(), program().helpFile().c_str(), command, data)) return {};
+    if (!WinHelpW(GetDesktopWindow(), pathForViewer().c_str(), command, data)) return {};
     const HWND viewer = awaitViewer();
     // It is complete when it stays the same for a while.
     constexpr ULONGLONG kRest = 1000;
@@ -69,6 +69,14 @@ class HelpTest : public ProgramTest {
     });
     endProcessOf(viewer);
     return page;
+  }
+
+  // The viewer reads no letters beyond those of every code page, and the program lies in a folder
+  // that has some.
+  static std::wstring pathForViewer() {
+    wchar_t path[MAX_PATH] = L"";
+    GetShortPathNameW(program().helpFile().c_str(), path, MAX_PATH);
+    return path;
   }
 
   // Text in several colours stands on every page.
