@@ -21,12 +21,11 @@ namespace {
 #ifdef __GLIBCXX__
 // In the place of the library's own, which brings a decoder of names and the printing of text
 // along.
-namespace __cxxabiv1 {
-extern std::terminate_handler __terminate_handler;
-std::terminate_handler __terminate_handler = endUncaught;
-}  // namespace __cxxabiv1
+void __gnu_cxx::__verbose_terminate_handler() {
+  endUncaught();
+}
 #else
 namespace {
-const std::terminate_handler kLibrarys = std::set_terminate(endUncaught);
+const std::terminate_handler kReplaced = std::set_terminate(endUncaught);
 }
 #endif

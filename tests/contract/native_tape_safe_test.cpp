@@ -136,25 +136,5 @@ TEST_F(NativeTapeSafe, WithoutAPlaceForItTheTapeIsNotKept) {
   }
 }
 
-// As where the disk is full: what came before is kept, and nothing stands behind a gap.
-TEST_F(NativeTapeSafe, KeepsWhatCameBeforeTheDiskFailed) {
-  {
-    win32::TapeSafe run(folder_);
-    post(run, "\r\n1.00 + ");
-    const HANDLE file = CreateFileW(files().at(0).c_str(), GENERIC_READ | GENERIC_WRITE,
-                                    FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
-                                    OPEN_EXISTING, 0, nullptr);
-    LARGE_INTEGER size = {};
-    GetFileSizeEx(file, &size);
-    // Where it goes on, nobody else may write.
-    ASSERT_TRUE(LockFile(file, size.LowPart, 0, 1000, 0));
-    run.record({.start = 12, .inserted = "\r\n2.00 + "});
-    UnlockFile(file, size.LowPart, 0, 1000, 0);
-    run.record({.start = 21, .inserted = "\r\n3.00 + "});
-    CloseHandle(file);
-  }
-  EXPECT_EQ(lostTapes(), "Top\r\n1.00 + ");
-}
-
 }  // namespace
 }  // namespace contract
