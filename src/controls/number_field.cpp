@@ -44,7 +44,7 @@ void NumberField::dropLeadingCommas() {
 void NumberField::dropSeparatorsBehindPoint() {
   const std::u16string text = common::toUtf16(box_.text());
   const std::size_t point = std::min(text.find(u'.'), text.size());
-  const std::size_t caret = static_cast<std::size_t>(box_.selStart());
+  const auto caret = static_cast<std::size_t>(box_.selStart());
   const auto behindPoint = text.begin() + static_cast<std::ptrdiff_t>(point);
   const auto atCaret = text.begin() + static_cast<std::ptrdiff_t>(std::max(caret, point));
   const auto passed = std::count(behindPoint, atCaret, u',');
