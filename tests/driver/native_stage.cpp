@@ -1,5 +1,6 @@
 #include "driver/native_stage.h"
 
+#include <chrono>
 #include <exception>
 #include <utility>
 
@@ -21,6 +22,7 @@ constexpr DWORD kGlance = 2;
 constexpr DWORD kPatience = 30000;
 // No mark takes that long while the program is in front.
 constexpr DWORD kMarkIsLate = 200;
+constexpr auto kLoopIsInner = std::chrono::milliseconds(200);
 
 void sendInputs(std::vector<INPUT> inputs) {
   const auto count = static_cast<UINT>(inputs.size());
@@ -45,10 +47,14 @@ NativeStage::~NativeStage() {
 
 void NativeStage::run() {
   win32::runMessageLoop(desktop_);
+  ended_.set_value();
 }
 
+// A loop of the system's, as while the frame of a window is dragged, takes the end for its own.
 void NativeStage::end() {
-  ui_.post(win32::endMessageLoop);
+  std::future<void> ended = ended_.get_future();
+  do ui_.post(win32::endMessageLoop);
+  while (ended.wait_for(kLoopIsInner) == std::future_status::timeout);
 }
 
 controls::Window* NativeStage::findWindow(std::string_view name) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <future>
 #include <memory>
 
 #include "app/application.h"
@@ -89,6 +90,7 @@ class NativeStage : public Stage {
   NativeDesktop desktop_{boxes_};
   NativeKeyboard keyboard_;
   std::unique_ptr<app::Application> app_;
+  std::promise<void> ended_;
 };
 
 }  // namespace driver

@@ -102,13 +102,13 @@ void NativeStage::clickSurely(POINT place) {
 }
 
 // A control that the mouse cannot reach, since it lies outside the window or the screen, gets the
-// messages that the mouse would have sent.
+// messages that the mouse would have sent. One that has gone with the first click gets no second.
 void NativeStage::clickWithMouse(controls::Control& control, int times) {
   putInFront(control.window());
   HWND handle = handleOf(control);
   POINT place = {};
   if (placeToClick(handle, place)) {
-    for (int i = 0; i < times; ++i) clickSurely(place);
+    for (int i = 0; i < times && WindowFromPoint(place) == handle; ++i) clickSurely(place);
     return;
   }
   deliver(handle, WM_LBUTTONDOWN, MK_LBUTTON, 0);
