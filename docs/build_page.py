@@ -94,7 +94,7 @@ def page(address):
     number = version()
     folder = "%s/releases/download/v%s" % (address.rstrip("/"), number)
     return text_of("docs/page.html.in").format(
-        style=text_of("docs/page.css"), introduction=introduction(), features=features(), version=number,
+        style=text_of("help/base.css") + text_of("docs/page.css"), introduction=introduction(), features=features(), version=number,
         setup="%s/Tallyrex-%s-setup.exe" % (folder, number), archive="%s/Tallyrex-%s-portable.zip" % (folder, number),
         sums=folder + "/SHA256SUMS", address=address,
         main_window=picture("main-window", "The main window: keys and entry box on the left, the tape on the right"),

@@ -3,6 +3,7 @@
 from dataclasses import dataclass, field
 
 from hlp_encoding import context_hash, packed_long, packed_signed, packed_unsigned, u16, u32
+from tape_sample import NOTE, TAKEN_OFF, TOTAL, tape_lines
 from topic_source import (
     BOLD,
     CODE,
@@ -18,9 +19,10 @@ from topic_source import (
     Table,
 )
 
-BODY_FONT, BOLD_FONT, CODE_FONT, TITLE_FONT, HEADING_FONT = range(5)
+BODY_FONT, BOLD_FONT, CODE_FONT, TITLE_FONT, HEADING_FONT, TOTAL_FONT, TAKEN_OFF_FONT, NOTE_FONT = range(8)
 _FACES = ("Arial", "Courier New")
 _INK, _TITLE_INK = (1, 1, 0), (31, 58, 95)  # 1, 1, 0 is the viewer's own text colour.
+_TAKEN_OFF_INK, _NOTE_INK = (192, 20, 20), (112, 112, 112)
 _SWISS, _MODERN = 3, 1
 _BOLD_BIT = 1
 # Bits, half-points, family, face, colour; in the order of the numbers above.
@@ -30,8 +32,12 @@ _DESCRIPTORS = (
     (0, 20, _MODERN, 1, _INK),
     (_BOLD_BIT, 32, _SWISS, 0, _TITLE_INK),
     (_BOLD_BIT, 24, _SWISS, 0, _TITLE_INK),
+    (_BOLD_BIT, 20, _MODERN, 1, _INK),
+    (0, 20, _MODERN, 1, _TAKEN_OFF_INK),
+    (0, 20, _MODERN, 1, _NOTE_INK),
 )
 _SPAN_FONTS = {BOLD: BOLD_FONT, CODE: CODE_FONT}
+_TAPE_FONTS = {TOTAL: TOTAL_FONT, TAKEN_OFF: TAKEN_OFF_FONT, NOTE: NOTE_FONT}
 _INDENT = 36
 _COLUMN_GAP = 20
 _CHARACTER_WIDTHS = {BODY_FONT: 10, BOLD_FONT: 11.5, CODE_FONT: 12}
@@ -166,10 +172,10 @@ class TopicRenderer:
 
     def _sample(self, lines):
         paragraph = HlpParagraph(above=4, below=14, left=_INDENT)
-        for number, line in enumerate(lines):
+        for number, line in enumerate(tape_lines(lines)):
             if number > 0:
                 paragraph.add_line_break()
-            paragraph.add(line, CODE_FONT)
+            paragraph.add(line.text(), _TAPE_FONTS.get(line.look, CODE_FONT))
         return paragraph
 
     def _table(self, rows):

@@ -5,6 +5,7 @@ from base64 import b64encode
 from html import escape
 from pathlib import Path
 
+from tape_sample import tape_lines
 from topic_checks import PICTURES
 from topic_source import (
     BOLD,
@@ -21,7 +22,7 @@ from topic_source import (
     Table,
 )
 
-_STYLE_FILE = Path(__file__).with_name("style.css")
+_STYLE_FILES = [Path(__file__).with_name(name) for name in ("base.css", "style.css")]
 _TAGS = {BOLD: "b", CODE: "code"}
 
 
@@ -52,6 +53,15 @@ def write_blocks(topics, topic, page_name):
     return "".join(writer._block(topic, block) for block in topic.blocks)
 
 
+def _tape(lines):
+    """A sample of the tape; each line has a class for its look."""
+    set_lines = (
+        f'<span class="{line.look}">{line.blanks}<span>{escape(line.amount, quote=False)}</span>{line.mark}</span>'
+        for line in tape_lines(lines)
+    )
+    return '<pre class="tape">\n' + "\n".join(set_lines) + "\n</pre>\n"
+
+
 class _PageWriter:
     def __init__(self, title, topics, page_name=""):
         self._page_name = page_name
@@ -60,7 +70,7 @@ class _PageWriter:
         self._by_slug = {topic.slug: topic for topic in topics}
 
     def page(self):
-        style = _STYLE_FILE.read_text(encoding="utf-8")
+        style = "".join(path.read_text(encoding="utf-8") for path in _STYLE_FILES)
         sections = "\n".join(self._section(place) for place in range(len(self._topics)))
         return (
             '<!DOCTYPE html>\n<html lang="en">\n<head>\n<meta charset="utf-8">\n'
@@ -105,7 +115,7 @@ class _PageWriter:
         if isinstance(block, Note):
             return f'<p class="note">{self._inline(block.spans)}</p>\n'
         if isinstance(block, Sample):
-            return f"<pre>{escape(chr(10).join(block.lines), quote=False)}</pre>\n"
+            return _tape(block.lines)
         if isinstance(block, Picture):
             return self._picture(block)
         if isinstance(block, Table):

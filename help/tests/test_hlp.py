@@ -103,7 +103,12 @@ class HlpTest(unittest.TestCase):
 
     def test_a_tape_keeps_its_blanks(self):
         pad_tape = next(read for topic, read in zip(TOPICS, self.file.topics) if topic.slug == "pad-tape")
-        self.assertIn("               1,231.50 *", pad_tape.lines)
+        self.assertIn("               1,231.50 * ", pad_tape.lines)
+
+    def test_a_tape_stands_at_the_right(self):
+        tape = next(read for topic, read in zip(TOPICS, self.file.topics) if topic.slug == "adding-machine")
+        first = tape.lines.index("     Top")
+        self.assertEqual(tape.lines[first + 1 : first + 5], ["12.00 + ", " 3.00 + ", " 5.00 - ", "10.00 * "])
 
     def test_a_table_is_aligned_with_tabs(self):
         table = next(read for topic, read in zip(TOPICS, self.file.topics) if topic.slug == "finding-the-payment")

@@ -88,7 +88,7 @@ class HtmlTest(unittest.TestCase):
                 self.assertIn(one_spaced(expected), shown, topic.slug)
 
     def test_a_tape_keeps_its_blanks(self):
-        self.assertIn("\n               1,231.50 *\n", self.page.words["topic14"])
+        self.assertIn("\n               1,231.50 * \n", self.page.words["topic14"])
 
     def test_contains_the_pictures_of_the_topics(self):
         for topic in TOPICS:
