@@ -1,10 +1,11 @@
-"""Writes the same topics as one HTML page that needs no other file."""
+"""Writes the same topics as one HTML page that needs no other file, with an index and a search box."""
 
 import struct
 from base64 import b64encode
 from html import escape
 from pathlib import Path
 
+from html_index import INDEX_ANCHOR, index_section
 from tape_sample import tape_lines
 from topic_checks import PICTURES
 from topic_source import (
@@ -22,7 +23,10 @@ from topic_source import (
     Table,
 )
 
-_STYLE_FILES = [Path(__file__).with_name(name) for name in ("base.css", "style.css")]
+_STYLE_FILES = ("base.css", "style.css")
+_SCRIPT_FILES = ("search.js", "search_box.js")
+# Whatever is written into a topic, the page loads nothing.
+_POLICY = "default-src 'none'; style-src 'unsafe-inline'; script-src 'unsafe-inline'; img-src data:"
 _TAGS = {BOLD: "b", CODE: "code"}
 
 
@@ -53,6 +57,10 @@ def write_blocks(topics, topic, page_name):
     return "".join(writer._block(topic, block) for block in topic.blocks)
 
 
+def _texts_of(names):
+    return "".join(Path(__file__).with_name(name).read_text(encoding="utf-8") for name in names)
+
+
 def _tape(lines):
     """A sample of the tape; each line has a class for its look."""
     set_lines = (
@@ -70,22 +78,32 @@ class _PageWriter:
         self._by_slug = {topic.slug: topic for topic in topics}
 
     def page(self):
-        style = "".join(path.read_text(encoding="utf-8") for path in _STYLE_FILES)
         sections = "\n".join(self._section(place) for place in range(len(self._topics)))
         return (
             '<!DOCTYPE html>\n<html lang="en">\n<head>\n<meta charset="utf-8">\n'
             '<meta name="viewport" content="width=device-width, initial-scale=1">\n'
             '<meta name="color-scheme" content="light dark">\n'
-            f"<title>{escape(self._title)}</title>\n<style>\n{style}</style>\n</head>\n<body>\n"
-            f'<nav class="side" aria-label="Contents">\n<p><a href="#{anchor(self._topics[0])}">'
-            f"{escape(self._title)}</a></p>\n{self._contents(self._topics[0])}</nav>\n"
-            f"<main>\n{sections}\n</main>\n</body>\n</html>\n"
+            f'<meta http-equiv="Content-Security-Policy" content="{_POLICY}">\n'
+            f"<title>{escape(self._title)}</title>\n<style>\n{_texts_of(_STYLE_FILES)}</style>\n</head>\n<body>\n"
+            f"{self._side()}<main>\n{sections}\n{index_section(self._topics, self._link)}\n</main>\n"
+            f"<script>\n{_texts_of(_SCRIPT_FILES)}</script>\n</body>\n</html>\n"
+        )
+
+    def _side(self):
+        """The search box, which is shown by the script that answers it, above the contents."""
+        return (
+            f'<aside class="side">\n<p class="title"><a href="#{anchor(self._topics[0])}">{escape(self._title)}</a> '
+            f'<a href="#{INDEX_ANCHOR}">Index</a></p>\n'
+            '<form role="search" hidden><label class="hidden" for="search">Search the help</label>'
+            '<input type="search" id="search" placeholder="Search ( / )" autocomplete="off" spellcheck="false"></form>\n'
+            '<p class="hidden" role="status"></p>\n<div class="found"></div>\n'
+            f'<nav aria-label="Contents">\n{self._contents(self._topics[0])}</nav>\n</aside>\n'
         )
 
     def _section(self, place):
         topic = self._topics[place]
         level = 1 if place == 0 else 2
-        parts = [f'<section id="{anchor(topic)}">\n']
+        parts = [f'<section class="topic" id="{anchor(topic)}" tabindex="-1">\n']
         if place > 0:
             parts.append(f'<p class="chapter">{escape(topic.chapter)}</p>\n')
         parts.append(f"<h{level}>{escape(topic.title)}</h{level}>\n")
@@ -103,6 +121,7 @@ class _PageWriter:
         if place > 0:
             links.append(f'<a href="#{anchor(self._topics[place - 1])}" title="Topic before">&lsaquo;&lsaquo;</a>')
             links.append(f'<a href="#{anchor(self._topics[0])}">Contents</a>')
+        links.append(f'<a href="#{INDEX_ANCHOR}">Index</a>')
         if place + 1 < len(self._topics):
             links.append(f'<a href="#{anchor(self._topics[place + 1])}" title="Next topic">&rsaquo;&rsaquo;</a>')
         return f'<p class="browse">{" ".join(links)}</p>\n'

@@ -8,7 +8,7 @@ from html_writer import write_html, write_redirect
 from topic_checks import PICTURES, links_of, spans_of
 from topic_source import Picture, Sample
 
-VOID = {"meta", "br", "hr", "img", "link"}
+VOID = {"meta", "br", "hr", "img", "link", "input"}
 
 
 class Page(HTMLParser):
@@ -17,6 +17,7 @@ class Page(HTMLParser):
     def __init__(self, text):
         super().__init__()
         self.anchors, self.links, self.outside, self.words, self.pictures = [], {}, [], {}, {}
+        self.topics, self.entries = [], []
         self._open, self._section = [], None
         self.feed(text)
         self.close()
@@ -31,14 +32,19 @@ class Page(HTMLParser):
             self.anchors.append(attributes["id"])
         if tag == "section":
             self._section = attributes["id"]
+            self.topics += [attributes["id"]] if attributes.get("class") == "topic" else []
+        if tag == "li" and self._section == "index":
+            self.entries.append(["", []])
         if tag == "a":
             self.links.setdefault(self._section, []).append(attributes["href"])
+            if "li" in self._open and self._section == "index":
+                self.entries[-1][1].append(attributes["href"])
         for name in ("src", "srcset"):
             if attributes.get(name, "data:").startswith("data:image/png;base64,"):
                 self.pictures.setdefault(self._section, []).append(attributes)
             elif name in attributes:
                 self.outside.append(attributes[name])
-        self.outside += [tag] if tag in ("link", "script", "iframe") else []
+        self.outside += [tag] if tag in ("link", "iframe") else []
 
     def handle_endtag(self, tag):
         if not self._open or self._open.pop() != tag:
@@ -48,6 +54,8 @@ class Page(HTMLParser):
 
     def handle_data(self, data):
         self.words[self._section] = self.words.get(self._section, "") + data
+        if self._open[-2:] == ["li", "span"] and self._section == "index":
+            self.entries[-1][0] += data
 
 
 class HtmlTest(unittest.TestCase):
@@ -57,7 +65,8 @@ class HtmlTest(unittest.TestCase):
         cls.page = Page(cls.text)
 
     def test_every_topic_has_one_anchor_by_its_number(self):
-        self.assertEqual(self.page.anchors, [f"topic{topic.number}" for topic in TOPICS])
+        self.assertEqual(self.page.topics, [f"topic{topic.number}" for topic in TOPICS])
+        self.assertEqual(len(self.page.anchors), len(set(self.page.anchors)))
 
     def test_no_link_is_broken(self):
         for section, links in self.page.links.items():
@@ -76,6 +85,20 @@ class HtmlTest(unittest.TestCase):
         for section in ("topic1", None):
             for topic in TOPICS[1:]:
                 self.assertIn(f"#topic{topic.number}", self.page.links[section])
+
+    def test_the_index_leads_to_the_topics_with_each_keyword(self):
+        expected = {}
+        for topic in TOPICS:
+            for keyword in topic.keywords:
+                expected.setdefault(keyword, []).append(f"#topic{topic.number}")
+        self.assertEqual(dict(map(tuple, self.page.entries)), expected)
+        words = [word for word, _ in self.page.entries if word[0].isalpha()]
+        self.assertEqual(words, sorted(words, key=str.lower))
+
+    def test_contents_and_index_are_one_step_from_every_topic(self):
+        for topic in TOPICS[1:]:
+            self.assertLessEqual({"#topic1", "#index"}, set(self.page.links[f"topic{topic.number}"]), topic.slug)
+        self.assertLessEqual({"#topic1", "#index"}, set(self.page.links[None]))
 
     def test_shows_every_word_of_every_topic(self):
         for topic in TOPICS:
@@ -103,6 +126,7 @@ class HtmlTest(unittest.TestCase):
     def test_needs_no_other_file(self):
         self.assertEqual(self.page.outside, [])
         self.assertIsNone(re.search(r"@import|url\(|https?:", self.text))
+        self.assertIn("default-src 'none'", self.text)
 
     def test_the_page_for_the_program_leads_to_topic_23(self):
         financial = next(topic for topic in TOPICS if topic.number == 23)

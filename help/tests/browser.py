@@ -1,0 +1,47 @@
+"""Runs the scripts of the help: in a small engine without a page, and in a browser without a window."""
+
+import json
+import os
+import shutil
+import subprocess
+import tempfile
+from pathlib import Path
+
+ENGINES = ("duk", "qjs", "node")
+BROWSERS = ("chromium", "chromium-browser", "google-chrome", "msedge")
+_MARK = "result-of-the-steps"
+
+
+def first_of(names):
+    """The first of the programs that is installed, or None."""
+    return next((path for path in map(shutil.which, names) if path), None)
+
+
+def run_script(engine, text):
+    """What a script prints, in an engine."""
+    with tempfile.TemporaryDirectory() as folder:
+        script = Path(folder) / "script.js"
+        script.write_text("if (typeof print === 'undefined') print = console.log;\n" + text, encoding="utf-8")
+        run = subprocess.run([engine, str(script)], capture_output=True, encoding="utf-8", check=False, timeout=60)
+    if run.returncode:
+        raise AssertionError(run.stdout + run.stderr)
+    return run.stdout
+
+
+def run_in_browser(browser, page, steps):
+    """What `steps`, the body of a function, returns at the end of a page that is opened from a file."""
+    with tempfile.TemporaryDirectory() as folder:
+        file = Path(folder) / "page.html"
+        script = f'<script id="{_MARK}">\nvar result = (function () {{\n{steps}\n}})();\n'
+        script += f'document.getElementById("{_MARK}").textContent = JSON.stringify(result);\n</script>\n'
+        file.write_text(page.replace("</body>", script + "</body>"), encoding="utf-8")
+        command = [browser, "--headless", "--disable-gpu", f"--user-data-dir={folder}/profile", "--dump-dom"]
+        if getattr(os, "geteuid", lambda: 1)() == 0:
+            # Browsers refuse their sandbox to root, as which tests run in a container.
+            command.append("--no-sandbox")
+        run = subprocess.run([*command, file.as_uri()], capture_output=True, encoding="utf-8", check=False, timeout=120)
+    answer = run.stdout.partition(f'<script id="{_MARK}">')[2].partition("</script>")[0]
+    try:
+        return json.loads(answer)
+    except ValueError as error:
+        raise AssertionError(f"the steps gave no result:\n{answer}\n{run.stderr[-2000:]}") from error
