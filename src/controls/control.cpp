@@ -95,8 +95,4 @@ void Control::doubleClick() {
   raise(onDblClick);
 }
 
-void Control::runEvent(const std::function<void()>& body) {
-  window_.desktop().events().runEvent(body);
-}
-
 }  // namespace controls

@@ -13,6 +13,12 @@ namespace controls {
 
 class Window;
 
+/// Calls a handler, where there is one.
+template <class Handler, class... Arguments>
+void raise(const Handler& handler, Arguments&&... arguments) {
+  if (handler) handler(std::forward<Arguments>(arguments)...);
+}
+
 /// A part of a window: what is common to labels, boxes and buttons. It is built from its layout and
 /// lives as long as its window. The state lives here; the implementations show it.
 class Control {
@@ -68,15 +74,6 @@ class Control {
   virtual void typeCharacter(KeyAscii character) { keyPress(character); }
 
  protected:
-  friend class Window;
-
-  /// Runs a handler as one event of the program; a handler that is not there is no event.
-  template <class Handler, class... Arguments>
-  void raise(const Handler& handler, Arguments&&... arguments) {
-    if (handler) runEvent([&] { handler(std::forward<Arguments>(arguments)...); });
-  }
-  void runEvent(const std::function<void()>& body);
-
   /// What a screen needs to do when a property has changed. In memory there is nothing to do.
   virtual void showCaption() {}
   virtual void showVisible() {}

@@ -74,10 +74,8 @@ void Desktop::dismissDialogs(IsMeant isMeant) {
 }
 
 void Desktop::endSession() {
-  events_.runEvent([this] {
-    if (onEndSession) onEndSession();
-    dismissDialogs([](const SystemDialog&) { return true; });
-  });
+  raise(onEndSession);
+  dismissDialogs([](const SystemDialog&) { return true; });
 }
 
 }  // namespace controls

@@ -10,8 +10,9 @@ namespace controls {
 /// Ends the handler that waits for a dialog, because the window that asked is being closed.
 struct DialogDismissed {};
 
-/// The order of the program's events. A handler runs to its end; what it posted runs when the
-/// outermost event has ended, in the order in which it was posted.
+/// The order of the program's events. An event is what comes in from outside: a key, a click, a
+/// message of the system. What its handlers post runs when the outermost event has ended, in the
+/// order in which it was posted.
 class EventLoop {
  public:
   /// Runs one event and, when it was the outermost, everything posted meanwhile.

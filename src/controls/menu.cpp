@@ -39,7 +39,7 @@ bool MenuItem::canBeChosen() const {
 
 bool MenuItem::choose() {
   if (!canBeChosen() || !window_.enabled()) return false;
-  if (onClick) window_.desktop().events().runEvent(onClick);
+  raise(onClick);
   return true;
 }
 

@@ -167,7 +167,7 @@ bool TextBox::undo() {
 }
 
 void TextBox::typeCharacter(KeyAscii character) {
-  runEvent([&] { actOnCharacter(keyPress(character)); });
+  actOnCharacter(keyPress(character));
 }
 
 void TextBox::actOnCharacter(KeyAscii character) {

@@ -65,13 +65,13 @@ void Window::setHeight(Twips height) {
 
 void Window::raiseResizeIfSized(const Rect& before) {
   const bool sized = bounds_.width != before.width || bounds_.height != before.height;
-  if (shownOnce_ && sized && onResize) desktop_.events().runEvent(onResize);
+  if (shownOnce_ && sized) raise(onResize);
 }
 
 void Window::show() {
   if (!shownOnce_) {
     shownOnce_ = true;
-    if (onResize) desktop_.events().runEvent(onResize);
+    raise(onResize);
   }
   if (!visible_) {
     visible_ = true;
@@ -112,10 +112,8 @@ void Window::setOnTop(bool onTop) {
 
 void Window::requestClose() {
   if (!onClose) return;
-  desktop_.events().runEvent([this] {
-    desktop_.clearWayOf(*this);
-    onClose();
-  });
+  desktop_.clearWayOf(*this);
+  onClose();
 }
 
 Control* Window::findControl(std::string_view name) const {
@@ -174,13 +172,10 @@ void Window::noteActivated() {
   if (desktop_.activeWindow_ == this) return;
   if (!focusedControl_) moveFocus(true);
   Window* before = desktop_.activeWindow_;
-  desktop_.events().runEvent([&] {
-    if (before && before->focusedControl_)
-      before->focusedControl_->raise(before->focusedControl_->onLostFocus);
-    desktop_.activeWindow_ = this;
-    if (focusedControl_) focusedControl_->raise(focusedControl_->onGotFocus);
-    if (onActivate) onActivate();
-  });
+  if (before && before->focusedControl_) raise(before->focusedControl_->onLostFocus);
+  desktop_.activeWindow_ = this;
+  if (focusedControl_) raise(focusedControl_->onGotFocus);
+  raise(onActivate);
 }
 
 }  // namespace controls

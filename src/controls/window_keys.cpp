@@ -12,11 +12,9 @@ void Window::focusControl(Control& control) {
   focusedControl_ = &control;
   if (desktop_.activeWindow_ != this) return;
   showFocus(control);
-  desktop_.events().runEvent([&] {
-    if (before) before->raise(before->onLostFocus);
-    // The handler may have sent the focus on already.
-    if (focusedControl_ == &control) control.raise(control.onGotFocus);
-  });
+  if (before) raise(before->onLostFocus);
+  // The handler may have sent the focus on already.
+  if (focusedControl_ == &control) raise(control.onGotFocus);
 }
 
 bool Window::isTabStop(const Control& control) const {
@@ -87,7 +85,7 @@ bool Window::takePaste(const KeyStroke& stroke) {
 
 bool Window::takeHelp(const KeyStroke& stroke) {
   if (stroke.key != kKeyF1 || stroke.shift || stroke.control) return false;
-  if (onHelp) desktop_.events().runEvent(onHelp);
+  raise(onHelp);
   return true;
 }
 

@@ -20,8 +20,9 @@ void Keyboard::down(const controls::KeyStroke& stroke, controls::KeyAscii charac
 }
 
 void Keyboard::up(controls::KeyCode key) {
-  controls::Window* window = desktop_.activeWindow();
-  if (window && window->focusedControl()) window->focusedControl()->keyUp(key);
+  const controls::Window* window = desktop_.activeWindow();
+  if (!window || !window->focusedControl()) return;
+  desktop_.events().runEvent([&] { window->focusedControl()->keyUp(key); });
 }
 
 }  // namespace inmemory

@@ -16,8 +16,10 @@ class InMemoryKind : public Kind {
   }
 
   void click(controls::Control& control) override {
-    control.setFocus();
-    if (auto* clickable = dynamic_cast<controls::ClickControl*>(&control)) clickable->click();
+    desktop_.events().runEvent([&] {
+      control.setFocus();
+      if (auto* clickable = dynamic_cast<controls::ClickControl*>(&control)) clickable->click();
+    });
   }
 
   void whileClipboardIsHeld(const std::function<void()>& body) override {

@@ -12,7 +12,7 @@ void InMemoryStage::start(const std::string& name) {
   app_.reset();
   desktop_.name = name;
   app_ = std::make_unique<app::Application>(desktop_);
-  app_->start();
+  act([this] { app_->start(); });
 }
 
 void InMemoryStage::crash() {
@@ -29,22 +29,24 @@ void InMemoryStage::keyUp(const controls::KeyStroke& stroke) {
 }
 
 // The mouse brings the window to the front and gives the control the focus.
-void InMemoryStage::moveTo(controls::Control& control) {
-  control.window().noteActivated();
-  control.setFocus();
+void InMemoryStage::focus(controls::Control& control) {
+  act([&] {
+    control.window().noteActivated();
+    control.setFocus();
+  });
 }
 
 void InMemoryStage::click(controls::Control& control) {
-  moveTo(control);
-  if (auto* clickable = dynamic_cast<controls::ClickControl*>(&control)) clickable->click();
+  focus(control);
+  if (auto* clickable = dynamic_cast<controls::ClickControl*>(&control))
+    act([clickable] { clickable->click(); });
 }
 
 // To a button it is two clicks, unless the first took the button away.
 void InMemoryStage::doubleClick(controls::Control& control) {
   if (!dynamic_cast<controls::ClickControl*>(&control)) {
-    moveTo(control);
-    control.doubleClick();
-    return;
+    focus(control);
+    return act([&] { control.doubleClick(); });
   }
   const std::string window = control.window().name();
   const std::string name = control.name();
@@ -55,37 +57,35 @@ void InMemoryStage::doubleClick(controls::Control& control) {
   if (again->visible() && again->enabled()) click(*again);
 }
 
-void InMemoryStage::focus(controls::Control& control) {
-  moveTo(control);
-}
-
 void InMemoryStage::select(controls::TextBox& box, int start, int length) {
   box.select(start, length);
 }
 
 void InMemoryStage::useBoxMenu(controls::TextBox& box, controls::BoxCommand command) {
-  moveTo(box);
-  box.mouseDown();
-  box.closeMenu(command);
+  focus(box);
+  act([&] {
+    box.mouseDown();
+    box.closeMenu(command);
+  });
 }
 
 // The menu is that of the main window.
 void InMemoryStage::choose(controls::MenuItem& item) {
-  findWindow("frmCalc")->noteActivated();
-  item.choose();
+  bringToFront(*findWindow("frmCalc"));
+  act([&] { item.choose(); });
 }
 
 void InMemoryStage::resize(controls::Window& window, controls::Twips width,
                            controls::Twips height) {
-  window.setBounds({window.bounds().left, window.bounds().top, width, height});
+  act([&] { window.setBounds({window.bounds().left, window.bounds().top, width, height}); });
 }
 
 void InMemoryStage::move(controls::Window& window, controls::Twips left, controls::Twips top) {
-  window.setBounds({left, top, window.bounds().width, window.bounds().height});
+  act([&] { window.setBounds({left, top, window.bounds().width, window.bounds().height}); });
 }
 
 void InMemoryStage::setState(controls::Window& window, controls::WindowState state) {
-  window.setState(state);
+  act([&] { window.setState(state); });
 }
 
 std::optional<std::string> InMemoryStage::readSetting(const std::string& section,
@@ -118,11 +118,10 @@ Json InMemoryStage::dumpSettings() {
 }
 
 void InMemoryStage::receive(const Request& request) {
-  if (request.window.empty()) {
-    desktop_.endSession();
-  } else if (controls::Window* window = findWindow(request.window)) {
-    window->requestClose();
-  }
+  act([&] {
+    if (request.window.empty()) return desktop_.endSession();
+    if (controls::Window* window = findWindow(request.window)) window->requestClose();
+  });
 }
 
 Json InMemoryStage::takeEvents() {

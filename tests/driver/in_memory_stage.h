@@ -17,8 +17,12 @@ class InMemoryStage : public Stage {
   bool running() override { return app_ && !app_->ended(); }
   void start(const std::string& name) override;
   void crash() override;
-  void close(controls::Window& window) override { window.requestClose(); }
-  void bringToFront(controls::Window& window) override { window.noteActivated(); }
+  void close(controls::Window& window) override {
+    act([&] { window.requestClose(); });
+  }
+  void bringToFront(controls::Window& window) override {
+    act([&] { window.noteActivated(); });
+  }
   void keyDown(const controls::KeyStroke& stroke, controls::KeyAscii character) override;
   void keyUp(const controls::KeyStroke& stroke) override;
   void click(controls::Control& control) override;
@@ -51,7 +55,8 @@ class InMemoryStage : public Stage {
   bool arrange(const std::string& command, const std::vector<std::string>& texts) override;
 
  private:
-  void moveTo(controls::Control& control);
+  /// Something that is done to the program: one event of it.
+  void act(const std::function<void()>& body) { desktop_.events().runEvent(body); }
 
   inmemory::Desktop desktop_;
   inmemory::Keyboard keyboard_{desktop_};
