@@ -173,13 +173,6 @@ std::optional<double> valueOf(const Written& written) {
   return written.sign == '-' && *magnitude != 0 ? -*magnitude : *magnitude;
 }
 
-// What a reading gave. Where it gave nothing, that is the run-time error `number`.
-template <class Value>
-const Value& orError(const std::optional<Value>& given, int number) {
-  if (!given) throw RunTimeError(number);
-  return *given;
-}
-
 // Appends fixed notation of 0.DIGITS times ten to the power of `point`.
 void appendFixed(std::string& text, std::string_view digits, long long point) {
   if (point <= 0) {
@@ -232,7 +225,10 @@ bool hasOddCommas(std::string_view text) {
 
 double toNumber(std::string_view text) {
   const auto written = read(text);
-  return orError(valueOf(orError(written, kTypeMismatch)), kOverflow);
+  if (!written) throw RunTimeError(kTypeMismatch);
+  const auto value = valueOf(*written);
+  if (!value) throw RunTimeError(kOverflow);
+  return *value;
 }
 
 DecimalDigits toDigits(double value) {
@@ -271,19 +267,20 @@ std::string toText(double value) {
   return text;
 }
 
-std::string toPlainText(std::string_view text) {
-  const auto reading = read(text);
-  const Written& written = orError(reading, kTypeMismatch);
-  const Significand significand = significandOf(written);
-  const double magnitude = orError(magnitudeOf(significand), kOverflow);
-  if (written.plain) return std::string(text);
+std::optional<std::string> toPlainText(std::string_view text) {
+  const auto written = read(text);
+  if (!written) return {};
+  const Significand significand = significandOf(*written);
+  const auto magnitude = magnitudeOf(significand);
+  if (!magnitude) return {};
+  if (written->plain) return std::string(text);
   std::string plain;
-  if (written.sign) plain += written.sign;
-  if (!written.hasExponent) {
-    plain += written.integer.empty() ? "0" : written.integer;
-    if (written.hasPoint) plain += '.';
-    plain += written.fraction;
-  } else if (magnitude == 0) {
+  if (written->sign) plain += written->sign;
+  if (!written->hasExponent) {
+    plain += written->integer.empty() ? "0" : written->integer;
+    if (written->hasPoint) plain += '.';
+    plain += written->fraction;
+  } else if (*magnitude == 0) {
     // A size that vanishes in a double could have more zeros than fit into memory.
     plain += '0';
   } else {

@@ -8,7 +8,7 @@ namespace common {
 
 /// The number that a text represents. Accepted: blanks and tabs around; one sign in front or a
 /// minus behind; "$"; parentheses for a negative; digits with "," anywhere in the integer part; a
-/// "." ; an exponent. Nothing for any other text, and beyond the range of a double.
+/// "."; an exponent. Null for any other text, and beyond the range of a double.
 std::optional<double> tryNumber(std::string_view text);
 
 /// As tryNumber, but raises error 13 for a text that is no number, error 6 beyond the range.
@@ -25,9 +25,9 @@ std::string toText(double value);
 
 /// A number that is not written plainly (exponent, "$", parentheses, a minus behind, blanks around,
 /// no digit in front of its point) written plainly: sign in front, the digits and commas as they
-/// are, a digit in front of the point. Text written plainly already comes back as it is. Raises as
-/// toNumber does.
-std::string toPlainText(std::string_view text);
+/// are, a digit in front of the point. Text written plainly already comes back as it is. Null as
+/// for tryNumber.
+std::optional<std::string> toPlainText(std::string_view text);
 
 /// A number in decimal: 0.DIGITS times ten to the power of `point`, so that `point` is the number
 /// of digits in front of the decimal point. Zero has no digits and no sign.

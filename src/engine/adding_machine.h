@@ -2,29 +2,15 @@
 
 #include <string>
 
-#include "controls/desktop.h"
 #include "engine/calculation.h"
 #include "engine/decimals.h"
 #include "engine/entry.h"
 #include "engine/entry_paste.h"
+#include "engine/machine_controls.h"
 #include "engine/memory.h"
 #include "engine/tape.h"
 
 namespace engine {
-
-/// What the adding machine works on: its boxes, keys and menu items.
-struct MachineControls {
-  controls::Desktop& desktop;
-  controls::TextBox& txtEntry;
-  controls::TextBox& txtTape;
-  controls::TextBox& txtDec;
-  controls::ToggleButton& chkFloatingDec;
-  controls::ToggleButton& chkShiftDec;
-  controls::ToggleButton& chkTapeOff;
-  controls::Button& cmdMemPlus;
-  controls::MenuItem& mnuWinModes;
-  controls::MenuItem& mnuWinPadTape;
-};
 
 /// The numbers are those of the settings and of the items of the Modes menu. Product is add mode
 /// during the one calculation that x or / starts there: until its total the machine calculates.

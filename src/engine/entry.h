@@ -36,7 +36,7 @@ class Entry {
   void clear();
   /// Shows a number that was not keyed digit by digit, with the caret behind it.
   void showValue(const std::string& text);
-  /// Shows a pasted number. Raises error 13 when it cannot be shown.
+  /// Shows a pasted number, which is written plainly.
   void showPasted(const std::string& text);
   /// Shows the total behind a line that was printed; the box is wide enough for it.
   void showTotal(double total);

@@ -1,7 +1,6 @@
 #include "engine/entry_paste.h"
 
 #include "common/number_text.h"
-#include "common/run_time_error.h"
 
 namespace engine {
 
@@ -35,8 +34,11 @@ void EntryPaste::mouseUp(controls::MouseEdit edit) {
 }
 
 void EntryPaste::take(const std::string& text) {
-  common::trap([&] { entry_.showPasted(withPlaces(common::toPlainText(text))); },
-               [&](const common::RunTimeError&) { refuse(); });
+  if (const auto plain = common::toPlainText(text)) {
+    entry_.showPasted(withPlaces(*plain));
+  } else {
+    refuse();
+  }
 }
 
 void EntryPaste::refuse() {

@@ -14,59 +14,55 @@ bool isDigit(int character) {
 
 }  // namespace
 
-DecimalsBox::DecimalsBox(controls::Window& window, controls::Desktop& desktop)
-    : desktop_(desktop),
-      txtDec_(window.textBox("txtDec")),
-      txtEntry_(window.textBox("txtEntry")),
-      chkFloatingDec_(window.toggleButton("chkFloatingDec")),
-      chkShiftDec_(window.toggleButton("chkShiftDec")),
+DecimalsBox::DecimalsBox(const controls::Window& window, const engine::MachineControls& controls)
+    : controls_(controls),
       mnuEditFloatingDecimal_(window.menuItem("mnuEditFloatingDecimal")),
       mnuEditStationaryDecimal_(window.menuItem("mnuEditStationaryDecimal")) {}
 
 void DecimalsBox::restore(const Settings& settings) {
   const bool stationary = settings.number("frmCalcchkShiftDec", 0) != 0;
   const bool floating = settings.number("frmCalcchkFloatingDec", 0) != 0;
-  chkShiftDec_.setValue(stationary);
-  chkFloatingDec_.setValue(floating);
+  controls_.chkShiftDec.setValue(stationary);
+  controls_.chkFloatingDec.setValue(floating);
   mnuEditStationaryDecimal_.setChecked(stationary);
   mnuEditFloatingDecimal_.setChecked(floating);
-  txtDec_.setText(settings.text("frmCalctxtDec", "2"));
+  controls_.txtDec.setText(settings.text("frmCalctxtDec", "2"));
 }
 
 void DecimalsBox::save(Settings& settings) const {
-  settings.writeNumber("frmCalcchkShiftDec", chkShiftDec_.value());
-  settings.writeNumber("frmCalcchkFloatingDec", chkFloatingDec_.value());
-  settings.write("frmCalctxtDec", txtDec_.text());
+  settings.writeNumber("frmCalcchkShiftDec", controls_.chkShiftDec.value());
+  settings.writeNumber("frmCalcchkFloatingDec", controls_.chkFloatingDec.value());
+  settings.write("frmCalctxtDec", controls_.txtDec.text());
 }
 
 void DecimalsBox::toggleFloating() {
-  const bool on = chkFloatingDec_.value() == 0;
-  chkFloatingDec_.setValue(on);
+  const bool on = controls_.chkFloatingDec.value() == 0;
+  controls_.chkFloatingDec.setValue(on);
   mnuEditStationaryDecimal_.setEnabled(!on);
 }
 
 void DecimalsBox::toggleStationary() {
-  chkShiftDec_.setValue(1 - chkShiftDec_.value());
+  controls_.chkShiftDec.setValue(1 - controls_.chkShiftDec.value());
 }
 
 void DecimalsBox::floatingChanged() {
   mnuEditFloatingDecimal_.setChecked(!mnuEditFloatingDecimal_.checked());
-  const bool floating = chkFloatingDec_.value() == 1;
-  chkShiftDec_.setEnabled(!floating);
+  const bool floating = controls_.chkFloatingDec.value() == 1;
+  controls_.chkShiftDec.setEnabled(!floating);
   mnuEditStationaryDecimal_.setEnabled(!floating);
-  txtDec_.setEnabled(!floating);
-  txtDec_.setBackColor(floating ? Color::buttonFace() : Color::window());
-  if (!floating) chkShiftDec_.setCaption("");
-  txtEntry_.setFocus();
+  controls_.txtDec.setEnabled(!floating);
+  controls_.txtDec.setBackColor(floating ? Color::buttonFace() : Color::window());
+  if (!floating) controls_.chkShiftDec.setCaption("");
+  controls_.txtEntry.setFocus();
 }
 
 void DecimalsBox::stationaryChanged() {
   mnuEditStationaryDecimal_.setChecked(!mnuEditStationaryDecimal_.checked());
-  txtEntry_.setFocus();
+  controls_.txtEntry.setFocus();
 }
 
 bool DecimalsBox::accepts(std::string_view text) const {
-  return text.size() == 1 && isDigit(text[0]) && txtDec_.textWithoutSelection().empty();
+  return text.size() == 1 && isDigit(text[0]) && controls_.txtDec.textWithoutSelection().empty();
 }
 
 void DecimalsBox::keyPress(controls::KeyAscii& key) {
@@ -74,13 +70,13 @@ void DecimalsBox::keyPress(controls::KeyAscii& key) {
   const char character = static_cast<char>(key);
   if (isDigit(key) && accepts({&character, 1})) return;
   key = 0;
-  desktop_.beep();
+  controls_.desktop.beep();
 }
 
 // One keystroke sets the places, and typing goes on in the entry box. The release of Tab, and of
 // the Shift held with it, belongs to the stroke that led here.
 void DecimalsBox::keyUp(controls::KeyCode key) {
-  if (key != controls::kKeyTab && key != kKeyShift) txtEntry_.setFocus();
+  if (key != controls::kKeyTab && key != kKeyShift) controls_.txtEntry.setFocus();
 }
 
 // A cell copied from a spreadsheet ends in a line end.
@@ -88,12 +84,13 @@ void DecimalsBox::paste(std::string& text) {
   text = controls::firstLineOf(text);
   if (accepts(text)) return;
   text.clear();
-  desktop_.beep();
+  controls_.desktop.beep();
 }
 
 void DecimalsBox::lostFocus() {
-  txtDec_.setBackColor(chkFloatingDec_.value() == 1 ? Color::buttonFace() : Color::window());
-  if (txtDec_.text().empty()) txtDec_.setText("0");
+  controls_.txtDec.setBackColor(controls_.chkFloatingDec.value() == 1 ? Color::buttonFace()
+                                                                      : Color::window());
+  if (controls_.txtDec.text().empty()) controls_.txtDec.setText("0");
 }
 
 }  // namespace shell

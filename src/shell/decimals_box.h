@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-#include "controls/desktop.h"
+#include "engine/machine_controls.h"
 #include "shell/settings.h"
 
 namespace shell {
@@ -12,7 +12,7 @@ namespace shell {
 /// with their items in the menu.
 class DecimalsBox {
  public:
-  DecimalsBox(controls::Window& window, controls::Desktop& desktop);
+  DecimalsBox(const controls::Window& window, const engine::MachineControls& controls);
 
   void restore(const Settings& settings);
   void save(Settings& settings) const;
@@ -33,11 +33,7 @@ class DecimalsBox {
  private:
   bool accepts(std::string_view text) const;
 
-  controls::Desktop& desktop_;
-  controls::TextBox& txtDec_;
-  controls::TextBox& txtEntry_;
-  controls::ToggleButton& chkFloatingDec_;
-  controls::ToggleButton& chkShiftDec_;
+  const engine::MachineControls& controls_;
   controls::MenuItem& mnuEditFloatingDecimal_;
   controls::MenuItem& mnuEditStationaryDecimal_;
 };

@@ -3,12 +3,12 @@
 namespace shell {
 
 controls::TextBox* EditMenu::focusedBox() const {
-  return dynamic_cast<controls::TextBox*>(window_.focusedControl());
+  return dynamic_cast<controls::TextBox*>(controls_.txtEntry.window().focusedControl());
 }
 
 void EditMenu::cut() {
   controls::TextBox* box = focusedBox();
-  if (box && box->cut() && box == &window_.textBox("txtEntry")) entry_.tidy();
+  if (box && box->cut() && box == &controls_.txtEntry) entry_.tidy();
 }
 
 void EditMenu::copy() {

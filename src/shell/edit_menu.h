@@ -1,14 +1,15 @@
 #pragma once
 
-#include "controls/window.h"
 #include "engine/entry.h"
+#include "engine/machine_controls.h"
 
 namespace shell {
 
 /// Cut, Copy and Paste, in the text box that has the focus. Where there is none they do nothing.
 class EditMenu {
  public:
-  EditMenu(controls::Window& window, engine::Entry& entry) : window_(window), entry_(entry) {}
+  EditMenu(const engine::MachineControls& controls, engine::Entry& entry)
+      : controls_(controls), entry_(entry) {}
 
   /// What is left of the entry is put in shape.
   void cut();
@@ -18,7 +19,7 @@ class EditMenu {
  private:
   controls::TextBox* focusedBox() const;
 
-  controls::Window& window_;
+  const engine::MachineControls& controls_;
   engine::Entry& entry_;
 };
 

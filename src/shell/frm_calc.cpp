@@ -6,33 +6,17 @@ namespace shell {
 
 using engine::Mode;
 
-namespace {
-
-engine::MachineControls machineControls(controls::Desktop& desktop, controls::Window& window) {
-  return {.desktop = desktop,
-          .txtEntry = window.textBox("txtEntry"),
-          .txtTape = window.textBox("txtTape"),
-          .txtDec = window.textBox("txtDec"),
-          .chkFloatingDec = window.toggleButton("chkFloatingDec"),
-          .chkShiftDec = window.toggleButton("chkShiftDec"),
-          .chkTapeOff = window.toggleButton("chkTapeOff"),
-          .cmdMemPlus = window.button("cmdMemPlus"),
-          .mnuWinModes = window.menuItem("mnuWinModes"),
-          .mnuWinPadTape = window.menuItem("mnuWinPadTape")};
-}
-
-}  // namespace
-
 frmCalc::frmCalc(controls::Desktop& desktop, Program& program)
     : program_(program),
       window_(desktop.createWindow(frmCalcLayout())),
       settings_(desktop.settings()),
-      machine_(machineControls(desktop, *window_)),
-      colors_(*window_, desktop, program, settings_),
-      decimalsBox_(*window_, desktop),
-      editMenu_(*window_, machine_.entry()),
-      tapeOptions_(*window_, desktop),
-      tapeOutput_(*window_, desktop),
+      controls_(*window_),
+      machine_(controls_),
+      colors_(controls_, program, settings_),
+      decimalsBox_(*window_, controls_),
+      editMenu_(controls_, machine_.entry()),
+      tapeOptions_(*window_, controls_),
+      tapeOutput_(controls_),
       place_(*window_, settings_) {
   wireKeys();
   wireFigures();
@@ -44,8 +28,8 @@ frmCalc::frmCalc(controls::Desktop& desktop, Program& program)
   window_->onActivate = [this] { activate(); };
   window_->onClose = [this] { unload(); };
   window_->onHelp = [this] { showHelp(); };
-  window_->textBox("txtEntry").setText("");
-  window_->textBox("txtTape").setText("Top");
+  controls_.txtEntry.setText("");
+  controls_.txtTape.setText("Top");
 }
 
 void frmCalc::resize() {
@@ -88,8 +72,8 @@ void frmCalc::saveSettings() {
 }
 
 void frmCalc::printLines(const std::string& lines) {
-  window_->textBox("txtTape").append(lines);
-  window_->textBox("txtEntry").setFocus();
+  controls_.txtTape.append(lines);
+  controls_.txtEntry.setFocus();
 }
 
 void frmCalc::chooseMode(Mode mode) {
@@ -103,14 +87,14 @@ void frmCalc::chooseMode(Mode mode) {
 
 void frmCalc::openFinancialCalc(common::AnnuityKind kind) {
   if (place_.onTop())
-    window_->desktop().showMessage({.text =
-                                        "You may want to turn off the \"Always on Top\" since this "
-                                        "next screen is run independently."});
+    controls_.desktop.showMessage({.text =
+                                       "You may want to turn off the \"Always on Top\" since this "
+                                       "next screen is run independently."});
   program_.openFinancialCalc(kind);
 }
 
 void frmCalc::showHelp() {
-  window_->desktop().showHelp({.file = program_.helpFile()});
+  controls_.desktop.showHelp({.file = program_.helpFile()});
 }
 
 // The About box must not be covered by a window that is always on top.

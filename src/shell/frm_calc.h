@@ -60,6 +60,7 @@ class frmCalc {
   Program& program_;
   std::unique_ptr<controls::Window> window_;
   Settings settings_;
+  engine::MachineControls controls_;
   engine::AddingMachine machine_;
   TextBoxColors colors_;
   DecimalsBox decimalsBox_;

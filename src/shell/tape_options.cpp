@@ -19,57 +19,51 @@ constexpr Twips kSmallestTapeWidth = 1715;
 
 }  // namespace
 
-TapeOptions::TapeOptions(controls::Window& window, controls::Desktop& desktop)
-    : window_(window),
-      desktop_(desktop),
-      txtTape_(window.textBox("txtTape")),
-      txtEntry_(window.textBox("txtEntry")),
-      chkTapeOff_(window.toggleButton("chkTapeOff")),
-      mnuWinPadTape_(window.menuItem("mnuWinPadTape")),
-      mnuWinTapeOff_(window.menuItem("mnuWinTapeOff")) {}
+TapeOptions::TapeOptions(const controls::Window& window, const engine::MachineControls& controls)
+    : window_(window), controls_(controls), mnuWinTapeOff_(window.menuItem("mnuWinTapeOff")) {}
 
 void TapeOptions::restore(const Settings& settings) {
   const bool off = settings.number("frmCalcchkTapeOff", 0) != 0;
-  chkTapeOff_.setValue(off);
+  controls_.chkTapeOff.setValue(off);
   mnuWinTapeOff_.setChecked(off);
-  mnuWinPadTape_.setChecked(settings.truth("frmCalcmnuWinPadTape"));
+  controls_.mnuWinPadTape.setChecked(settings.truth("frmCalcmnuWinPadTape"));
 }
 
 void TapeOptions::save(Settings& settings) const {
-  settings.writeNumber("frmCalcchkTapeOff", chkTapeOff_.value());
-  settings.writeTruth("frmCalcmnuWinPadTape", mnuWinPadTape_.checked());
+  settings.writeNumber("frmCalcchkTapeOff", controls_.chkTapeOff.value());
+  settings.writeTruth("frmCalcmnuWinPadTape", controls_.mnuWinPadTape.checked());
 }
 
 void TapeOptions::fitToWindow() {
   const Rect& bounds = window_.bounds();
-  Rect tape = txtTape_.bounds();
+  Rect tape = controls_.txtTape.bounds();
   tape.height = std::max(bounds.height - kSmallestHeight, 0) + kSmallestTapeHeight;
   tape.width = std::max(bounds.width - kSmallestWidth, 0) + kSmallestTapeWidth;
-  txtTape_.setBounds(tape);
+  controls_.txtTape.setBounds(tape);
 }
 
 void TapeOptions::togglePadding() {
-  mnuWinPadTape_.setChecked(!mnuWinPadTape_.checked());
+  controls_.mnuWinPadTape.setChecked(!controls_.mnuWinPadTape.checked());
   applyPadding();
 }
 
 void TapeOptions::applyPadding() {
-  const bool padded = mnuWinPadTape_.checked();
-  const std::string tape = txtTape_.text();
+  const bool padded = controls_.mnuWinPadTape.checked();
+  const std::string tape = controls_.txtTape.text();
   const bool figures = tape != engine::tapeHeader(false) && tape != engine::tapeHeader(true);
   if (!figures) {
-    txtTape_.setText(engine::tapeHeader(padded));
+    controls_.txtTape.setText(engine::tapeHeader(padded));
   } else if (tape != tapeAtChange_) {
-    desktop_.showMessage(
+    controls_.desktop.showMessage(
         {.text = "Changing the padding works best when the tape is cleared first."});
   }
-  txtTape_.setAlignment(padded ? controls::Alignment::Left : controls::Alignment::Right);
-  tapeAtChange_ = txtTape_.text();
+  controls_.txtTape.setAlignment(padded ? controls::Alignment::Left : controls::Alignment::Right);
+  tapeAtChange_ = controls_.txtTape.text();
 }
 
 void TapeOptions::offChanged() {
   mnuWinTapeOff_.setChecked(!mnuWinTapeOff_.checked());
-  txtEntry_.setFocus();
+  controls_.txtEntry.setFocus();
 }
 
 }  // namespace shell

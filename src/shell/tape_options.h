@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "controls/desktop.h"
+#include "engine/machine_controls.h"
 #include "shell/settings.h"
 
 namespace shell {
@@ -10,7 +10,7 @@ namespace shell {
 /// How the tape is written, and its place in the window.
 class TapeOptions {
  public:
-  TapeOptions(controls::Window& window, controls::Desktop& desktop);
+  TapeOptions(const controls::Window& window, const engine::MachineControls& controls);
 
   void restore(const Settings& settings);
   void save(Settings& settings) const;
@@ -21,16 +21,12 @@ class TapeOptions {
   /// As the mark in the menu says; a tape without figures gets the header that belongs to it.
   void applyPadding();
   /// The menu's item, and what the toggle does however it was pressed.
-  void toggleOff() { chkTapeOff_.setValue(1 - chkTapeOff_.value()); }
+  void toggleOff() { controls_.chkTapeOff.setValue(1 - controls_.chkTapeOff.value()); }
   void offChanged();
 
  private:
-  controls::Window& window_;
-  controls::Desktop& desktop_;
-  controls::TextBox& txtTape_;
-  controls::TextBox& txtEntry_;
-  controls::ToggleButton& chkTapeOff_;
-  controls::MenuItem& mnuWinPadTape_;
+  const controls::Window& window_;
+  const engine::MachineControls& controls_;
   controls::MenuItem& mnuWinTapeOff_;
   /// The tape when its padding was changed last.
   std::string tapeAtChange_;

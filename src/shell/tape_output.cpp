@@ -2,42 +2,36 @@
 
 namespace shell {
 
-TapeOutput::TapeOutput(controls::Window& window, controls::Desktop& desktop)
-    : desktop_(desktop),
-      txtTape_(window.textBox("txtTape")),
-      txtEntry_(window.textBox("txtEntry")),
-      mnuWinPadTape_(window.menuItem("mnuWinPadTape")) {}
-
 // Shows the selection once, and returns the user to typing.
 bool TapeOutput::copyWholeTape() {
-  txtTape_.selectAll();
-  const bool copied = desktop_.setClipboardText(txtTape_.selectedText());
-  txtTape_.setFocus();
-  txtEntry_.setFocus();
+  controls_.txtTape.selectAll();
+  const bool copied = controls_.desktop.setClipboardText(controls_.txtTape.selectedText());
+  controls_.txtTape.setFocus();
+  controls_.txtEntry.setFocus();
   return copied;
 }
 
 void TapeOutput::copyTape() {
-  if (!mnuWinPadTape_.checked())
-    desktop_.showMessage(
+  if (!controls_.mnuWinPadTape.checked())
+    controls_.desktop.showMessage(
         {.text = "Note: If pasting to a text file this option will work better if the Win | Pad "
                  "Tape choice is selected from the main menu.  This choice must be selected before "
                  "keying in the numbers."});
-  if (!copyWholeTape()) desktop_.beep();
+  if (!copyWholeTape()) controls_.desktop.beep();
 }
 
 void TapeOutput::openInNotepad() {
   if (handingOver_) {
-    desktop_.beep();
+    controls_.desktop.beep();
     return;
   }
   handingOver_ = true;
-  if (!mnuWinPadTape_.checked())
-    desktop_.showMessage(
+  if (!controls_.mnuWinPadTape.checked())
+    controls_.desktop.showMessage(
         {.text = "Note: This option will work better if the Win | Pad Tape choice is selected from "
                  "the main menu.  This choice must be selected before keying in the numbers."});
-  if (!copyWholeTape() || !desktop_.startProgramAndPaste("NotePad.exe"))
-    desktop_.showMessage({.text = "Error finding or displaying NotePad.exe"});
+  if (!copyWholeTape() || !controls_.desktop.startProgramAndPaste("NotePad.exe"))
+    controls_.desktop.showMessage({.text = "Error finding or displaying NotePad.exe"});
   handingOver_ = false;
 }
 
@@ -50,7 +44,7 @@ void TapeOutput::print() {
 }
 
 void TapeOutput::offerNotepad(const std::string& title) {
-  const int answer = desktop_.showMessage(
+  const int answer = controls_.desktop.showMessage(
       {.text = "This option copies the Tape Display to the clipboard and executes Notepad.  If you "
                "would like to use another program other than Notepad choose Edit from the main "
                "menu and then Copy Entire Tape.  Do you wish to continue?",

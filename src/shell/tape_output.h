@@ -2,14 +2,14 @@
 
 #include <string>
 
-#include "controls/desktop.h"
+#include "engine/machine_controls.h"
 
 namespace shell {
 
 /// The tape goes to the clipboard and from there to Notepad, which saves and prints it.
 class TapeOutput {
  public:
-  TapeOutput(controls::Window& window, controls::Desktop& desktop);
+  explicit TapeOutput(const engine::MachineControls& controls) : controls_(controls) {}
 
   void copyTape();
   /// Beeps while Notepad is still awaited.
@@ -22,10 +22,7 @@ class TapeOutput {
   bool copyWholeTape();
   void offerNotepad(const std::string& title);
 
-  controls::Desktop& desktop_;
-  controls::TextBox& txtTape_;
-  controls::TextBox& txtEntry_;
-  controls::MenuItem& mnuWinPadTape_;
+  const engine::MachineControls& controls_;
   // Notepad is awaited, while the window goes on working.
   bool handingOver_ = false;
 };

@@ -19,21 +19,21 @@ void TextBoxColors::restore() {
 }
 
 void TextBoxColors::mark(controls::TextBox& box) {
-  controls::TextBox& entry = window_.textBox("txtEntry");
-  if (&box != &entry) entry.setBackColor(kWhite);
+  if (&box != &controls_.txtEntry) controls_.txtEntry.setBackColor(kWhite);
   box.setBackColor(program_.focusColor());
 }
 
 void TextBoxColors::choose() {
-  desktop_.showMessage(
+  controls_.desktop.showMessage(
       {.text = "On the next screen choose the color you would like as the background color "
                "for the text boxes. Choose Cancel on the next screen to quit."});
-  const auto color = desktop_.chooseColor(program_.focusColor().value());
+  const auto color = controls_.desktop.chooseColor(program_.focusColor().value());
   // 0, black, counts as no colour chosen.
   if (!color || *color == 0) return;
   program_.setFocusColor(Color::rgb(*color));
   settings_.writeNumber("glngTextBackColor", *color);
-  if (window_.focusedControl()) window_.focusedControl()->setBackColor(program_.focusColor());
+  controls::Control* focused = controls_.txtEntry.window().focusedControl();
+  if (focused) focused->setBackColor(program_.focusColor());
 }
 
 }  // namespace shell

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "controls/desktop.h"
+#include "engine/machine_controls.h"
 #include "shell/program.h"
 #include "shell/settings.h"
 
@@ -9,9 +9,8 @@ namespace shell {
 /// The text box that has the focus has a colour of its own, which the user chooses.
 class TextBoxColors {
  public:
-  TextBoxColors(controls::Window& window, controls::Desktop& desktop, Program& program,
-                Settings& settings)
-      : window_(window), desktop_(desktop), program_(program), settings_(settings) {}
+  TextBoxColors(const engine::MachineControls& controls, Program& program, Settings& settings)
+      : controls_(controls), program_(program), settings_(settings) {}
 
   void restore();
   /// The box gets the focus, which the entry box has shown until then.
@@ -20,8 +19,7 @@ class TextBoxColors {
   void choose();
 
  private:
-  controls::Window& window_;
-  controls::Desktop& desktop_;
+  const engine::MachineControls& controls_;
   Program& program_;
   Settings& settings_;
 };

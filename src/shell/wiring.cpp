@@ -15,9 +15,6 @@ void frmCalc::wireKeys() {
   const auto button = [this](std::string_view name) -> std::function<void()>& {
     return window_->button(name).onClick;
   };
-  const auto toggle = [this](std::string_view name) -> std::function<void()>& {
-    return window_->toggleButton(name).onClick;
-  };
   button("cmdPlus") = [this] { machine_.plus(); };
   button("cmdMinus") = [this] { machine_.minus(); };
   button("cmdTimes") = [this] { machine_.times(); };
@@ -40,14 +37,14 @@ void frmCalc::wireKeys() {
     button("cmdNumber(" + std::to_string(digit) + ")") = [this, digit] {
       typeKey('0' + digit, '0' + digit);
     };
-  toggle("chkFloatingDec") = [this] { decimalsBox_.floatingChanged(); };
-  toggle("chkShiftDec") = [this] { decimalsBox_.stationaryChanged(); };
-  toggle("chkTapeOff") = [this] { tapeOptions_.offChanged(); };
+  controls_.chkFloatingDec.onClick = [this] { decimalsBox_.floatingChanged(); };
+  controls_.chkShiftDec.onClick = [this] { decimalsBox_.stationaryChanged(); };
+  controls_.chkTapeOff.onClick = [this] { tapeOptions_.offChanged(); };
 }
 
 // A key of the keypad types into the entry box, as the keyboard does.
 void frmCalc::typeKey(controls::KeyCode key, controls::KeyAscii character) {
-  window_->textBox("txtEntry").setFocus();
+  controls_.txtEntry.setFocus();
   window_->sendKey(key, character);
 }
 
@@ -61,13 +58,12 @@ void frmCalc::wireFigures() {
 // A figure typed while a key or a toggle has the focus.
 void frmCalc::typeIntoEntry(controls::KeyAscii& key) {
   if (key != '.' && (key < '0' || key > '9')) return;
-  controls::TextBox& txtEntry = window_->textBox("txtEntry");
-  txtEntry.setFocus();
-  txtEntry.typeCharacter(std::exchange(key, 0));
+  controls_.txtEntry.setFocus();
+  controls_.txtEntry.typeCharacter(std::exchange(key, 0));
 }
 
 void frmCalc::wireEntry() {
-  controls::TextBox& txtEntry = window_->textBox("txtEntry");
+  controls::TextBox& txtEntry = controls_.txtEntry;
   txtEntry.onKeyPress = [this](controls::KeyAscii& key) { machine_.keyPress(key); };
   txtEntry.onKeyUp = [this](controls::KeyCode key) { machine_.entry().keyUp(key); };
   txtEntry.onChange = [this](controls::ChangedBy by) { machine_.entry().changed(by); };
@@ -80,10 +76,10 @@ void frmCalc::wireEntry() {
 }
 
 void frmCalc::wireOtherBoxes() {
-  controls::TextBox& txtTape = window_->textBox("txtTape");
-  controls::TextBox& txtDec = window_->textBox("txtDec");
+  controls::TextBox& txtTape = controls_.txtTape;
+  controls::TextBox& txtDec = controls_.txtDec;
   txtTape.onEdit = [this](const common::TextEdit& edit) {
-    window_->desktop().tapeSafe().record(edit);
+    controls_.desktop.tapeSafe().record(edit);
   };
   txtTape.onGotFocus = [this, &txtTape] {
     txtTape.moveCaretToEnd();

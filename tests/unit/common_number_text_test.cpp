@@ -38,20 +38,11 @@ int errorOf(std::string_view text) {
   }
 }
 
-int errorOfPlain(std::string_view text) {
-  try {
-    toPlainText(text);
-    return 0;
-  } catch (const RunTimeError& error) {
-    return error.number();
-  }
-}
-
 void expectErrors(int number, const std::vector<std::string>& texts) {
   for (const std::string& text : texts) {
     SCOPED_TRACE(testing::PrintToString(text));
     EXPECT_EQ(errorOf(text), number);
-    EXPECT_EQ(errorOfPlain(text), number);
+    EXPECT_FALSE(toPlainText(text).has_value());
     EXPECT_FALSE(tryNumber(text).has_value());
   }
 }
@@ -212,10 +203,7 @@ TEST(TextToNumber, IsQuickWithRubbishOf64Kilobytes) {
          {text, "1" + text, text + "1", "1E" + text, "1." + text, "$" + text, "." + text + "1",
           "(" + text + ")", text + "E-" + text}) {
       tryNumber(each);
-      try {
-        toPlainText(each);
-      } catch (const RunTimeError&) {
-      }
+      toPlainText(each);
     }
   }
   const auto elapsed = std::chrono::steady_clock::now() - start;

@@ -12,7 +12,7 @@ namespace {
 void expectPlain(const std::vector<std::pair<std::string, std::string>>& texts) {
   for (const auto& [text, plain] : texts) {
     SCOPED_TRACE(testing::PrintToString(text));
-    EXPECT_NO_THROW(EXPECT_EQ(toPlainText(text), plain));
+    EXPECT_EQ(toPlainText(text), plain);
   }
 }
 
@@ -74,7 +74,7 @@ TEST(PlainText, HasTheValueOfWhatWasWritten) {
   for (const char* text : {"1.23456E+3", "1.7976931348623157E308", "4.9E-324", "($1,234.567)",
                            "123456.789E-3", "000.00012E-5", "1,2,3E2"}) {
     SCOPED_TRACE(text);
-    EXPECT_EQ(toNumber(toPlainText(text)), toNumber(text));
+    EXPECT_EQ(toNumber(toPlainText(text).value()), toNumber(text));
   }
 }
 

@@ -12,19 +12,6 @@
 namespace engine {
 namespace {
 
-MachineControls controlsOf(controls::Desktop& desktop, controls::Window& window) {
-  return {.desktop = desktop,
-          .txtEntry = window.textBox("txtEntry"),
-          .txtTape = window.textBox("txtTape"),
-          .txtDec = window.textBox("txtDec"),
-          .chkFloatingDec = window.toggleButton("chkFloatingDec"),
-          .chkShiftDec = window.toggleButton("chkShiftDec"),
-          .chkTapeOff = window.toggleButton("chkTapeOff"),
-          .cmdMemPlus = window.button("cmdMemPlus"),
-          .mnuWinModes = window.menuItem("mnuWinModes"),
-          .mnuWinPadTape = window.menuItem("mnuWinPadTape")};
-}
-
 struct Case {
   const char* whatAUserSees;
   int number;
@@ -60,7 +47,7 @@ INSTANTIATE_TEST_SUITE_P(
 std::size_t boxesAfterMouse(controls::MouseEdit edit, const char* text) {
   inmemory::Desktop desktop;
   const auto window = desktop.createWindow(shell::frmCalcLayout());
-  AddingMachine machine(controlsOf(desktop, *window));
+  AddingMachine machine{MachineControls(*window)};
   window->textBox("txtEntry").setText(text);
   machine.entryPaste().mouseUp(edit);
   return desktop.boxes.size();
