@@ -12,6 +12,7 @@ from topic_source import (
     BOLD,
     CODE,
     LINK,
+    SHEET,
     ContentsList,
     Heading,
     ListBlock,
@@ -54,7 +55,7 @@ def write_redirect(page_name, topic):
 def write_blocks(topics, topic, page_name):
     """What `topic` says, for another page; its links lead into the page of the help."""
     writer = _PageWriter("", topics, page_name)
-    return "".join(writer._block(topic, block) for block in topic.blocks)
+    return writer._body(topic)
 
 
 def _texts_of(names):
@@ -108,7 +109,7 @@ class _PageWriter:
             parts.append(f'<p class="chapter">{escape(topic.chapter)}</p>\n')
         parts.append(f"<h{level}>{escape(topic.title)}</h{level}>\n")
         parts += [f'<blockquote class="message">{escape(message)}</blockquote>\n' for message in topic.messages]
-        parts += [self._block(topic, block) for block in topic.blocks]
+        parts.append(self._body(topic))
         if topic.see:
             links = ", ".join(self._link(self._by_slug[slug].title, slug) for slug in topic.see)
             parts.append(f'<p class="see">See also: {links}</p>\n')
@@ -125,6 +126,18 @@ class _PageWriter:
         if place + 1 < len(self._topics):
             links.append(f'<a href="#{anchor(self._topics[place + 1])}" title="Next topic">&rsaquo;&rsaquo;</a>')
         return f'<p class="browse">{" ".join(links)}</p>\n'
+
+    def _body(self, topic):
+        if topic.layout != SHEET:
+            return "".join(self._block(topic, block) for block in topic.blocks)
+        parts = [[]]
+        for block in topic.blocks:
+            if isinstance(block, Heading):
+                parts.append([])
+            parts[-1].append(self._block(topic, block))
+        introduction, *columns = ("".join(part) for part in parts)
+        columns = "".join(f'<div class="part">\n{column}</div>\n' for column in columns)
+        return f'{introduction}<div class="sheet">\n{columns}</div>\n'
 
     def _block(self, topic, block):
         if isinstance(block, Heading):

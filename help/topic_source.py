@@ -86,6 +86,7 @@ class Topic:
     keywords: list = field(default_factory=list)
     messages: list = field(default_factory=list)
     see: list = field(default_factory=list)
+    layout: str = ""
     blocks: list = field(default_factory=list)
 
 
@@ -93,7 +94,9 @@ _INLINE = re.compile(r"`([^`]+)`|\*\*(.+?)\*\*|\[([^\]]+)\]\(([a-z0-9-]+)\)")
 _PICTURE = re.compile(r"!\[([^\]]+)\]\(([a-z0-9-]+)\)")
 _ORDERED = re.compile(r"\d+\. +(.*)")
 _HEADER_LINE = re.compile(r"([a-z]+): *(.*)")
-_HEADER_KEYS = {"number", "title", "chapter", "keywords", "message", "see"}
+_HEADER_KEYS = {"number", "title", "chapter", "keywords", "message", "see", "layout"}
+# Parts that stand beside each other, so that all is on one screen and on one sheet of paper.
+SHEET = "sheet"
 
 
 def parse_inline(text):
@@ -129,6 +132,9 @@ def parse_topic(slug, text):
     topic.keywords = _names(header.get("keywords", []))
     topic.messages = header.get("message", [])
     topic.see = _names(header.get("see", []))
+    topic.layout = " ".join(header.get("layout", []))
+    if topic.layout not in ("", SHEET):
+        raise HelpError(f"{slug}: unknown layout '{topic.layout}'")
     topic.blocks = _BodyParser(slug, lines[end + 1 :]).parse()
     return topic
 

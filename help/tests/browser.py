@@ -2,6 +2,7 @@
 
 import json
 import os
+import re
 import shutil
 import subprocess
 import tempfile
@@ -30,18 +31,33 @@ def run_script(engine, text):
 
 def run_in_browser(browser, page, steps):
     """What `steps`, the body of a function, returns at the end of a page that is opened from a file."""
+    script = f'<script id="{_MARK}">\nvar result = (function () {{\n{steps}\n}})();\n'
+    script += f'document.getElementById("{_MARK}").textContent = JSON.stringify(result);\n</script>\n'
     with tempfile.TemporaryDirectory() as folder:
         file = Path(folder) / "page.html"
-        script = f'<script id="{_MARK}">\nvar result = (function () {{\n{steps}\n}})();\n'
-        script += f'document.getElementById("{_MARK}").textContent = JSON.stringify(result);\n</script>\n'
         file.write_text(page.replace("</body>", script + "</body>"), encoding="utf-8")
-        command = [browser, "--headless", "--disable-gpu", f"--user-data-dir={folder}/profile", "--dump-dom"]
-        if getattr(os, "geteuid", lambda: 1)() == 0:
-            # Browsers refuse their sandbox to root, as which tests run in a container.
-            command.append("--no-sandbox")
-        run = subprocess.run([*command, file.as_uri()], capture_output=True, encoding="utf-8", check=False, timeout=120)
+        run = _run(browser, folder, "--dump-dom", file.as_uri())
     answer = run.stdout.partition(f'<script id="{_MARK}">')[2].partition("</script>")[0]
     try:
         return json.loads(answer)
     except ValueError as error:
         raise AssertionError(f"the steps gave no result:\n{answer}\n{run.stderr[-2000:]}") from error
+
+
+def sheets_of(browser, page, place, paper):
+    """On how many sheets of a size a page is printed that is opened at one of its places."""
+    with tempfile.TemporaryDirectory() as folder:
+        file, printed = Path(folder) / "page.html", Path(folder) / "printed.pdf"
+        file.write_text(page.replace("</style>", f"@page {{ size: {paper}; }}</style>"), encoding="utf-8")
+        run = _run(browser, folder, f"--print-to-pdf={printed}", f"{file.as_uri()}#{place}")
+        if not printed.exists():
+            raise AssertionError(run.stderr[-2000:])
+        return len(re.findall(rb"/Type /Page\b(?!s)", printed.read_bytes()))
+
+
+def _run(browser, folder, *arguments):
+    command = [browser, "--headless", "--disable-gpu", f"--user-data-dir={folder}/profile"]
+    if getattr(os, "geteuid", lambda: 1)() == 0:
+        # Browsers refuse their sandbox to root, as which tests run in a container.
+        command.append("--no-sandbox")
+    return subprocess.run([*command, *arguments], capture_output=True, encoding="utf-8", check=False, timeout=120)

@@ -160,6 +160,7 @@ class ParserTest(unittest.TestCase):
             "no number": ("---\ntitle: x\nchapter: y\n---\n", "number, title or chapter"),
             "unknown header": ("---\nnumber: 1\nsubject: x\n---\n", "unknown header line"),
             "loose header": ("---\nnumber: 1\nwords\n---\n", "neither 'name: text' nor indented"),
+            "unknown layout": ("---\nnumber: 1\ntitle: x\nchapter: y\nlayout: round\n---\n", "unknown layout 'round'"),
             "open sample": ("---\nnumber: 1\ntitle: x\nchapter: y\n---\n```\n1\n", "no closing"),
             "uneven table": ("---\nnumber: 1\ntitle: x\nchapter: y\n---\n| a | b |\n| 1 |\n", "number of cells"),
             "other heading": ("---\nnumber: 1\ntitle: x\nchapter: y\n---\n# a\n", "only '## ' headings"),
