@@ -18,11 +18,11 @@ ROOT = pathlib.Path(__file__).resolve().parents[1]
 sys.path.insert(0, str(ROOT / "help"))
 sys.dont_write_bytecode = True
 
-from html_writer import write_blocks  # noqa: E402
-from topic_source import Picture, load_topics  # noqa: E402
+from html_writer import anchor, write_blocks  # noqa: E402
+from topic_source import Heading, load_topics  # noqa: E402
 
 PLACEHOLDER_ADDRESS = "https://example.com/tallyrex"
-TOUR, KEYBOARD = "five-minutes", "keyboard"
+START, TOUR, KEYBOARD = "five-minutes", "desk-calculator", "keyboard"
 HELP = "help/Tallyrex.html"
 
 
@@ -79,13 +79,18 @@ def picture(name, words):
 
 
 def topics():
-    """{slug: HTML} of the help's topics that the page shows; links to other topics lead into the help."""
+    """{slug: (address in the help, HTML)} of the help's topics that the page shows or leads to."""
     loaded = load_topics(ROOT / "help" / "topics")
-    shown = {topic.slug: topic for topic in loaded if topic.slug in (TOUR, KEYBOARD)}
-    # The page has the picture already, at its top.
-    tour = [block for block in shown[TOUR].blocks if not isinstance(block, Picture)]
-    shown[TOUR] = dataclasses.replace(shown[TOUR], blocks=tour)
-    return {slug: write_blocks(loaded, topic, HELP) for slug, topic in shown.items()}
+    return {topic.slug: (HELP + "#" + anchor(topic), write_blocks(loaded, without_introduction(topic), HELP))
+            for topic in loaded if topic.slug in (START, TOUR, KEYBOARD)}
+
+
+def without_introduction(topic):
+    """The keyboard without what it says of the page that it is on in the help."""
+    if topic.slug != KEYBOARD:
+        return topic
+    first = next(place for place, block in enumerate(topic.blocks) if isinstance(block, Heading))
+    return dataclasses.replace(topic, blocks=topic.blocks[first:])
 
 
 def page(address):
@@ -94,12 +99,12 @@ def page(address):
     number = version()
     folder = "%s/releases/download/v%s" % (address.rstrip("/"), number)
     return text_of("docs/page.html.in").format(
-        style=text_of("help/base.css") + text_of("docs/page.css"), introduction=introduction(), features=features(), version=number,
-        setup="%s/Tallyrex-%s-setup.exe" % (folder, number), archive="%s/Tallyrex-%s-portable.zip" % (folder, number),
-        sums=folder + "/SHA256SUMS", address=address,
+        style=text_of("help/base.css") + text_of("docs/page.css"), introduction=introduction(), features=features(),
+        version=number, setup="%s/Tallyrex-%s-setup.exe" % (folder, number),
+        archive="%s/Tallyrex-%s-portable.zip" % (folder, number), sums=folder + "/SHA256SUMS", address=address,
         main_window=picture("main-window", "The main window: keys and entry box on the left, the tape on the right"),
-        loan=picture("annuity-loan", "The financial calculator with a loan"),
-        tour=shown[TOUR], keyboard=shown[KEYBOARD], changes=changes())
+        loan=picture("annuity-loan", "The financial calculator with a loan"), help=HELP, start=shown[START][0],
+        tour=shown[TOUR][1], keyboard_address=shown[KEYBOARD][0], keyboard=shown[KEYBOARD][1], changes=changes())
 
 
 def main():

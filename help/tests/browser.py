@@ -29,19 +29,31 @@ def run_script(engine, text):
     return run.stdout
 
 
-def run_in_browser(browser, page, steps):
+def run_in_browser(browser, page, steps, width=1280):
     """What `steps`, the body of a function, returns at the end of a page that is opened from a file."""
     script = f'<script id="{_MARK}">\nvar result = (function () {{\n{steps}\n}})();\n'
     script += f'document.getElementById("{_MARK}").textContent = JSON.stringify(result);\n</script>\n'
     with tempfile.TemporaryDirectory() as folder:
         file = Path(folder) / "page.html"
         file.write_text(page.replace("</body>", script + "</body>"), encoding="utf-8")
-        run = _run(browser, folder, "--dump-dom", file.as_uri())
+        run = _run(browser, folder, f"--window-size={width},800", "--dump-dom", file.as_uri())
     answer = run.stdout.partition(f'<script id="{_MARK}">')[2].partition("</script>")[0]
     try:
         return json.loads(answer)
     except ValueError as error:
         raise AssertionError(f"the steps gave no result:\n{answer}\n{run.stderr[-2000:]}") from error
+
+
+def stands_out(browser, page, width):
+    """The elements that reach beyond the right edge of a window of that width, so that the page would scroll sideways."""
+    steps = """
+        var room = document.documentElement.clientWidth;
+        var scrolled = Array.from(document.querySelectorAll("pre, .table"));
+        return Array.from(document.querySelectorAll("body *")).filter(function (part) {
+          var inside = scrolled.some(function (box) { return box !== part && box.contains(part); });
+          return !inside && part.getBoundingClientRect().right > room + 1;
+        }).map(function (part) { return part.tagName + " " + part.textContent.slice(0, 40); });"""
+    return run_in_browser(browser, page, steps, width)
 
 
 def sheets_of(browser, page, place, paper):

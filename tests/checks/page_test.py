@@ -2,9 +2,15 @@
 import html.parser
 import importlib.util
 import re
+import sys
 import unittest
 
 import tree
+
+sys.path[:0] = [str(tree.ROOT / "help"), str(tree.ROOT / "help" / "tests")]
+
+from browser import BROWSERS, first_of, stands_out  # noqa: E402
+from topic_source import load_topics  # noqa: E402
 
 ADDRESS = "https://forge.test/tallyrex"
 LOADED = {"img": "src", "script": "src", "link": "href", "iframe": "src", "source": "src"}
@@ -75,9 +81,18 @@ class Page(unittest.TestCase):
             self.assertIn("%s/releases/download/v%s/Tallyrex-%s-%s" % (ADDRESS, version(), version(), package),
                           self.page.links)
 
+    def test_leads_to_topics_that_are_in_the_help(self):
+        topics = {"topic%d" % topic.number for topic in load_topics(tree.ROOT / "help" / "topics")}
+        places = [link.partition("#")[2] for link in self.page.links if link.startswith("help/Tallyrex.html#")]
+        self.assertLess({"topic2", "topic7"}, set(places))
+        self.assertLessEqual(set(places), topics)
+
+    def test_says_nothing_that_is_true_of_a_page_of_the_help_alone(self):
+        self.assertNotIn("this page fits", self.page.words)
+
     def test_says_what_the_readme_the_help_and_the_change_log_say(self):
         words = " ".join(self.page.words.split())
-        for passage in ("A desktop adding machine for Windows", "Add up a column of figures",
+        for passage in ("A desktop adding machine for Windows", "carries the total forward",
                         "Micro Window and Adding Machine"):
             self.assertIn(passage, words)
         self.assertIn("What is new in %s" % version(), words)
@@ -86,6 +101,11 @@ class Page(unittest.TestCase):
         log = (tree.ROOT / "CHANGELOG.md").read_text(encoding="utf-8")
         section = next(part for part in log.split("\n## ") if part.startswith(version() + "\n"))
         self.assertEqual(self.text.partition('id="new"')[2].count("<li>"), len(re.findall("^- ", section, re.M)))
+
+    @unittest.skipUnless(first_of(BROWSERS), "there is no browser here")
+    def test_fits_into_windows_of_all_widths(self):
+        for width in (500, 1000, 1600):
+            self.assertEqual(stands_out(first_of(BROWSERS), self.text, width), [], width)
 
     def test_comes_in_light_and_dark(self):
         self.assertIn("prefers-color-scheme: dark", self.text)
