@@ -1,8 +1,10 @@
 #include "common/run_time_error.h"
 
 #include <cmath>
+#include <string_view>
 
 namespace common {
+namespace {
 
 std::string_view standardDescription(int number) {
   switch (number) {
@@ -18,6 +20,8 @@ std::string_view standardDescription(int number) {
       return "Application-defined or object-defined error";
   }
 }
+
+}  // namespace
 
 std::string errorText(int number) {
   std::string text = "Error:" + std::to_string(number);

@@ -2,7 +2,6 @@
 
 #include <exception>
 #include <string>
-#include <string_view>
 
 namespace common {
 
@@ -26,9 +25,6 @@ class RunTimeError : public std::exception {
  private:
   int number_;
 };
-
-/// The standard description of a run-time error, such as "Type mismatch" for 13.
-std::string_view standardDescription(int number);
 
 /// What both windows report: "Error:13 Type mismatch". After an error that makes a window unusable
 /// a second line advises a fresh one.

@@ -92,21 +92,21 @@ bool TextBox::hasPairAt(int start) const {
   return pair == "\r\n" || (pair.size() == 4 && (pair[0] & kFirstOfFourBytes) == kFirstOfFourBytes);
 }
 
-bool TextBox::backspace() {
+void TextBox::backspace() {
   const auto [start, length] = loadSelection();
-  return takeAway(length > 0 ? start : std::max(0, start - 1), start + length);
+  takeAway(length > 0 ? start : std::max(0, start - 1), start + length);
 }
 
-bool TextBox::deleteForward() {
+void TextBox::deleteForward() {
   const auto [start, length] = loadSelection();
-  return takeAway(start, length > 0 ? start + length : std::min(start + 1, this->length()));
+  takeAway(start, length > 0 ? start + length : std::min(start + 1, this->length()));
 }
 
-bool TextBox::takeAway(int start, int end) {
+void TextBox::takeAway(int start, int end) {
   if (hasPairAt(start - 1)) --start;
   if (hasPairAt(end - 1)) ++end;
   storeSelection(start, end - start);
-  return replaceSelection("");
+  replaceSelection("");
 }
 
 std::string firstLineOf(std::string_view text) {
@@ -173,8 +173,7 @@ void TextBox::typeCharacter(KeyAscii character) {
 void TextBox::actOnCharacter(KeyAscii character) {
   switch (character) {
     case kKeyBackspace:
-      backspace();
-      return;
+      return backspace();
     case kKeyEnter:
       if (layout().multiLine) replaceSelection("\r\n");
       return;

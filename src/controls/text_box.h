@@ -77,10 +77,6 @@ class TextBox : public Control {
   /// it put there, and tells whether it changed the text. What is too long for a box of one line is
   /// refused with a beep.
   bool replaceSelection(std::string_view text);
-  /// These take whole characters away: a line end, or a character of two units, goes as one, also
-  /// with the caret inside it.
-  bool backspace();
-  bool deleteForward();
   /// Pastes the clipboard's text by a command: the menu's, a key's, another program's. Beeps where
   /// another program holds the clipboard.
   void paste();
@@ -132,10 +128,14 @@ class TextBox : public Control {
     std::string before;
   };
 
+  // These take whole characters away: a line end, or a character of two units, goes as one, also
+  // with the caret inside it.
+  void backspace();
+  void deleteForward();
+  void takeAway(int start, int end);
   bool pasteByMouse();
   bool pasteText(std::string text);
   bool hasPairAt(int start) const;
-  bool takeAway(int start, int end);
   MouseEdit carryOut(BoxCommand chosen);
   void actOnCharacter(KeyAscii character);
   void insert(KeyAscii character);

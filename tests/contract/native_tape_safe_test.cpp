@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <memory>
 #include <string>
 #include <vector>
@@ -44,14 +45,9 @@ class NativeTapeSafe : public testing::Test {
   /// The files in the folder of the tapes.
   std::vector<std::wstring> files() const {
     std::vector<std::wstring> names;
-    WIN32_FIND_DATAW found;
-    const HANDLE search = FindFirstFileW((folder_ + L"\\*").c_str(), &found);
-    if (search == INVALID_HANDLE_VALUE) return names;
-    do {
-      if (!(found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY))
-        names.push_back(folder_ + L"\\" + found.cFileName);
-    } while (FindNextFileW(search, &found));
-    FindClose(search);
+    std::error_code absent;
+    for (const auto& entry : std::filesystem::directory_iterator(folder_, absent))
+      if (entry.is_regular_file()) names.push_back(entry.path().wstring());
     return names;
   }
 

@@ -16,6 +16,12 @@ class MaximizedTest : public LooksTest {
     height_ = tell("get frmCalc Height")["value"];
   }
 
+  /// The screen that the window then fills.
+  RECT maximize() {
+    tell("maximize frmCalc");
+    return placeOf(window_);
+  }
+
   /// The system moves a window that fills its screen to another screen, or makes it as large as its
   /// screen has become.
   void fillScreen(const RECT& place) {
@@ -41,7 +47,12 @@ class MaximizedTest : public LooksTest {
         << ", " << seen.top;
   }
 
-  void expectRestored(LONG left, LONG top, int dpi) {
+  void restoreTo(LONG left, LONG top, int dpi) {
+    tell("restore frmCalc");
+    expectNormal(left, top, dpi);
+  }
+
+  void expectNormal(LONG left, LONG top, int dpi) {
     EXPECT_EQ(tell("get frmCalc WindowState")["value"], "normal");
     EXPECT_EQ(placeOf(window_).left, left);
     EXPECT_EQ(placeOf(window_).top, top);
@@ -59,28 +70,24 @@ class MaximizedTest : public LooksTest {
 };
 
 TEST_F(MaximizedTest, FillsAScreenWhoseScalingChanges) {
-  tell("maximize frmCalc");
-  const RECT screen = placeOf(window_);
+  const RECT screen = maximize();
   setResolution(window_, 144, screen);
   expectFills(screen);
-  tell("restore frmCalc");
-  expectRestored(normal_.left, normal_.top, 144);
+  restoreTo(normal_.left, normal_.top, 144);
 }
 
 TEST_F(MaximizedTest, ComesBackExactlyWhenTheScalingDid) {
-  tell("maximize frmCalc");
-  const RECT screen = placeOf(window_);
+  const RECT screen = maximize();
   setResolution(window_, 144, screen);
   setResolution(window_, 96, screen);
   expectFills(screen);
-  tell("restore frmCalc");
+  restoreTo(normal_.left, normal_.top, 96);
   EXPECT_EQ(tell("get frmCalc Left")["value"], 1500);
   EXPECT_EQ(tell("get frmCalc Top")["value"], 900);
-  expectRestored(normal_.left, normal_.top, 96);
 }
 
 TEST_F(MaximizedTest, FillsTheOtherScreenThatItIsSentTo) {
-  tell("maximize frmCalc");
+  maximize();
   const RECT other = {300, 100, 1100, 700};
   fillScreen(other);
   setResolution(window_, 144, other);
@@ -89,8 +96,7 @@ TEST_F(MaximizedTest, FillsTheOtherScreenThatItIsSentTo) {
                       150 + normal_.bottom - normal_.top};
   setNormalPlace(there);
   expectFills(other);
-  tell("restore frmCalc");
-  expectRestored(there.left, there.top, 144);
+  restoreTo(there.left, there.top, 144);
 }
 
 TEST_F(MaximizedTest, KeepsItsSizeToTheTwipWhenItsScreenIsUnplugged) {
@@ -99,41 +105,36 @@ TEST_F(MaximizedTest, KeepsItsSizeToTheTwipWhenItsScreenIsUnplugged) {
   width_ = 7001;
   height_ = 4001;
   normal_ = placeOf(window_);
-  tell("maximize frmCalc");
+  maximize();
   const RECT smaller = {0, 0, 808, 608};
   fillScreen(smaller);
   RECT there = normal_;
   OffsetRect(&there, 30, 20);
   setNormalPlace(there);
   expectFills(smaller);
-  tell("restore frmCalc");
-  expectRestored(there.left, there.top, 96);
+  restoreTo(there.left, there.top, 96);
 }
 
 TEST_F(MaximizedTest, MinimizedItComesUpInTheSizeForItsScreen) {
   tell("minimize frmCalc");
   const RECT icon = placeOf(window_);
   setResolution(window_, 144, icon);
-  tell("restore frmCalc");
-  expectRestored(normal_.left, normal_.top, 144);
+  restoreTo(normal_.left, normal_.top, 144);
 }
 
 TEST_F(MaximizedTest, MinimizedInBetweenItFillsItsScreenAgain) {
-  tell("maximize frmCalc");
-  const RECT screen = placeOf(window_);
+  const RECT screen = maximize();
   tell("minimize frmCalc");
   setResolution(window_, 144, placeOf(window_));
   ShowWindow(window_, SW_RESTORE);
   expectFills(screen);
-  tell("restore frmCalc");
-  expectRestored(normal_.left, normal_.top, 144);
+  restoreTo(normal_.left, normal_.top, 144);
 }
 
 TEST_F(MaximizedTest, AScreenThatChangesLeavesAWindowInItsPlace) {
   SendMessageW(window_, WM_DISPLAYCHANGE, 32, MAKELPARAM(800, 600));
-  expectRestored(normal_.left, normal_.top, 96);
-  tell("maximize frmCalc");
-  const RECT screen = placeOf(window_);
+  expectNormal(normal_.left, normal_.top, 96);
+  const RECT screen = maximize();
   SendMessageW(window_, WM_DISPLAYCHANGE, 32, MAKELPARAM(800, 600));
   expectFills(screen);
 }

@@ -5,66 +5,52 @@
 namespace annuity {
 namespace {
 
-using controls::Alignment;
-using controls::ControlKind;
-using layout_rules::Seen;
-
-constexpr ControlKind kBox = ControlKind::TextBox;
-constexpr ControlKind kButton = ControlKind::Button;
-constexpr ControlKind kLabel = ControlKind::Label;
-constexpr ControlKind kFrame = ControlKind::Frame;
-constexpr ControlKind kOption = ControlKind::OptionButton;
-
-constexpr std::string_view kSans = "MS Sans Serif";
+using namespace layout_rules;
 
 TEST(FrmAnnuityLayout, EveryControlIsInSight) {
-  layout_rules::expectAllInSight(frmAnnuityLayout());
+  expectAllInSight(frmAnnuityLayout());
 }
 
 TEST(FrmAnnuityLayout, FieldsStandUnderEachOtherBesideTheirLabels) {
   const auto& layout = frmAnnuityLayout();
   const std::vector<std::string_view> labels = {"Label2", "Label3", "Label4", "Label5", "Label6"};
   const std::vector<std::string_view> fields = {"txtNper", "txtRate", "txtPmt", "txtPV", "txtFV"};
-  layout_rules::expectColumn(layout, labels);
-  layout_rules::expectColumn(layout, fields);
+  expectColumn(layout, labels);
+  expectColumn(layout, fields);
   for (std::size_t i = 0; i < fields.size(); ++i) {
-    const auto& label = layout_rules::placeOf(layout, labels[i]);
-    const auto& field = layout_rules::placeOf(layout, fields[i]);
-    EXPECT_LT(layout_rules::right(label), field.left);
+    const auto& label = placeOf(layout, labels[i]);
+    const auto& field = placeOf(layout, fields[i]);
+    EXPECT_LT(right(label), field.left);
     EXPECT_GT(label.top, field.top);
-    EXPECT_LT(layout_rules::bottom(label), layout_rules::bottom(field));
+    EXPECT_LT(bottom(label), bottom(field));
   }
 }
 
 TEST(FrmAnnuityLayout, ButtonsAndOptionsStandInRows) {
   const auto& layout = frmAnnuityLayout();
-  layout_rules::expectRow(layout, {"cmdRotateLabels", "cmdPrintToTape", "cmdClearAll", "cmdHelp"});
-  layout_rules::expectRow(layout, {"optNper(0)", "optNper(1)"});
-  EXPECT_EQ(layout_rules::placeOf(layout, "optNper(0)").top,
-            layout_rules::placeOf(layout, "txtNper").top);
-  const auto& frame = layout_rules::placeOf(layout, "fraDueBy");
+  expectRow(layout, {"cmdRotateLabels", "cmdPrintToTape", "cmdClearAll", "cmdHelp"});
+  expectRow(layout, {"optNper(0)", "optNper(1)"});
+  EXPECT_EQ(placeOf(layout, "optNper(0)").top, placeOf(layout, "txtNper").top);
+  const auto& frame = placeOf(layout, "fraDueBy");
   for (const auto name : {"optDue(0)", "optDue(1)", "Label7"}) {
-    const auto& place = layout_rules::placeOf(layout, name);
+    const auto& place = placeOf(layout, name);
     EXPECT_GT(place.left, frame.left) << name;
     EXPECT_GT(place.top, frame.top) << name;
-    EXPECT_LT(layout_rules::right(place), layout_rules::right(frame)) << name;
-    EXPECT_LT(layout_rules::bottom(place), layout_rules::bottom(frame)) << name;
+    EXPECT_LT(right(place), right(frame)) << name;
+    EXPECT_LT(bottom(place), bottom(frame)) << name;
   }
 }
 
 TEST(FrmAnnuityLayout, AnswerStandsUnderTheKeyThatAsksForIt) {
   const auto& layout = frmAnnuityLayout();
   const auto below = [&](const char* upper, const char* lower) {
-    EXPECT_LE(layout_rules::bottom(layout_rules::placeOf(layout, upper)),
-              layout_rules::placeOf(layout, lower).top)
-        << lower;
+    EXPECT_LE(bottom(placeOf(layout, upper)), placeOf(layout, lower).top) << lower;
   };
   below("txtFV", "Label8");
   below("Label8", "cmdCalculate");
   below("cmdCalculate", "lblResultType");
   below("lblResultType", "lblAnswer");
-  EXPECT_EQ(layout_rules::right(layout_rules::placeOf(layout, "lblAnswer")),
-            layout_rules::right(layout_rules::placeOf(layout, "txtFV")));
+  EXPECT_EQ(right(placeOf(layout, "lblAnswer")), right(placeOf(layout, "txtFV")));
 }
 
 TEST(FrmAnnuityLayout, OptionsOfAGroupExcludeEachOther) {
@@ -111,7 +97,7 @@ constexpr Seen kListed[] = {
 };
 
 TEST(FrmAnnuityLayout, EveryControlIsSeenAsListed) {
-  layout_rules::expectSeen(frmAnnuityLayout(), kListed);
+  expectSeen(frmAnnuityLayout(), kListed);
 }
 
 }  // namespace

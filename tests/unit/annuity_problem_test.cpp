@@ -38,6 +38,12 @@ void expectError(const Outcome& outcome, int number) {
   EXPECT_EQ(error->number(), number);
 }
 
+void expectPaymentWritten(const Outcome& outcome, std::string_view text) {
+  ASSERT_EQ(outcome.written.size(), 1U);
+  EXPECT_EQ(outcome.written[0].quantity, Quantity::Payment);
+  EXPECT_EQ(outcome.written[0].text, text);
+}
+
 TEST(Solve, FindsTheOneThatIsBlank) {
   const auto loan = [](PerQuantity<std::string> texts) {
     return solveAs(AnnuityKind::Loan, inMonths(std::move(texts)));
@@ -76,17 +82,13 @@ TEST(Solve, PaysAtTheBeginningOfThePeriodWhereAsked) {
 TEST(Solve, TakesAPaymentOfZeroForTheOneThatIsAskedFor) {
   const Outcome outcome = solveAs(AnnuityKind::Loan, inMonths({"360", "7.5", "0", "100000", "0"}));
   expectAnswer(outcome, "$ 699.21", "Monthly Payment equals:");
-  ASSERT_EQ(outcome.written.size(), 1U);
-  EXPECT_EQ(outcome.written[0].quantity, Quantity::Payment);
-  EXPECT_EQ(outcome.written[0].text, "");
+  expectPaymentWritten(outcome, "");
 }
 
 TEST(Solve, WritesTheZeroesOfAFutureValue) {
   const Outcome outcome = solveAs(AnnuityKind::Standard, inMonths({"12", "0", "0", "-50", ""}));
   expectAnswer(outcome, "$ 50.00", "Future Value equals:");
-  ASSERT_EQ(outcome.written.size(), 1U);
-  EXPECT_EQ(outcome.written[0].quantity, Quantity::Payment);
-  EXPECT_EQ(outcome.written[0].text, "0");
+  expectPaymentWritten(outcome, "0");
 }
 
 TEST(Solve, ReadsThroughTheSeparatorsOfAnAmount) {

@@ -13,11 +13,23 @@
 
 namespace layout_rules {
 
+using controls::Alignment;
 using controls::ControlKind;
 using controls::ControlLayout;
 using controls::Rect;
 using controls::Twips;
 using controls::WindowLayout;
+
+constexpr ControlKind kBox = ControlKind::TextBox;
+constexpr ControlKind kButton = ControlKind::Button;
+constexpr ControlKind kFrame = ControlKind::Frame;
+constexpr ControlKind kLabel = ControlKind::Label;
+constexpr ControlKind kOption = ControlKind::OptionButton;
+constexpr ControlKind kToggle = ControlKind::ToggleButton;
+
+constexpr std::string_view kSans = "MS Sans Serif";
+constexpr std::string_view kCourier = "Courier New";
+constexpr std::string_view kTerminal = "Terminal";
 
 inline Twips right(const Rect& place) {
   return place.left + place.width;
@@ -51,8 +63,7 @@ inline void expectAllInSight(const WindowLayout& layout) {
     EXPECT_LE(right(one.place), client.width);
     EXPECT_LE(bottom(one.place), client.height);
     for (const ControlLayout& other : layout.controls) {
-      if (&one == &other || one.kind == ControlKind::Frame || other.kind == ControlKind::Frame)
-        continue;
+      if (&one == &other || one.kind == kFrame || other.kind == kFrame) continue;
       EXPECT_FALSE(overlap(one.place, other.place)) << "covers " << other.name;
     }
   }
@@ -97,7 +108,7 @@ struct Seen {
   std::string_view font;
   int tenthsOfPoint;
   bool bold = false;
-  controls::Alignment alignment = controls::Alignment::Left;
+  Alignment alignment = Alignment::Left;
 };
 
 /// Each control is as the list says, and the list has them all.

@@ -5,63 +5,42 @@
 namespace shell {
 namespace {
 
-using controls::Alignment;
-using controls::ControlKind;
-using layout_rules::Seen;
-
-constexpr ControlKind kBox = ControlKind::TextBox;
-constexpr ControlKind kButton = ControlKind::Button;
-constexpr ControlKind kLabel = ControlKind::Label;
-constexpr ControlKind kToggle = ControlKind::ToggleButton;
-
-constexpr std::string_view kSans = "MS Sans Serif";
-constexpr std::string_view kCourier = "Courier New";
-constexpr std::string_view kTerminal = "Terminal";
+using namespace layout_rules;
 
 TEST(FrmCalcLayout, EveryControlIsInSight) {
-  layout_rules::expectAllInSight(frmCalcLayout());
+  expectAllInSight(frmCalcLayout());
 }
 
 TEST(FrmCalcLayout, DigitsStandWhereFingersKnowThem) {
   const auto& layout = frmCalcLayout();
-  layout_rules::expectRow(
-      layout, {"cmdNumber(7)", "cmdNumber(8)", "cmdNumber(9)", "cmdTimes", "cmdPercent"});
-  layout_rules::expectRow(
-      layout, {"cmdNumber(4)", "cmdNumber(5)", "cmdNumber(6)", "cmdMinus", "cmdChangeSign"});
-  layout_rules::expectRow(layout,
-                          {"cmdNumber(1)", "cmdNumber(2)", "cmdNumber(3)", "cmdPlus", "cmdEquals"});
-  layout_rules::expectRow(layout,
-                          {"chkFloatingDec", "chkShiftDec", "chkTapeOff", "cmdDivide", "cmdArrow"});
-  layout_rules::expectRow(layout, {"cmdNumber(0)", "cmdPeriod"});
-  layout_rules::expectColumn(layout,
-                             {"chkFloatingDec", "cmdNumber(7)", "cmdNumber(4)", "cmdNumber(1)"});
-  layout_rules::expectColumn(layout,
-                             {"chkShiftDec", "cmdNumber(8)", "cmdNumber(5)", "cmdNumber(2)"});
-  layout_rules::expectColumn(
-      layout, {"chkTapeOff", "cmdNumber(9)", "cmdNumber(6)", "cmdNumber(3)", "cmdPeriod"});
-  layout_rules::expectColumn(layout, {"cmdDivide", "cmdTimes", "cmdMinus", "cmdPlus"});
-  layout_rules::expectColumn(layout, {"cmdArrow", "cmdPercent", "cmdChangeSign", "cmdEquals"});
+  expectRow(layout, {"cmdNumber(7)", "cmdNumber(8)", "cmdNumber(9)", "cmdTimes", "cmdPercent"});
+  expectRow(layout, {"cmdNumber(4)", "cmdNumber(5)", "cmdNumber(6)", "cmdMinus", "cmdChangeSign"});
+  expectRow(layout, {"cmdNumber(1)", "cmdNumber(2)", "cmdNumber(3)", "cmdPlus", "cmdEquals"});
+  expectRow(layout, {"chkFloatingDec", "chkShiftDec", "chkTapeOff", "cmdDivide", "cmdArrow"});
+  expectRow(layout, {"cmdNumber(0)", "cmdPeriod"});
+  expectColumn(layout, {"chkFloatingDec", "cmdNumber(7)", "cmdNumber(4)", "cmdNumber(1)"});
+  expectColumn(layout, {"chkShiftDec", "cmdNumber(8)", "cmdNumber(5)", "cmdNumber(2)"});
+  expectColumn(layout, {"chkTapeOff", "cmdNumber(9)", "cmdNumber(6)", "cmdNumber(3)", "cmdPeriod"});
+  expectColumn(layout, {"cmdDivide", "cmdTimes", "cmdMinus", "cmdPlus"});
+  expectColumn(layout, {"cmdArrow", "cmdPercent", "cmdChangeSign", "cmdEquals"});
 }
 
 TEST(FrmCalcLayout, ClearAndMemoryKeysStandInColumnsBesideTheDigits) {
   const auto& layout = frmCalcLayout();
-  layout_rules::expectColumn(
-      layout, {"cmdClearCurrent", "cmdClearCalc", "cmdClearTape", "cmdClearAll", "cmdSquareRoot"});
-  layout_rules::expectColumn(layout, {"cmdMemClear", "cmdMemRecall", "cmdMemStore", "cmdMemPlus"});
-  layout_rules::expectRow(layout, {"cmdClearCurrent", "cmdMemClear"});
-  layout_rules::expectRow(layout, {"cmdMemRecall", "cmdNumber(7)"});
+  expectColumn(layout,
+               {"cmdClearCurrent", "cmdClearCalc", "cmdClearTape", "cmdClearAll", "cmdSquareRoot"});
+  expectColumn(layout, {"cmdMemClear", "cmdMemRecall", "cmdMemStore", "cmdMemPlus"});
+  expectRow(layout, {"cmdClearCurrent", "cmdMemClear"});
+  expectRow(layout, {"cmdMemRecall", "cmdNumber(7)"});
   for (const auto name : {"cmdMemPlus", "cmdPlus", "cmdEquals"})
-    EXPECT_EQ(layout_rules::bottom(layout_rules::placeOf(layout, name)),
-              layout_rules::bottom(layout_rules::placeOf(layout, "cmdPeriod")))
-        << name;
+    EXPECT_EQ(bottom(placeOf(layout, name)), bottom(placeOf(layout, "cmdPeriod"))) << name;
 }
 
 TEST(FrmCalcLayout, KeysOfOneSortAreOfOneSize) {
   const auto& layout = frmCalcLayout();
-  const auto& digit = layout_rules::placeOf(layout, "cmdNumber(5)");
-  const controls::Twips gap =
-      layout_rules::placeOf(layout, "cmdNumber(6)").left - layout_rules::right(digit);
-  EXPECT_EQ(layout_rules::placeOf(layout, "cmdNumber(0)").width, 2 * digit.width + gap);
+  const auto& digit = placeOf(layout, "cmdNumber(5)");
+  const controls::Twips gap = placeOf(layout, "cmdNumber(6)").left - right(digit);
+  EXPECT_EQ(placeOf(layout, "cmdNumber(0)").width, 2 * digit.width + gap);
   for (const auto& control : layout.controls) {
     if (control.kind != kButton && control.kind != kToggle) continue;
     const bool high =
@@ -119,7 +98,7 @@ constexpr Seen kListed[] = {
 };
 
 TEST(FrmCalcLayout, EveryControlIsSeenAsListed) {
-  layout_rules::expectSeen(frmCalcLayout(), kListed);
+  expectSeen(frmCalcLayout(), kListed);
 }
 
 TEST(FrmCalcLayout, MenusAreAsListed) {
@@ -168,10 +147,10 @@ TEST(FrmCalcLayout, WindowIsAsDesigned) {
   EXPECT_TRUE(layout.resizable);
   EXPECT_EQ(layout.smallestWidth, 2280);
   EXPECT_EQ(layout.smallestHeight, 1095);
-  EXPECT_EQ(layout_rules::placeOf(layout, "txtEntry").left, 0);
-  EXPECT_EQ(layout_rules::placeOf(layout, "txtEntry").top, 0);
-  EXPECT_EQ(layout_rules::placeOf(layout, "txtTape").left, 4000);
-  EXPECT_EQ(layout_rules::placeOf(layout, "txtTape").top, 40);
+  EXPECT_EQ(placeOf(layout, "txtEntry").left, 0);
+  EXPECT_EQ(placeOf(layout, "txtEntry").top, 0);
+  EXPECT_EQ(placeOf(layout, "txtTape").left, 4000);
+  EXPECT_EQ(placeOf(layout, "txtTape").top, 40);
 }
 
 }  // namespace

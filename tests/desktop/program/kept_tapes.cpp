@@ -2,6 +2,8 @@
 
 #include <windows.h>
 
+#include <filesystem>
+
 namespace program {
 namespace {
 
@@ -15,15 +17,9 @@ std::wstring folderOf(const std::wstring& programName) {
 
 std::vector<std::wstring> keptTapes(const std::wstring& programName) {
   std::vector<std::wstring> files;
-  const std::wstring folder = folderOf(programName);
-  WIN32_FIND_DATAW found;
-  const HANDLE search = FindFirstFileW((folder + L"\\*").c_str(), &found);
-  if (search == INVALID_HANDLE_VALUE) return files;
-  do {
-    if (!(found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY))
-      files.push_back(folder + L"\\" + found.cFileName);
-  } while (FindNextFileW(search, &found));
-  FindClose(search);
+  std::error_code absent;
+  for (const auto& entry : std::filesystem::directory_iterator(folderOf(programName), absent))
+    if (entry.is_regular_file()) files.push_back(entry.path().wstring());
   return files;
 }
 
