@@ -39,7 +39,7 @@ class NativeWindow : public ContractTest {
   }
 };
 
-TEST_F(NativeWindow, ClientAreaIsRightAlsoWhereTheMenuTakesSeveralLines) {
+TEST_F(NativeWindow, ClientAreaIsRightWithAWrappedMenu) {
   for (const Twips width : {6200, 2280, 900, 120}) {
     for (const Twips height : {3800, 1095, 690}) {
       window_->setBounds({300, 300, width, height});
@@ -52,7 +52,7 @@ TEST_F(NativeWindow, ClientAreaIsRightAlsoWhereTheMenuTakesSeveralLines) {
   }
 }
 
-TEST_F(NativeWindow, UserWhoMovesItKeepsTheDigitsOfItsSize) {
+TEST_F(NativeWindow, MovingKeepsTheExactSize) {
   window_->setBounds({301, 302, 6203, 3804});
   const HWND handle = handleOf(*window_);
   RECT frame;
@@ -84,7 +84,7 @@ TEST_F(NativeWindow, MinimizedWindowKeepsItsPlace) {
   EXPECT_EQ(clientSize(handleOf(*window_)).cx, toPixels(7000 - controls::kFrameWidth));
 }
 
-TEST_F(NativeWindow, AnotherResolutionScalesEverything) {
+TEST_F(NativeWindow, NewResolutionScalesEverything) {
   const SIZE buttonBefore = clientSize(handleOf(button_));
   const Rect bounds = window_->bounds();
   RECT suggested = {40, 40, 800, 600};
@@ -99,7 +99,7 @@ TEST_F(NativeWindow, AnotherResolutionScalesEverything) {
   EXPECT_EQ(window_->bounds().height, bounds.height);
 }
 
-TEST_F(NativeWindow, ModifiersAreNoKeyStrokes) {
+TEST_F(NativeWindow, ModifierKeysAreNotKeystrokes) {
   first_.onKeyUp = [this](int key) { note(std::to_string(key)); };
   for (const int key : {VK_SHIFT, VK_CONTROL, VK_CAPITAL, VK_NUMLOCK, VK_NUMLOCK, VK_CAPITAL})
     press(key);
@@ -107,7 +107,7 @@ TEST_F(NativeWindow, ModifiersAreNoKeyStrokes) {
   EXPECT_EQ(takeLog(), Log{std::to_string('7')});
 }
 
-TEST_F(NativeWindow, LetterThatCameWithAltIsAnAccessKeyAlsoWhenAltIsUpAgain) {
+TEST_F(NativeWindow, AltLetterIsAnAccessKeyEvenAfterAltIsReleased) {
   constexpr LPARAM kWithAlt = 1 << 29;
   button_.onClick = [this] { note("click"); };
   PostMessageW(handleOf(first_), WM_SYSCHAR, 'g', kWithAlt);
@@ -122,7 +122,7 @@ TEST_F(NativeWindow, DecimalKeyOfTheKeypadTypesAPoint) {
   EXPECT_EQ(first_.text(), ".");
 }
 
-TEST_F(NativeWindow, CharacterInTwoUnitsIsTypedAsOne) {
+TEST_F(NativeWindow, SurrogatePairIsTypedAsOneCharacter) {
   first_.onChange = [this](controls::ChangedBy) { note("change"); };
   send(first_, WM_CHAR, 0xD83D);
   send(first_, WM_CHAR, 0xDE00);
@@ -142,7 +142,7 @@ TEST_F(NativeWindow, ComposedTextIsTyped) {
   }
 }
 
-TEST_F(NativeWindow, FastClicksAreAllClicks) {
+TEST_F(NativeWindow, FastClicksAllCount) {
   toggle_.onClick = [this] { note("toggle"); };
   button_.onClick = [this] { note("button"); };
   for (controls::Control* control : std::initializer_list<controls::Control*>{&button_, &toggle_}) {
@@ -155,7 +155,7 @@ TEST_F(NativeWindow, FastClicksAreAllClicks) {
             (Log{"button", "button", "button", "button", "toggle", "toggle", "toggle", "toggle"}));
 }
 
-TEST_F(NativeWindow, FastSecondClickChoosesAnOptionThatWasLeftMeanwhile) {
+TEST_F(NativeWindow, SecondClickOfADoubleClickChoosesAnOption) {
   controls::OptionButton& left = window_->optionButton("left");
   controls::OptionButton& right = window_->optionButton("right");
   right.setValue(true);
@@ -165,7 +165,7 @@ TEST_F(NativeWindow, FastSecondClickChoosesAnOptionThatWasLeftMeanwhile) {
   EXPECT_FALSE(right.value());
 }
 
-TEST_F(NativeWindow, EndOfTheSessionIsToldAndNotItsCancellation) {
+TEST_F(NativeWindow, OnlyAConfirmedSessionEndIsReported) {
   kind_->desktop().onEndSession = [this] { note("end"); };
   EXPECT_TRUE(SendMessageW(handleOf(*window_), WM_QUERYENDSESSION, 0, 0));
   SendMessageW(handleOf(*window_), WM_ENDSESSION, FALSE, 0);
@@ -174,7 +174,7 @@ TEST_F(NativeWindow, EndOfTheSessionIsToldAndNotItsCancellation) {
   EXPECT_EQ(takeLog(), Log{"end"});
 }
 
-TEST_F(NativeWindow, TextThatAScreenReaderPutsInIsAnEdit) {
+TEST_F(NativeWindow, TextSetByAScreenReaderIsAnEdit) {
   for (controls::TextBox* box : {&first_, &tape_}) {
     box->setText("old");
     box->onChange = [this](controls::ChangedBy by) {
@@ -191,7 +191,7 @@ TEST_F(NativeWindow, TextThatAScreenReaderPutsInIsAnEdit) {
   }
 }
 
-TEST_F(NativeWindow, KeysOfTheClipboardWorkInEveryBox) {
+TEST_F(NativeWindow, ClipboardKeysWorkInEveryBox) {
   for (controls::TextBox* box : {&first_, &tape_}) {
     box->setText("12345");
     box->setFocus();
@@ -224,7 +224,7 @@ TEST_F(NativeTape, LastLineIsInViewAfterAppending) {
   EXPECT_FALSE(isInView(0));
 }
 
-TEST_F(NativeTape, ClickPlacesTheCaretWhereTheUserSawTheText) {
+TEST_F(NativeTape, ClickPlacesTheCaretAtTheTextUnderTheMouse) {
   fill(200);
   tape_.onGotFocus = [this] { tape_.moveCaretToEnd(); };
   send(tape_, WM_VSCROLL, SB_TOP);
@@ -237,7 +237,7 @@ TEST_F(NativeTape, ClickPlacesTheCaretWhereTheUserSawTheText) {
   EXPECT_EQ(firstLine(), 0);
 }
 
-TEST_F(NativeTape, RightAlignedLinesEndAtOneEdge) {
+TEST_F(NativeTape, RightAlignedLinesShareAnEdge) {
   tape_.setText("1\r\n100");
   const LRESULT first = send(tape_, EM_POSFROMCHAR, 1);
   const LRESULT second = send(tape_, EM_POSFROMCHAR, 6);
@@ -246,7 +246,7 @@ TEST_F(NativeTape, RightAlignedLinesEndAtOneEdge) {
   EXPECT_EQ(LOWORD(send(tape_, EM_POSFROMCHAR, 0)), LOWORD(send(tape_, EM_POSFROMCHAR, 3)));
 }
 
-TEST_F(NativeTape, AnswersWhatAScreenReaderAsks) {
+TEST_F(NativeTape, AnswersScreenReaders) {
   tape_.setText("Top\r\n12.00 + \r\n");
   EXPECT_EQ(send(tape_, WM_GETTEXTLENGTH), 15);
   EXPECT_EQ(send(tape_, EM_GETLINECOUNT), 3);
@@ -267,7 +267,7 @@ TEST(NativeServices, SettingsHoldLongTexts) {
   RegDeleteTreeW(HKEY_CURRENT_USER, L"Software\\Tallyrex Contract Tests");
 }
 
-TEST_F(NativeWindow, ClipboardThatIsHeldIsReportedSoon) {
+TEST_F(NativeWindow, LockedClipboardIsReportedSoon) {
   using Found = controls::Clipping::Found;
   ASSERT_TRUE(win32::writeClipboard("kept \xE2\x88\x9A"));
   kind_->whileClipboardIsHeld([] {
@@ -279,7 +279,7 @@ TEST_F(NativeWindow, ClipboardThatIsHeldIsReportedSoon) {
   EXPECT_EQ(win32::readClipboard(), (controls::Clipping{Found::Text, "kept \xE2\x88\x9A"}));
 }
 
-TEST_F(NativeWindow, GivesBackWhatItTook) {
+TEST_F(NativeWindow, ReleasesItsHandles) {
   const auto makeAndDestroy = [this](int times) {
     for (int i = 0; i < times; ++i) {
       const auto other = kind_->desktop().createWindow(testLayout());

@@ -58,7 +58,7 @@ TEST_P(TextBoxContract, ShiftDeleteCutsAndCtrlInsertCopies) {
   EXPECT_EQ(kind_->desktop().clipboardText().text, "45");
 }
 
-TEST_P(TextBoxContract, ClipboardThatIsHeldChangesNothing) {
+TEST_P(TextBoxContract, LockedClipboardChangesNothing) {
   kind_->desktop().setClipboardText("77");
   box_.setText("12345");
   box_.select(1, 2);
@@ -75,7 +75,7 @@ TEST_P(TextBoxContract, ClipboardThatIsHeldChangesNothing) {
   EXPECT_EQ(kind_->desktop().clipboardText().text, "77");
 }
 
-TEST_P(TextBoxContract, MenuOfTheBoxTellsAPasteFromAnotherEdit) {
+TEST_P(TextBoxContract, ContextMenuReportsPasteOrEdit) {
   using controls::BoxCommand;
   box_.onMouseUp = [this](controls::MouseEdit edit) {
     note(edit == controls::MouseEdit::Pasted   ? "pasted"
@@ -101,7 +101,7 @@ TEST_P(TextBoxContract, MenuOfTheBoxTellsAPasteFromAnotherEdit) {
   EXPECT_EQ(takeLog(), (Log{"user", "edited"}));
 }
 
-TEST_P(TextBoxContract, MousePastesAtTheCaretAlsoWhereCommandsDoNot) {
+TEST_P(TextBoxContract, MousePasteGoesToTheCaretDespiteAPasteHandler) {
   box_.onPasteCommand = [this](const std::optional<std::string>&) { note("command"); };
   kind_->desktop().setClipboardText("9");
   box_.setText("12");
@@ -114,12 +114,12 @@ TEST_P(TextBoxContract, MousePastesAtTheCaretAlsoWhereCommandsDoNot) {
 
 class OneLineContract : public ContractTest {};
 
-TEST_F(OneLineContract, LineBreakEndsAPaste) {
+TEST_F(OneLineContract, PasteStopsAtALineBreak) {
   paste(first_, "12\r\n34");
   EXPECT_EQ(first_.text(), "12");
 }
 
-TEST_F(OneLineContract, EditThatIsTooLongIsRefused) {
+TEST_F(OneLineContract, OverlongEditIsRefused) {
   paste(first_, std::string(controls::kLongestEdit, '7'));
   EXPECT_EQ(first_.length(), static_cast<int>(controls::kLongestEdit));
   first_.setText("12");

@@ -6,7 +6,7 @@ namespace contract {
 
 INSTANTIATE_TEST_SUITE_P(Boxes, TextBoxContract, testing::Values("first", "tape"));
 
-TEST_P(TextBoxContract, AssignedTextHasItsCaretAtTheStartAndIsAChange) {
+TEST_P(TextBoxContract, AssigningTextMovesTheCaretToTheStartAndRaisesChange) {
   box_.setText("12345");
   box_.select(2, 2);
   takeLog();
@@ -17,7 +17,7 @@ TEST_P(TextBoxContract, AssignedTextHasItsCaretAtTheStartAndIsAChange) {
   EXPECT_EQ(takeLog(), Log{"program"});
 }
 
-TEST_P(TextBoxContract, AssignedCaretDropsTheSelection) {
+TEST_P(TextBoxContract, PlacingTheCaretDropsTheSelection) {
   box_.setText("12345");
   box_.select(1, 3);
   EXPECT_EQ(box_.selectedText(), "234");
@@ -27,7 +27,7 @@ TEST_P(TextBoxContract, AssignedCaretDropsTheSelection) {
   EXPECT_EQ(box_.selLength(), 0);
 }
 
-TEST_P(TextBoxContract, SelectionIsKeptWithinTheText) {
+TEST_P(TextBoxContract, SelectionIsClampedToTheText) {
   box_.setText("123");
   box_.select(2, 9);
   EXPECT_EQ(box_.selStart(), 2);
@@ -60,7 +60,7 @@ TEST_P(TextBoxContract, TypedCharacterReplacesTheSelection) {
   EXPECT_EQ(takeLog(), Log{"user"});
 }
 
-TEST_P(TextBoxContract, BackspaceDeletesInFrontOfTheCaretOrTheSelection) {
+TEST_P(TextBoxContract, BackspaceDeletesTheSelectionOrTheCharacterBefore) {
   box_.setText("12345");
   box_.setSelStart(2);
   takeLog();
@@ -73,7 +73,7 @@ TEST_P(TextBoxContract, BackspaceDeletesInFrontOfTheCaretOrTheSelection) {
   EXPECT_EQ(takeLog(), (Log{"user", "user"}));
 }
 
-TEST_P(TextBoxContract, DeleteDeletesBehindTheCaretOrTheSelection) {
+TEST_P(TextBoxContract, DeleteDeletesTheSelectionOrTheCharacterAfter) {
   box_.setText("12345");
   box_.setSelStart(2);
   takeLog();
@@ -86,7 +86,7 @@ TEST_P(TextBoxContract, DeleteDeletesBehindTheCaretOrTheSelection) {
   EXPECT_EQ(takeLog(), (Log{"user", "user"}));
 }
 
-TEST_P(TextBoxContract, EditThatChangesNothingIsNoChange) {
+TEST_P(TextBoxContract, EditWithoutEffectRaisesNoChange) {
   box_.setText("12");
   takeLog();
   type("\b");
@@ -97,7 +97,7 @@ TEST_P(TextBoxContract, EditThatChangesNothingIsNoChange) {
   EXPECT_EQ(takeLog(), Log{});
 }
 
-TEST_P(TextBoxContract, KeyStrokeIsPressEditChangeRelease) {
+TEST_P(TextBoxContract, KeystrokeRaisesPressEditChangeRelease) {
   box_.onKeyPress = [this](controls::KeyAscii& key) {
     note("press " + std::to_string(key) + " at " + box_.text());
   };
@@ -134,7 +134,7 @@ TEST_P(TextBoxContract, KeyPressMayAssignTheTextBeforeTheEdit) {
   EXPECT_EQ(box_.selStart(), 1);
 }
 
-TEST_P(TextBoxContract, BackspaceAndDeleteTakeACharacterOfTwoUnitsWhole) {
+TEST_P(TextBoxContract, BackspaceAndDeleteRemoveASurrogatePairWhole) {
   for (const int caret : {3, 2}) {
     box_.setText("a\xF0\x9F\x92\xB0z");
     box_.setSelStart(caret);
@@ -151,7 +151,7 @@ TEST_P(TextBoxContract, BackspaceAndDeleteTakeACharacterOfTwoUnitsWhole) {
   }
 }
 
-TEST_P(TextBoxContract, SelectionThatEndsInsideACharacterTakesItAlong) {
+TEST_P(TextBoxContract, SelectionEndingInsideACharacterRemovesItWhole) {
   box_.setText("a\xF0\x9F\x92\xB0\xF0\x9F\x92\xB0z");
   box_.select(2, 2);
   type("\b");
@@ -162,7 +162,7 @@ TEST_P(TextBoxContract, SelectionThatEndsInsideACharacterTakesItAlong) {
   EXPECT_EQ(box_.text(), "z");
 }
 
-TEST_P(TextBoxContract, AppendedTextHasTheCaretBehindIt) {
+TEST_P(TextBoxContract, AppendingMovesTheCaretToTheEnd) {
   box_.setText("Top");
   takeLog();
   box_.append("12");
@@ -199,7 +199,7 @@ class TapeContract : public ContractTest {
   }
 };
 
-TEST_F(TapeContract, IsEditedByHand) {
+TEST_F(TapeContract, CanBeEditedByHand) {
   tape_.setText("Top\r\n12.00 + ");
   tape_.setSelStart(3);
   type(" rent\rx");
@@ -216,7 +216,7 @@ TEST_F(TapeContract, CountsALineBreakAsTwoCharacters) {
   EXPECT_EQ(tape_.selectedText(), "b\r\nc");
 }
 
-TEST_F(TapeContract, BackspaceAndDeleteTakeALineEndWhole) {
+TEST_F(TapeContract, BackspaceAndDeleteRemoveALineBreakWhole) {
   for (const int caret : {3, 2}) {
     tape_.setText("a\r\nb");
     tape_.setSelStart(caret);
@@ -233,7 +233,7 @@ TEST_F(TapeContract, BackspaceAndDeleteTakeALineEndWhole) {
   }
 }
 
-TEST_F(TapeContract, LoneHalfOfALineEndIsACharacterOfItsOwn) {
+TEST_F(TapeContract, LoneHalfOfALineBreakIsACharacter) {
   tape_.setText("a\r\n\rb");
   tape_.setSelStart(4);
   type("\b");
@@ -251,7 +251,7 @@ TEST_F(TapeContract, HomeAndEndGoToTheEndsOfTheLine) {
   EXPECT_EQ(tape_.selStart(), 0);
 }
 
-TEST_F(TapeContract, TakesLinesWithoutEnd) {
+TEST_F(TapeContract, HasNoLengthLimit) {
   std::string expected = "Top";
   tape_.setText("Top");
   for (int line = 0; line < 300; ++line) {

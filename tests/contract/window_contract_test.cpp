@@ -60,7 +60,7 @@ TEST_F(WindowContract, AnotherWindowTakesTheFocusAndGivesItBack) {
   EXPECT_TRUE(first_.focused());
 }
 
-TEST_F(WindowContract, ControlOfAWindowBehindGetsTheFocusLater) {
+TEST_F(WindowContract, ControlOfABackgroundWindowGetsTheFocusLater) {
   const auto other = kind_->desktop().createWindow(plainLayout());
   other->show();
   kind_->settle();
@@ -72,7 +72,7 @@ TEST_F(WindowContract, ControlOfAWindowBehindGetsTheFocusLater) {
   EXPECT_TRUE(second_.focused());
 }
 
-TEST_F(WindowContract, TabWalksThroughTheControlsAndBack) {
+TEST_F(WindowContract, TabMovesThroughTheControlsAndBack) {
   Log order;
   for (int i = 0; i < 7; ++i) {
     order.push_back(window_->focusedControl()->name());
@@ -85,7 +85,7 @@ TEST_F(WindowContract, TabWalksThroughTheControlsAndBack) {
   EXPECT_TRUE(tape_.focused());
 }
 
-TEST_F(WindowContract, ReleaseOfAKeyReachesTheControlThatHasTheFocusThen) {
+TEST_F(WindowContract, KeyUpGoesToTheControlFocusedByThen) {
   first_.onKeyPress = [this](controls::KeyAscii& key) {
     key = 0;
     second_.setFocus();
@@ -96,7 +96,7 @@ TEST_F(WindowContract, ReleaseOfAKeyReachesTheControlThatHasTheFocusThen) {
   EXPECT_EQ(takeLog(), Log{"up 55"});
 }
 
-TEST_F(WindowContract, SimulatedKeyStrokeWaitsForTheEndOfTheHandler) {
+TEST_F(WindowContract, SimulatedKeystrokeWaitsForTheEndOfTheHandler) {
   first_.onChange = [this](controls::ChangedBy) { note("change"); };
   first_.onKeyUp = [this](controls::KeyCode key) { note("up " + std::to_string(key)); };
   button_.onClick = [this] {
@@ -141,7 +141,7 @@ TEST_F(WindowContract, DisabledOrHiddenButtonIsNotClicked) {
   EXPECT_EQ(takeLog(), Log{});
 }
 
-TEST_F(WindowContract, ToggleIsClickedByTheUserAndByItsValue) {
+TEST_F(WindowContract, ToggleRaisesClickForUserAndProgram) {
   toggle_.onClick = [this] { note("now " + std::to_string(toggle_.value())); };
   kind_->click(toggle_);
   toggle_.setValue(1);
@@ -150,7 +150,7 @@ TEST_F(WindowContract, ToggleIsClickedByTheUserAndByItsValue) {
   EXPECT_EQ(takeLog(), (Log{"now 1", "now 0", "now 1"}));
 }
 
-TEST_F(WindowContract, OneOptionOfAGroupIsChosen) {
+TEST_F(WindowContract, OneOptionPerGroupIsChosen) {
   controls::OptionButton& left = window_->optionButton("left");
   controls::OptionButton& right = window_->optionButton("right");
   left.onClick = [this] { note("left"); };
@@ -165,7 +165,7 @@ TEST_F(WindowContract, OneOptionOfAGroupIsChosen) {
   EXPECT_EQ(takeLog(), (Log{"right", "left"}));
 }
 
-TEST_F(WindowContract, ShortcutIsTakenBeforeTheControlSeesTheKey) {
+TEST_F(WindowContract, ShortcutTakesPrecedenceOverTheControl) {
   first_.onKeyPress = [this](controls::KeyAscii&) { note("press"); };
   first_.onKeyUp = [this](controls::KeyCode key) { note("up " + std::to_string(key)); };
   window_->menuItem("mnuCopy").onClick = [this] { note("copy"); };
@@ -183,7 +183,7 @@ TEST_F(WindowContract, ShortcutOfADisabledMenuDoesNothing) {
   EXPECT_EQ(first_.text(), "");
 }
 
-TEST_F(WindowContract, AccessKeyClicksAButtonAndLeadsFromALabelToItsField) {
+TEST_F(WindowContract, AccessKeyClicksAButtonOrFocusesTheFieldOfALabel) {
   button_.onClick = [this] { note("click"); };
   kind_->press({.key = 'G', .alt = true}, 0);
   EXPECT_EQ(takeLog(), Log{"click"});
@@ -228,7 +228,7 @@ TEST_F(WindowContract, KeyPressMayHandTheCharacterToAnotherControl) {
 }
 
 // Their lowest eight bits are those of "G" and "S".
-TEST_F(WindowContract, LettersBeyondAsciiPressNothing) {
+TEST_F(WindowContract, NonAsciiLettersAreNoAccessKeys) {
   button_.onClick = [this] { note("click"); };
   for (const controls::KeyCode character : {0x0147, 0x0647, 0x0153, 0x10047, -0xB9, 0})
     EXPECT_FALSE(window_->takeKey({.key = character, .alt = true})) << character;
@@ -257,7 +257,7 @@ TEST_F(WindowContract, WindowWithoutMenuLeavesTheClipboardKeysToTheBox) {
   EXPECT_EQ(box.text(), "123412");
 }
 
-TEST_F(WindowContract, ResizeIsRaisedOnceWhenShownAndWhenTheSizeReallyChanges) {
+TEST_F(WindowContract, ResizeIsRaisedOnFirstShowAndOnRealChanges) {
   const auto other = kind_->desktop().createWindow(testLayout());
   other->onResize = [this] { note("resize"); };
   other->setWidth(7000);
@@ -275,7 +275,7 @@ TEST_F(WindowContract, ResizeIsRaisedOnceWhenShownAndWhenTheSizeReallyChanges) {
   EXPECT_EQ(other->bounds(), (controls::Rect{600, 300, 7000, 4100}));
 }
 
-TEST_F(WindowContract, TopmostSwitchMovesTheWindowAndTheProgramPutsItBack) {
+TEST_F(WindowContract, TopmostSwitchMovesTheWindow) {
   const controls::Rect before = window_->bounds();
   for (const bool onTop : {true, false}) {
     window_->setOnTop(onTop);
@@ -286,7 +286,7 @@ TEST_F(WindowContract, TopmostSwitchMovesTheWindowAndTheProgramPutsItBack) {
   }
 }
 
-TEST_F(WindowContract, MaximizedWindowGoesBackToWhereItWas) {
+TEST_F(WindowContract, RestoringAMaximizedWindowBringsItBack) {
   const controls::Rect before = window_->bounds();
   window_->setState(controls::WindowState::Maximized);
   kind_->settle();
@@ -317,7 +317,7 @@ TEST_F(WindowContract, DialogTakesTheKeysUntilItIsHidden) {
   EXPECT_EQ(first_.text(), "7");
 }
 
-TEST_F(WindowContract, WindowThatIsAskedToCloseClosesTheDialogInFrontOfItFirst) {
+TEST_F(WindowContract, ClosingAWindowClosesTheDialogInFrontFirst) {
   const auto dialog = kind_->desktop().createWindow(plainLayout());
   window_->onClose = [this] { note("close window"); };
   dialog->onClose = [&] {
@@ -330,13 +330,13 @@ TEST_F(WindowContract, WindowThatIsAskedToCloseClosesTheDialogInFrontOfItFirst) 
   EXPECT_EQ(takeLog(), (Log{"close dialog", "close window"}));
 }
 
-TEST_F(WindowContract, EndOfTheSessionIsOneEventOfTheProgram) {
+TEST_F(WindowContract, EndOfTheSessionRunsItsHandler) {
   kind_->desktop().onEndSession = [this] { note("end"); };
   kind_->desktop().endSession();
   EXPECT_EQ(takeLog(), Log{"end"});
 }
 
-TEST_F(WindowContract, HiddenWindowHandsTheFocusToTheOneBehindIt) {
+TEST_F(WindowContract, HidingAWindowActivatesTheOneBehind) {
   const auto other = kind_->desktop().createWindow(plainLayout());
   other->show();
   kind_->settle();

@@ -36,7 +36,7 @@ class DamagedSettingsTest : public DesktopTest, public testing::WithParamInterfa
   }
 };
 
-TEST_P(DamagedSettingsTest, EachInTurnLeavesAProgramThatAdds) {
+TEST_P(DamagedSettingsTest, ProgramAddsDespiteADamagedSetting) {
   constexpr std::array kKeys = {
       "frmCalcAtUnloadLeft",
       "frmCalcAtUnloadTop",
@@ -61,7 +61,7 @@ TEST_P(DamagedSettingsTest, EachInTurnLeavesAProgramThatAdds) {
 
 // These are read when the user goes over to the micro window. It may then lie beside the screen,
 // where the system takes the keys away from it; so the sum waits for the next start.
-TEST_P(DamagedSettingsTest, EachOfTheMicroWindowLeavesAProgramThatAdds) {
+TEST_P(DamagedSettingsTest, ProgramAddsDespiteADamagedMicroWindowSetting) {
   constexpr std::array kKeys = {"frmCalcMicroLeft", "frmCalcMicroTop", "frmCalcMicroHeight",
                                 "frmCalcMicroWidth"};
   for (const char* key : kKeys) {

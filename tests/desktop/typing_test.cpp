@@ -16,7 +16,7 @@ class TypingTest : public DesktopTest {
   }
 };
 
-TEST_F(TypingTest, TwoThousandStrokesSentAtOnceArriveInOrder) {
+TEST_F(TypingTest, TwoThousandKeystrokesArriveInOrder) {
   constexpr int kNumbers = 500;
   Inputs inputs;
   std::string expected = "Top";
@@ -31,7 +31,7 @@ TEST_F(TypingTest, TwoThousandStrokesSentAtOnceArriveInOrder) {
 }
 
 // A typist whose next key goes down before the one before it has come up.
-TEST_F(TypingTest, StrokesThatRollOverEachOtherArriveAsKeyed) {
+TEST_F(TypingTest, OverlappingKeystrokesArriveInOrder) {
   Inputs inputs;
   std::string expected = "Top";
   WORD before = 0;
@@ -52,7 +52,7 @@ TEST_F(TypingTest, StrokesThatRollOverEachOtherArriveAsKeyed) {
   EXPECT_EQ(tape(), expected);
 }
 
-TEST_F(TypingTest, KeypadTypesWhatItsCapsShowWithNumLock) {
+TEST_F(TypingTest, KeypadTypesItsLabelsWithNumLock) {
   press(keypad("1234567890.25"));
   EXPECT_EQ(entry(), "1,234,567,890.25");
 }
@@ -62,7 +62,7 @@ TEST_F(TypingTest, KeypadCalculatesWithNumLock) {
   EXPECT_EQ(tape(), "Top\r\n12.50 + \r\n3.00 - \r\n9.50 * \r\n");
 }
 
-TEST_F(TypingTest, OperatorsOfTheKeypadNeedNoNumLock) {
+TEST_F(TypingTest, KeypadOperatorsWorkWithoutNumLock) {
   tapNumLock();
   tell("type \"12\"");
   press(keypad("+"));
@@ -74,7 +74,7 @@ TEST_F(TypingTest, OperatorsOfTheKeypadNeedNoNumLock) {
 }
 
 // Without NumLock a keyboard sends the keys that stand below the digits on their caps.
-TEST_F(TypingTest, DigitsOfTheKeypadMoveTheCaretWithoutNumLock) {
+TEST_F(TypingTest, KeypadDigitsMoveTheCaretWithoutNumLock) {
   tapNumLock();
   tell("type \"12\"");
   Inputs inputs;

@@ -51,12 +51,12 @@ TEST_F(WindowTest, MenusOpenWithTheirAccessKeys) {
   EXPECT_EQ(tell("get mnuWinPadTape Checked")["value"], true);
 }
 
-TEST_F(WindowTest, AltAndF4CloseTheProgram) {
+TEST_F(WindowTest, AltF4ClosesTheProgram) {
   pressAlt(VK_F4);
   EXPECT_FALSE(stage().running());
 }
 
-TEST_F(WindowTest, DraggingItsCornerSizesItAndTheTape) {
+TEST_F(WindowTest, DraggingTheCornerResizesWindowAndTape) {
   constexpr int kPixels = 40;
   const int width = tell("get frmCalc Width")["value"];
   const int tapeWidth = tell("get txtTape Width")["value"];
@@ -68,7 +68,7 @@ TEST_F(WindowTest, DraggingItsCornerSizesItAndTheTape) {
   EXPECT_EQ(tell("get txtTape Width")["value"], tapeWidth + twips(kPixels));
 }
 
-TEST_F(WindowTest, DraggingItsCornerLeavesAtLeastTheMicroWindow) {
+TEST_F(WindowTest, DraggingStopsAtTheMicroWindowSize) {
   tell("move frmCalc 1500 1500");
   RECT frame = {};
   GetWindowRect(mainWindow(), &frame);
@@ -83,7 +83,7 @@ TEST_F(WindowTest, DraggingItsCornerLeavesAtLeastTheMicroWindow) {
   EXPECT_NEAR(tell("get frmCalc Height")["value"].get<int>(), 1095, pixel);
 }
 
-TEST_F(WindowTest, SmallerSizesThatWereStoredAreAppliedAsTheyStand) {
+TEST_F(WindowTest, SmallerStoredSizesAreAppliedUnchanged) {
   tell("close frmCalc");
   tell("store set Settings frmCalcAtUnloadWidth \"1500\"");
   tell("store set Settings frmCalcAtUnloadHeight \"900\"");
@@ -92,7 +92,7 @@ TEST_F(WindowTest, SmallerSizesThatWereStoredAreAppliedAsTheyStand) {
   EXPECT_EQ(tell("get frmCalc Height")["value"], 900);
 }
 
-TEST_F(WindowTest, DraggingItsTitleMovesIt) {
+TEST_F(WindowTest, DraggingTheTitleMovesTheWindow) {
   constexpr int kPixels = 60;
   const int width = tell("get frmCalc Width")["value"];
   RECT frame = {};
@@ -104,7 +104,7 @@ TEST_F(WindowTest, DraggingItsTitleMovesIt) {
 }
 
 // The driver compares what it answers with the screen; each of these must be noticed.
-TEST_F(WindowTest, WhatTheScreenShowsOtherwiseIsNoticed) {
+TEST_F(WindowTest, DifferencesOnTheScreenAreDetected) {
   wchar_t title[64] = L"";
   GetWindowTextW(mainWindow(), title, static_cast<int>(std::size(title)));
   SetWindowTextW(mainWindow(), L"another title");

@@ -9,18 +9,18 @@
 namespace about {
 namespace {
 
-TEST(VersionText, NamesTheVersion) {
+TEST(VersionText, ShowsMajorAndMinor) {
   EXPECT_EQ(versionText({.major = 1, .minor = 0, .revision = 0}), "Software Version:  1.0");
   EXPECT_EQ(versionText({.major = 12, .minor = 34, .revision = 0}), "Software Version:  12.34");
 }
 
-TEST(VersionText, NamesTheRevisionThatIsNotZero) {
+TEST(VersionText, AppendsANonzeroRevision) {
   EXPECT_EQ(versionText({.major = 1, .minor = 0, .revision = 7}),
             "Software Version:  1.0   Revision 7");
 }
 
 // The text of the label, and where the number comes from.
-TEST(VersionText, IsShownAsTheBuildHasIt) {
+TEST(VersionText, MatchesTheBuild) {
   inmemory::Desktop desktop;
   frmAbout box(desktop, programVersion(), [] {});
   EXPECT_EQ(box.window().control("lblVersion").caption(), versionText(programVersion()));

@@ -17,7 +17,7 @@ struct Case {
   bool allowed;
 };
 
-TEST(AllowKey, SaysWhetherACharacterMayBeTyped) {
+TEST(AllowKey, AcceptsOrRefusesACharacter) {
   const std::vector<Case> cases = {
       {"the first digit", '0', "fraction", "", true},
       {"the last digit", '9', "integer", "12", true},

@@ -33,8 +33,8 @@ TEST_P(MoneyAnswer, Reads) {
 INSTANTIATE_TEST_SUITE_P(
     Amounts, MoneyAnswer,
     testing::Values(Row{"IsRoundedToCents", 699.2145085527766, "$ 699.21"},
-                    Row{"HasItsSignInFront", -1234.5, "-$ 1,234.50"}, Row{"OfNothing", 0, "$ 0.00"},
-                    Row{"ThatRoundsToNothing", -0.004, "$ 0.00"}, Row{"BelowOne", 0.5, "$ 0.50"},
+                    Row{"HasALeadingSign", -1234.5, "-$ 1,234.50"}, Row{"Zero", 0, "$ 0.00"},
+                    Row{"RoundsToZero", -0.004, "$ 0.00"}, Row{"BelowOne", 0.5, "$ 0.50"},
                     Row{"RoundsHalfAwayFromZero", 1.005, "$ 1.01"},
                     Row{"RoundsHalfAwayFromZeroBelowIt", -1.005, "-$ 1.01"},
                     Row{"IsGrouped", 1234567890.12, "$ 1,234,567,890.12"},
@@ -52,7 +52,7 @@ INSTANTIATE_TEST_SUITE_P(Rates, RateAnswer,
                                          Row{"WithFiveDecimals", 0.0712345, "7.12345 %"},
                                          Row{"WithThreeDecimals", 0.07125, "7.125 %"},
                                          Row{"IsRoundedToFive", 0.07499934, "7.49993 %"},
-                                         Row{"OfNothing", 0, "0.00 %"},
+                                         Row{"Zero", 0, "0.00 %"},
                                          Row{"TooSmallToShow", -1e-9, "0.00 %"},
                                          Row{"BelowZero", -0.05, "-5.00 %"},
                                          Row{"AboveAHundred", 12.345, "1234.50 %"}),
@@ -67,12 +67,12 @@ TEST_P(TermInMonths, Reads) {
 INSTANTIATE_TEST_SUITE_P(
     Terms, TermInMonths,
     testing::Values(Row{"Whole", 360, "360  Months"}, Row{"One", 1, "1  Month"},
-                    Row{"Nothing", 0, "0  Months"}, Row{"Broken", 1.5, "1.5  Months"},
-                    Row{"BrokenToTwoDecimals", 359.721, "359.72  Months"},
-                    Row{"NearlyWholeKeepsItsPoint", 359.999, "360.  Months"},
-                    Row{"NearlyOneIsNotOne", 1.0001, "1.  Months"},
-                    Row{"WholeButForTheLastDigit", 360.0000000000001, "360  Months"},
-                    Row{"OneButForTheLastDigit", 1.0000000000000002, "1  Month"},
+                    Row{"Zero", 0, "0  Months"}, Row{"Fractional", 1.5, "1.5  Months"},
+                    Row{"RoundedToTwoDecimals", 359.721, "359.72  Months"},
+                    Row{"AlmostWholeKeepsThePoint", 359.999, "360.  Months"},
+                    Row{"AlmostOneIsPlural", 1.0001, "1.  Months"},
+                    Row{"WholeExceptForTheLastDigit", 360.0000000000001, "360  Months"},
+                    Row{"OneExceptForTheLastDigit", 1.0000000000000002, "1  Month"},
                     Row{"BelowZero", -5.5, "-5.5  Months"},
                     Row{"InThousandsWithoutSeparators", 12345, "12345  Months"}),
     nameOf);
@@ -89,19 +89,19 @@ INSTANTIATE_TEST_SUITE_P(
                     Row{"One", 12, "1  Year\r\n0  Months"},
                     Row{"OneAndAMonth", 13, "1  Year\r\n1  Month"},
                     Row{"LessThanOne", 1, "0  Years\r\n1  Month"},
-                    Row{"Broken", 359.88, "29  Years\r\n11.88  Months"},
-                    Row{"HalfAMonthIsMonths", 24.5, "2  Years\r\n0.5  Months"},
-                    Row{"IsNotCarried", 359.9999999999999, "29  Years\r\n12  Months"},
-                    Row{"IsNotCarriedNearAWholeYear", 359.997, "29  Years\r\n12  Months"},
-                    Row{"IsBrokenFurtherFromAWholeYear", 359.99, "29  Years\r\n11.99  Months"},
-                    Row{"AlmostAMonthIsAMonth", 12.997, "1  Year\r\n1  Month"},
-                    Row{"TooLittleForAMonth", 12.99, "1  Year\r\n0.99  Months"},
-                    Row{"AMonthAndTooLittleMore", 13.003, "1  Year\r\n1  Months"},
-                    Row{"AMonthAndMore", 13.006, "1  Year\r\n1.01  Months"},
-                    Row{"TooLittleForADecimal", 12.003, "1  Year\r\n0  Months"},
-                    Row{"ExactlyAlmostAMonth", 0.995, "0  Years\r\n1  Months"},
-                    Row{"ExactlyTooLittleForADecimal", 0.004, "0  Years\r\n0  Months"},
-                    Row{"MoreThanTooLittleKeepsItsPoint", 0.0045, "0  Years\r\n0.  Months"},
+                    Row{"Fractional", 359.88, "29  Years\r\n11.88  Months"},
+                    Row{"HalfAMonthIsPlural", 24.5, "2  Years\r\n0.5  Months"},
+                    Row{"MonthsAreNotCarried", 359.9999999999999, "29  Years\r\n12  Months"},
+                    Row{"MonthsAreNotCarriedNearAWholeYear", 359.997, "29  Years\r\n12  Months"},
+                    Row{"FractionalFurtherFromAWholeYear", 359.99, "29  Years\r\n11.99  Months"},
+                    Row{"AlmostOneMonthIsOneMonth", 12.997, "1  Year\r\n1  Month"},
+                    Row{"JustBelowOneMonth", 12.99, "1  Year\r\n0.99  Months"},
+                    Row{"JustAboveOneMonthIsPlural", 13.003, "1  Year\r\n1  Months"},
+                    Row{"AboveOneMonthHasDecimals", 13.006, "1  Year\r\n1.01  Months"},
+                    Row{"TooSmallForADecimal", 12.003, "1  Year\r\n0  Months"},
+                    Row{"LowerLimitOfAWholeMonth", 0.995, "0  Years\r\n1  Months"},
+                    Row{"UpperLimitOfZeroMonths", 0.004, "0  Years\r\n0  Months"},
+                    Row{"AboveThatLimitKeepsThePoint", 0.0045, "0  Years\r\n0.  Months"},
                     Row{"BelowZero", -5.5, "-1  Years\r\n6.5  Months"}),
     nameOf);
 
@@ -109,23 +109,23 @@ constexpr std::string_view kNotObtainable =
     "\rThe answer is not obtainable using the current variables, try adjusting one or more of the "
     "numbers significantly.";
 
-TEST(AnnuityErrorText, OfTheArithmeticSaysThatThereIsNoAnswer) {
+TEST(AnnuityErrorText, ArithmeticErrorAdvisesOtherNumbers) {
   EXPECT_EQ(annuityErrorText(5, false),
             "Error:5 Invalid procedure call or argument" + std::string(kNotObtainable));
   EXPECT_EQ(annuityErrorText(6, false), "Error:6 Overflow" + std::string(kNotObtainable));
 }
 
-TEST(AnnuityErrorText, OfTheArithmeticIsPlainWhileAnAnswerIsShown) {
+TEST(AnnuityErrorText, ArithmeticErrorIsBriefWhileAnAnswerShows) {
   EXPECT_EQ(annuityErrorText(5, true), "Error:5 Invalid procedure call or argument");
   EXPECT_EQ(annuityErrorText(6, true), "Error:6 Overflow");
 }
 
-TEST(AnnuityErrorText, OfATextIsPlain) {
+TEST(AnnuityErrorText, TypeMismatchIsBrief) {
   EXPECT_EQ(annuityErrorText(13, false), "Error:13 Type mismatch");
   EXPECT_EQ(annuityErrorText(13, true), "Error:13 Type mismatch");
 }
 
-TEST(AnnuityErrorText, OfLostDataAsksForAFreshWindow) {
+TEST(AnnuityErrorText, UnusableWindowAdvisesReopening) {
   for (const int number : {3020, 3021})
     for (const bool answerShown : {false, true})
       EXPECT_EQ(annuityErrorText(number, answerShown),

@@ -8,12 +8,12 @@ using annuity::configurationOf;
 using annuity::nextConfiguration;
 using common::AnnuityKind;
 
-TEST(Configurations, AreEachOfTheirKind) {
+TEST(Configurations, EachMatchesItsKind) {
   for (const AnnuityKind kind : {AnnuityKind::Investment, AnnuityKind::Standard, AnnuityKind::Loan})
     EXPECT_EQ(configurationOf(kind).kind, kind);
 }
 
-TEST(Configurations, FollowEachOtherRoundAndRound) {
+TEST(Configurations, RotateInACycle) {
   const auto next = [](AnnuityKind kind) { return nextConfiguration(configurationOf(kind)).kind; };
   EXPECT_EQ(next(AnnuityKind::Investment), AnnuityKind::Standard);
   EXPECT_EQ(next(AnnuityKind::Standard), AnnuityKind::Loan);

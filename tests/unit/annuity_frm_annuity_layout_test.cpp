@@ -7,11 +7,11 @@ namespace {
 
 using namespace layout_rules;
 
-TEST(FrmAnnuityLayout, EveryControlIsInSight) {
+TEST(FrmAnnuityLayout, ControlsFitAndDoNotOverlap) {
   expectAllInSight(frmAnnuityLayout());
 }
 
-TEST(FrmAnnuityLayout, FieldsStandUnderEachOtherBesideTheirLabels) {
+TEST(FrmAnnuityLayout, FieldsFormAColumnBesideTheirLabels) {
   const auto& layout = frmAnnuityLayout();
   const std::vector<std::string_view> labels = {"Label2", "Label3", "Label4", "Label5", "Label6"};
   const std::vector<std::string_view> fields = {"txtNper", "txtRate", "txtPmt", "txtPV", "txtFV"};
@@ -26,7 +26,7 @@ TEST(FrmAnnuityLayout, FieldsStandUnderEachOtherBesideTheirLabels) {
   }
 }
 
-TEST(FrmAnnuityLayout, ButtonsAndOptionsStandInRows) {
+TEST(FrmAnnuityLayout, ButtonsAndOptionsFormRows) {
   const auto& layout = frmAnnuityLayout();
   expectRow(layout, {"cmdRotateLabels", "cmdPrintToTape", "cmdClearAll", "cmdHelp"});
   expectRow(layout, {"optNper(0)", "optNper(1)"});
@@ -41,7 +41,7 @@ TEST(FrmAnnuityLayout, ButtonsAndOptionsStandInRows) {
   }
 }
 
-TEST(FrmAnnuityLayout, AnswerStandsUnderTheKeyThatAsksForIt) {
+TEST(FrmAnnuityLayout, AnswerIsBelowTheCalculateButton) {
   const auto& layout = frmAnnuityLayout();
   const auto below = [&](const char* upper, const char* lower) {
     EXPECT_LE(bottom(placeOf(layout, upper)), placeOf(layout, lower).top) << lower;
@@ -53,7 +53,7 @@ TEST(FrmAnnuityLayout, AnswerStandsUnderTheKeyThatAsksForIt) {
   EXPECT_EQ(right(placeOf(layout, "lblAnswer")), right(placeOf(layout, "txtFV")));
 }
 
-TEST(FrmAnnuityLayout, OptionsOfAGroupExcludeEachOther) {
+TEST(FrmAnnuityLayout, OptionsOfAGroupAreMutuallyExclusive) {
   const auto& layout = frmAnnuityLayout();
   for (const auto& control : layout.controls) {
     const bool term = control.name.starts_with("optNper");
@@ -96,7 +96,7 @@ constexpr Seen kListed[] = {
     {24, "cmdHelp", kButton, "", "", "Help", "Pulls up help.", kSans, 83},
 };
 
-TEST(FrmAnnuityLayout, EveryControlIsSeenAsListed) {
+TEST(FrmAnnuityLayout, ControlsMatchTheList) {
   expectSeen(frmAnnuityLayout(), kListed);
 }
 

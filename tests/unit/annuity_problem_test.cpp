@@ -44,7 +44,7 @@ void expectPaymentWritten(const Outcome& outcome, std::string_view text) {
   EXPECT_EQ(outcome.written[0].text, text);
 }
 
-TEST(Solve, FindsTheOneThatIsBlank) {
+TEST(Solve, FindsTheBlankQuantity) {
   const auto loan = [](PerQuantity<std::string> texts) {
     return solveAs(AnnuityKind::Loan, inMonths(std::move(texts)));
   };
@@ -56,7 +56,7 @@ TEST(Solve, FindsTheOneThatIsBlank) {
   expectAnswer(loan({"12", "0", "100", "1,300", ""}), "$ 100.00", "Balloon Payment equals:");
 }
 
-TEST(Solve, TakesTheAmountsInTheSignsOfTheConfiguration) {
+TEST(Solve, AppliesTheSignsOfTheConfiguration) {
   const PerQuantity<std::string> texts = {"12", "0", "100", "50", ""};
   expectAnswer(solveAs(AnnuityKind::Investment, inMonths(texts)), "$ 1,250.00",
                "Future Value equals:");
@@ -64,7 +64,7 @@ TEST(Solve, TakesTheAmountsInTheSignsOfTheConfiguration) {
                "Future Value equals:");
 }
 
-TEST(Solve, CountsYearsAsTwelveMonths) {
+TEST(Solve, CountsAYearAsTwelveMonths) {
   AnnuityProblem problem = inMonths({"30", "7.5", "", "100000", "0"});
   problem.termInMonths = false;
   expectAnswer(solveAs(AnnuityKind::Loan, problem), "$ 699.21", "Monthly Payment equals:");
@@ -73,30 +73,30 @@ TEST(Solve, CountsYearsAsTwelveMonths) {
                "Length of Time equals:");
 }
 
-TEST(Solve, PaysAtTheBeginningOfThePeriodWhereAsked) {
+TEST(Solve, HandlesAnAnnuityDue) {
   AnnuityProblem problem = inMonths({"360", "7.5", "", "100000", "0"});
   problem.dueAtBeginning = true;
   expectAnswer(solveAs(AnnuityKind::Loan, problem), "$ 694.87", "Monthly Payment equals:");
 }
 
-TEST(Solve, TakesAPaymentOfZeroForTheOneThatIsAskedFor) {
+TEST(Solve, TreatsAZeroPaymentAsBlank) {
   const Outcome outcome = solveAs(AnnuityKind::Loan, inMonths({"360", "7.5", "0", "100000", "0"}));
   expectAnswer(outcome, "$ 699.21", "Monthly Payment equals:");
   expectPaymentWritten(outcome, "");
 }
 
-TEST(Solve, WritesTheZeroesOfAFutureValue) {
+TEST(Solve, WritesZerosWhenSolvingForFutureValue) {
   const Outcome outcome = solveAs(AnnuityKind::Standard, inMonths({"12", "0", "0", "-50", ""}));
   expectAnswer(outcome, "$ 50.00", "Future Value equals:");
   expectPaymentWritten(outcome, "0");
 }
 
-TEST(Solve, ReadsThroughTheSeparatorsOfAnAmount) {
+TEST(Solve, IgnoresSeparatorsInAmounts) {
   expectAnswer(solveAs(AnnuityKind::Standard, inMonths({"1,200", "0", "", "-1,20000", "0"})),
                "$ 100.00", "Monthly Payment equals:");
 }
 
-TEST(Solve, RefusesAllButOneBlank) {
+TEST(Solve, RequiresExactlyOneBlank) {
   for (const PerQuantity<std::string>& texts :
        {PerQuantity<std::string>{"12", "5", "100", "1000", "0"},
         PerQuantity<std::string>{"12", "5", "", "1000", ""},
@@ -105,12 +105,12 @@ TEST(Solve, RefusesAllButOneBlank) {
     expectRefusal(solveAs(AnnuityKind::Loan, inMonths(texts)), Refusal::OneMustBeBlank);
 }
 
-TEST(Solve, RefusesAFutureValueOfNothing) {
+TEST(Solve, RefusesAFutureValueWithoutAmounts) {
   expectRefusal(solveAs(AnnuityKind::Loan, inMonths({"12", "5", "0", "0", ""})),
                 Refusal::AmountIsNeeded);
 }
 
-TEST(Solve, GivesTheErrorOfTheArithmetic) {
+TEST(Solve, ReportsArithmeticErrors) {
   const auto standard = [](PerQuantity<std::string> texts) {
     return solveAs(AnnuityKind::Standard, inMonths(std::move(texts)));
   };

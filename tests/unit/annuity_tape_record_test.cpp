@@ -21,7 +21,7 @@ std::string recordWith(const std::string& caption, const std::string& value) {
   return tapeRecord({{caption, value}}, {"Monthly Payment equals:", "$ 699.21 "});
 }
 
-TEST(TapeRecord, OfALoanIsWrittenInTwoColumnsOfLines) {
+TEST(TapeRecord, AlignsCaptionsRightAndValuesLeft) {
   EXPECT_EQ(tapeRecord({{"Length of &Time:", termOnTape("360", true)},
                         {"Annual Interest &Rate:", rateOnTape("0.085")},
                         {"&Loan Amount:", moneyOnTape("150,000")},
@@ -41,7 +41,7 @@ TEST(TapeRecord, OfALoanIsWrittenInTwoColumnsOfLines) {
             "\r\n");
 }
 
-TEST(TapeRecord, OfFiveFieldsHasFiveOfThemAndTheAnswer) {
+TEST(TapeRecord, ListsFiveFieldsAndTheAnswer) {
   EXPECT_EQ(tapeRecord({{"&Term:", termOnTape("30", false)},
                         {"Annual Interest &Rate:", rateOnTape("8.5")},
                         {"Monthly P&ayment:", moneyOnTape("-1250")},
@@ -64,14 +64,14 @@ TEST(TapeRecord, OfFiveFieldsHasFiveOfThemAndTheAnswer) {
             "\r\n");
 }
 
-TEST(TapeRecord, WithoutFieldsHasTheAnswerAlone) {
+TEST(TapeRecord, WithoutFieldsHasOnlyTheAnswer) {
   EXPECT_EQ(tapeRecord({}, {"Answer:", answerOnTape("")}),
             kHeader +
                 "\r\n                   Answer:"
                 "\r\n                          \r\n");
 }
 
-TEST(TapeRecord, WritesACaptionWithoutItsAccessKey) {
+TEST(TapeRecord, DropsTheAccessKeyMarker) {
   EXPECT_EQ(recordWith("&Term:", "1 "),
             kHeader + "\r\n                     Term:\r\n1                         " + kAnswer);
   EXPECT_EQ(recordWith("Monthly P&ayment:", "1 "),
@@ -80,12 +80,12 @@ TEST(TapeRecord, WritesACaptionWithoutItsAccessKey) {
             kHeader + "\r\n            Profit & Loss:\r\n1                         " + kAnswer);
 }
 
-TEST(TapeRecord, LeavesACaptionThatSaysEqualsByItsSign) {
+TEST(TapeRecord, KeepsACaptionWithAnEqualsSign) {
   EXPECT_EQ(tapeRecord({}, {"Dollars Invested Today =", "$ 1.00 "}),
             kHeader + "\r\n  Dollars Invested Today =\r\n$ 1.00                    \r\n");
 }
 
-TEST(TapeRecord, KeepsWhatIsLongerThanALine) {
+TEST(TapeRecord, DoesNotTruncateLongTexts) {
   const std::string caption = "A caption of more than 26 characters:";
   const std::string value = "a value of more than 26 characters ";
   EXPECT_EQ(recordWith(caption, value), kHeader + "\r\n" + caption + "\r\n" + value + kAnswer);
@@ -97,7 +97,7 @@ TEST(TapeRecord, CountsCharactersNotBytes) {
                                                   kAnswer);
 }
 
-TEST(TapeRecord, PadsAnAnswerOfTwoLinesAsOneText) {
+TEST(TapeRecord, PadsATwoLineAnswerAsOneText) {
   EXPECT_EQ(tapeRecord({}, {"Term equals:", answerOnTape("30  Years\r\n0  Months")}),
             kHeader + "\r\n                   Term  =\r\n30  Years\r\n0  Months      \r\n");
 }
@@ -108,7 +108,7 @@ TEST(TermOnTape, NamesItsUnit) {
   EXPECT_EQ(termOnTape("abc", false), "abc Years ");
 }
 
-TEST(RateOnTape, IsMultipliedByAHundred) {
+TEST(RateOnTape, IsMultipliedBy100) {
   EXPECT_EQ(rateOnTape("8.5"), "% 850.00 ");
   EXPECT_EQ(rateOnTape("0.085"), "% 8.50 ");
   EXPECT_EQ(rateOnTape("0.0712345"), "% 7.1235 ");

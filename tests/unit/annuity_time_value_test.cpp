@@ -58,7 +58,7 @@ class TimeValueReference : public testing::TestWithParam<const char*> {};
 
 // The allowed error is what the arguments' own last digits can do to the answer: `cond` is the sum
 // of the relative changes of the answer over those of each argument.
-TEST_P(TimeValueReference, IsMetToTheLastDigits) {
+TEST_P(TimeValueReference, MatchesToTheLastDigits) {
   const std::vector<json> cases = referenceCases(GetParam());
   ASSERT_GE(cases.size(), 30u);
   for (const json& each : cases) {
@@ -88,7 +88,7 @@ INSTANTIATE_TEST_SUITE_P(Functions, TimeValueReference,
                          testing::Values("Pmt", "PV", "FV", "NPer", "Rate"),
                          [](const auto& each) { return std::string(each.param); });
 
-TEST(TimeValue, RateZeroNeedsNoPowers) {
+TEST(TimeValue, HandlesAZeroRate) {
   EXPECT_EQ(annuity::fv(0, 12, -100, 0, 0), 1200);
   EXPECT_EQ(annuity::pv(0, 12, -100, 0, 1), 1200);
   EXPECT_EQ(annuity::pmt(0, 12, 1200, 0, 0), -100);
@@ -97,26 +97,26 @@ TEST(TimeValue, RateZeroNeedsNoPowers) {
   EXPECT_NEAR(annuity::rate(12, -100, 1200, 0, 0, 0), 0, 1e-12);
 }
 
-TEST(TimeValue, APaymentAtTheBeginningBearsOnePeriodLess) {
+TEST(TimeValue, AnnuityDueEarnsOneMorePeriod) {
   EXPECT_NEAR(annuity::pmt(0.00625, 360, 100000, 0, 0), -699.2145085527792, 4e-13);
   EXPECT_NEAR(annuity::pmt(0.00625, 360, 100000, 0, 1), -694.8715612946874, 4e-13);
   EXPECT_NEAR(annuity::fv(0.005, 120, -100, 0, 1), annuity::fv(0.005, 120, -100, 0, 0) * 1.005,
               1e-10);
 }
 
-TEST(TimeValue, AtRateMinusOneOnlyTheLastPaymentIsLeft) {
+TEST(TimeValue, AtMinus100PercentOnlyTheLastPaymentCounts) {
   EXPECT_EQ(annuity::fv(-1, 0, -100, 50, 0), -50);
   EXPECT_EQ(annuity::fv(-1, 12, -100, 50, 0), 100);
   EXPECT_EQ(annuity::pmt(-1, 12, 1000, -70, 0), 70);
 }
 
-TEST(TimeValue, ZeroHasNoSign) {
+TEST(TimeValue, NeverReturnsNegativeZero) {
   EXPECT_FALSE(std::signbit(annuity::fv(0, 12, 0, 0, 0)));
   EXPECT_FALSE(std::signbit(annuity::pv(0.01, 12, 0, 0, 1)));
   EXPECT_FALSE(std::signbit(annuity::pmt(0.01, 12, 0, 0, 0)));
 }
 
-TEST(NPer, IsWholeWhereAWholeTermBalances) {
+TEST(NPer, ReturnsAWholeTermThatBalances) {
   EXPECT_EQ(annuity::nper(0.00625, -699.2145085527766, 100000, 0, 0), 360);
   EXPECT_EQ(annuity::nper(0, -0.1, 0.3, 0, 0), 3);
   int whole = 0;
@@ -132,7 +132,7 @@ TEST(NPer, IsWholeWhereAWholeTermBalances) {
   EXPECT_EQ(whole, 480 * 18);
 }
 
-TEST(NPer, KeepsATermThatIsNotQuiteWhole) {
+TEST(NPer, KeepsAnAlmostWholeTerm) {
   EXPECT_EQ(annuity::nper(0, -100, 150, 0, 0), 1.5);
   EXPECT_NEAR(annuity::nper(0, -100, 35999.9, 0, 0), 359.999, 1e-12);
   const double withinACent = annuity::nper(0.00625, -699.21, 100000, 0, 0);
@@ -148,7 +148,7 @@ double lastDigitsAbove(double value, int steps) {
 
 // The arithmetic is trusted with 16 units of the last place of what flows, and 4 more for each
 // unit of the exponent: here 35 and 70 steps of an amount are within, 45 and 90 are beyond.
-TEST(NPer, IsWholeOnlyWhereTheLastDigitsMayPartIt) {
+TEST(NPer, RoundsOnlyWithinFloatingPointError) {
   EXPECT_EQ(annuity::nper(0, -100, lastDigitsAbove(1200, 35), 0, 0), 12);
   EXPECT_NE(annuity::nper(0, -100, lastDigitsAbove(1200, 45), 0, 0), 12);
   EXPECT_EQ(annuity::nper(0.00625, -699.2145085527792, lastDigitsAbove(100000, 70), 0, 0), 360);
@@ -156,7 +156,7 @@ TEST(NPer, IsWholeOnlyWhereTheLastDigitsMayPartIt) {
 }
 
 // Two payments of 10 grow to 10 (2 + rate).
-TEST(Rate, TakesMoreStepsWhereTheRootIsFarAway) {
+TEST(Rate, ConvergesOnADistantRoot) {
   EXPECT_NEAR(annuity::rate(2, -10, 0, 1500, 0), 148, 1e-9);
   EXPECT_NEAR(annuity::rate(2, -10, 0, 10000, 0), 998, 1e-9);
 }
@@ -169,7 +169,7 @@ TEST(Rate, StartsFromTheGuess) {
   EXPECT_EQ(errorOf([] { return annuity::rate(45, -790, 4105, 0, 0, -3.8092); }), 5);
 }
 
-TEST(Rate, HasNoAnswerCloserToALossOfEverythingThanABillionth) {
+TEST(Rate, RefusesRatesNextToMinusOne) {
   EXPECT_EQ(errorOf([] { return annuity::rate(1, -1, 1e12, -100, 0); }), 5);
   EXPECT_NEAR(annuity::rate(1, -1, 1e12, -100000, 0), -0.999999899999, 1e-15);
   EXPECT_EQ(errorOf([] { return annuity::rate(12, -100, 1000, 0, 0, -1 + 1e-10); }), 5);
@@ -229,7 +229,7 @@ class OddNumbers {
   std::mt19937_64 engine_{20240229};
 };
 
-TEST(TimeValue, AnswersANumberOrRaisesAnError) {
+TEST(TimeValue, ReturnsAFiniteNumberOrRaisesAnError) {
   OddNumbers numbers;
   int answers = 0, errors = 0;
   for (int round = 0; round < 20000; ++round) {
@@ -248,7 +248,7 @@ TEST(TimeValue, AnswersANumberOrRaisesAnError) {
 }
 
 // Whatever the problem: an answer that does not balance the flows would be worse than an error.
-TEST(Rate, NeverAnswersWhatDoesNotBalance) {
+TEST(Rate, EveryAnswerBalances) {
   std::mt19937_64 engine(360);
   const auto uniform = [&](double low, double high) {
     return std::uniform_real_distribution<double>(low, high)(engine);

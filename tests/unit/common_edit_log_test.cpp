@@ -15,7 +15,7 @@ std::string exampleLog() {
 
 constexpr char kExample[] = "Top\r\n5 \xE2\x82\xAC \xF0\x9F\x93\x88.00 + \r\nend";
 
-TEST(EditLog, MakesTheTextAgain) {
+TEST(EditLog, ReplaysTheEdits) {
   EXPECT_EQ(replayEdits(""), "");
   EXPECT_EQ(replayEdits(editRecord({.inserted = "Top"})), "Top");
   EXPECT_EQ(replayEdits(editRecord({.inserted = "Top"}) + editRecord({.removed = 3})), "");
@@ -24,7 +24,7 @@ TEST(EditLog, MakesTheTextAgain) {
   EXPECT_EQ(replayEdits(log), kExample);
 }
 
-TEST(EditLog, ALogCutShortAnywhereEndsWithItsLastWholeRecord) {
+TEST(EditLog, TruncatedLogEndsWithItsLastCompleteRecord) {
   const std::string log = exampleLog();
   const std::string last = editRecord({.start = 17, .inserted = "\r\nend"});
   const std::string text = kExample;
@@ -33,7 +33,7 @@ TEST(EditLog, ALogCutShortAnywhereEndsWithItsLastWholeRecord) {
     EXPECT_EQ(replayEdits(log.substr(0, log.size() - cut)), before) << cut;
 }
 
-TEST(EditLog, ALogThatEndsInZerosOrRubbishEndsInFrontOfThem) {
+TEST(EditLog, TrailingGarbageIsIgnored) {
   const std::string log = exampleLog();
   for (const std::size_t size : {1u, 15u, 16u, 17u, 4096u}) {
     EXPECT_EQ(replayEdits(log + std::string(size, '\0')), kExample) << size;
@@ -42,14 +42,14 @@ TEST(EditLog, ALogThatEndsInZerosOrRubbishEndsInFrontOfThem) {
   EXPECT_EQ(replayEdits("what is no log at all"), "");
 }
 
-TEST(EditLog, ADamagedRecordIsNotMade) {
+TEST(EditLog, DamagedRecordIsNotReplayed) {
   std::string log = exampleLog();
   log[log.size() - 1] = 'E';
   EXPECT_NE(replayEdits(log).find(".00 + "), std::string::npos);
   EXPECT_EQ(replayEdits(log).find("en"), std::string::npos);
 }
 
-TEST(EditLog, AnEditThatReachesBeyondTheTextIsNotMade) {
+TEST(EditLog, EditBeyondTheTextIsNotReplayed) {
   const std::string top = editRecord({.inserted = "Top"});
   EXPECT_EQ(replayEdits(top + editRecord({.start = 4, .inserted = "x"})), "Top");
   EXPECT_EQ(replayEdits(top + editRecord({.start = 1, .removed = 3})), "Top");

@@ -52,7 +52,7 @@ TEST(NumberPattern, GroupsWholeNumbersByThousands) {
                        {-100, "-100"}});
 }
 
-TEST(NumberPattern, PrintsDigitsBeyondItsPlaces) {
+TEST(NumberPattern, PrintsDigitsBeyondThePattern) {
   expectShown(kWhole, {{1e16, "10,000,000,000,000,000"},
                        {1e20, "100,000,000,000,000,000,000"},
                        {1234567890123456789.0, "1,234,567,890,123,460,000"},
@@ -107,14 +107,14 @@ TEST(NumberPattern, CarriesThroughNines) {
   expectShown(kWhole, {{999.5, "1,000"}, {999.4, "999"}, {0.95, "1"}});
 }
 
-TEST(NumberPattern, WritesWhatRoundsToZeroWithoutASign) {
+TEST(NumberPattern, DropsTheSignOfAZero) {
   expectShown(kTwoPlaces, {{-0.004, "0.00"}, {-0.0, "0.00"}, {-1e-300, "0.00"}, {1e-300, "0.00"}});
   expectShown(kWhole, {{-0.4, "0"}, {-0.5, "-1"}});
   expectShown("% ###.00##", {{-0.00000001, "% .00"}});
   expectTextShown(kWhole, {{"-0", "0"}, {"-0.00", "0"}});
 }
 
-TEST(NumberPattern, PutsTheMinusInFrontOfTheWhole) {
+TEST(NumberPattern, PutsTheMinusInFrontOfEverything) {
   expectShown("$ ###,###,###,##0.00", {{-1234.5, "-$ 1,234.50"}, {-0.01, "-$ 0.01"}});
   expectShown("% ###.00##", {{-0.05, "-% 5.00"}});
 }
@@ -140,7 +140,7 @@ TEST(NumberPattern, ShowsARateWithTwoToFiveDecimals) {
                                 {12, "1200.00 %"}});
 }
 
-TEST(NumberPattern, ShiftsThePointOfAPercentageAndMultipliesNothing) {
+TEST(NumberPattern, ShiftsTheDecimalPointForPercentages) {
   expectShown("####0.00### %", {{0.285, "28.50 %"},
                                 {0.57, "57.00 %"},
                                 {1.1, "110.00 %"},
@@ -159,7 +159,7 @@ TEST(NumberPattern, ShowsTheRateOfARecord) {
                                  {"-", "-"}});
 }
 
-TEST(NumberPattern, KeepsItsPointWhenNoDecimalFollows) {
+TEST(NumberPattern, KeepsThePointWithoutDecimals) {
   expectShown("####0.##", {{359.999, "360."},
                            {11.88, "11.88"},
                            {11.8, "11.8"},
@@ -175,7 +175,7 @@ TEST(NumberPattern, ShowsYearsAndMonthsWithoutAPoint) {
   expectShown("####0", {{30, "30"}, {0, "0"}, {29.99, "30"}, {12345, "12345"}, {123456, "123456"}});
 }
 
-TEST(NumberPattern, WritesSmallFloatingEntriesOut) {
+TEST(NumberPattern, WritesSmallNumbersWithoutAnExponent) {
   expectTextShown("###.00000000000000", {{"1.5E-10", ".00000000015000"},
                                          {"3.33333333333333E-06", ".00000333333333"},
                                          {"1E-16", ".00000000000000"},
@@ -186,7 +186,7 @@ TEST(NumberPattern, WritesSmallFloatingEntriesOut) {
   expectShown("###.00000000000000", {{1.5, "1.50000000000000"}, {0.25, ".25000000000000"}});
 }
 
-TEST(NumberPattern, WritesNoDigitForAnOptionalOne) {
+TEST(NumberPattern, OmitsUnusedOptionalDigits) {
   expectShown("###", {{0, ""}, {5, "5"}, {0.4, ""}, {0.5, "1"}});
   expectShown("#,###", {{0, ""}, {12, "12"}, {1234, "1,234"}});
   expectShown("0.0#", {{1, "1.0"}, {1.25, "1.25"}, {1.255, "1.26"}, {1.999, "2.0"}});
@@ -195,7 +195,7 @@ TEST(NumberPattern, WritesNoDigitForAnOptionalOne) {
   expectShown(".00", {{12.5, "12.50"}, {0.5, ".50"}});
 }
 
-TEST(NumberPattern, PrintsOtherCharactersAsTheyAre) {
+TEST(NumberPattern, PrintsOtherCharactersLiterally) {
   expectShown("<0.0>", {{1.25, "<1.3>"}});
   expectShown("0.0 a.b", {{1.25, "1.3 a.b"}});
   expectShown("$ .00", {{123, "$ 123.00"}});
@@ -203,14 +203,14 @@ TEST(NumberPattern, PrintsOtherCharactersAsTheyAre) {
   expectShown("", {{3, ""}, {0, ""}});
 }
 
-TEST(NumberPattern, LeavesTextThatIsNoNumberAsItIs) {
+TEST(NumberPattern, LeavesNonNumericTextUnchanged) {
   for (const char* text : {"", "-", ".", "abc", "Error", "1.2.3", "5\r\n", "1E999", "-1E999"}) {
     EXPECT_EQ(formatText(text, kWhole), text);
     EXPECT_EQ(formatText(text, kTwoPlaces), text);
   }
 }
 
-TEST(NumberPattern, FormatsTextOfEveryNotation) {
+TEST(NumberPattern, FormatsTextInAnyNotation) {
   expectTextShown(kTwoPlaces, {{"1,2,34", "1,234.00"},
                                {"(5)", "-5.00"},
                                {"$ 5", "5.00"},
@@ -219,7 +219,7 @@ TEST(NumberPattern, FormatsTextOfEveryNotation) {
                                {"1E-999", "0.00"}});
 }
 
-TEST(NumberPattern, ComesBackUnchangedWhenFormattedAgain) {
+TEST(NumberPattern, FormattingIsIdempotent) {
   std::mt19937_64 random(3);
   std::uniform_real_distribution<double> exponent(-4, 20);
   for (int i = 0; i < 20000; ++i) {
@@ -230,7 +230,7 @@ TEST(NumberPattern, ComesBackUnchangedWhenFormattedAgain) {
 }
 
 // What is shown of an amount in tenths of a cent can be said in integers, without any conversion.
-TEST(NumberPattern, RoundsEveryTenthOfACentAsOneDoesByHand) {
+TEST(NumberPattern, RoundsTenthsOfACentAsByHand) {
   for (long long mills = 0; mills < 300000; ++mills) {
     char typed[32];
     std::snprintf(typed, sizeof typed, "%lld.%03lld", mills / 1000, mills % 1000);
@@ -241,7 +241,7 @@ TEST(NumberPattern, RoundsEveryTenthOfACentAsOneDoesByHand) {
   }
 }
 
-TEST(NumberPattern, TakesAPatternOfAnyLength) {
+TEST(NumberPattern, AcceptsPatternsOfAnyLength) {
   const std::string zeros(65536, '0');
   EXPECT_EQ(formatNumber(0, zeros + "." + zeros), zeros + "." + zeros);
   EXPECT_EQ(formatNumber(5, std::string(65536, '#')), "5");

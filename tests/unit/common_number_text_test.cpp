@@ -58,7 +58,7 @@ TEST(TextToNumber, ReadsDigitsWithAndWithoutAPoint) {
                  {"999999999999999", 999999999999999}});
 }
 
-TEST(TextToNumber, ReadsOneSignInFrontOrAMinusBehind) {
+TEST(TextToNumber, ReadsALeadingSignOrATrailingMinus) {
   expectNumbers({{"-5", -5}, {"+5", 5}, {"5-", -5}, {"-.5", -0.5}, {".5-", -0.5}, {"5.-", -5}});
 }
 
@@ -112,11 +112,11 @@ TEST(TextToNumber, ReadsAnExponent) {
                  {"1E0005", 1e5}});
 }
 
-TEST(TextToNumber, LeavesOutBlanksAndTabsAround) {
+TEST(TextToNumber, IgnoresSurroundingBlanksAndTabs) {
   expectNumbers({{" \t-5 ", -5}, {"5\t", 5}, {"  12.5  ", 12.5}});
 }
 
-TEST(TextToNumber, KnowsOneZeroOnly) {
+TEST(TextToNumber, NeverReturnsNegativeZero) {
   for (const char* text : {"-0", "(0)", "0-", "-0.00", "-0E5", "-1E-999"}) {
     SCOPED_TRACE(text);
     EXPECT_EQ(toNumber(text), 0);
@@ -134,7 +134,7 @@ TEST(TextToNumber, RefusesMoreThanOneSign) {
                                "-(5)", "5--", "$-5-", "((5))", "$$5"});
 }
 
-TEST(TextToNumber, RefusesASignInAPlaceOfItsOwn) {
+TEST(TextToNumber, RefusesAMisplacedSign) {
   expectErrors(kTypeMismatch, {"5+", "1E5-", "1E-5-", "5-5", "5-.", "$(5)"});
 }
 
@@ -153,7 +153,7 @@ TEST(TextToNumber, RefusesLettersLineBreaksAndOtherBytes) {
                                "\xD9\xA5", std::string("5\0", 2), "(5", "5)"});
 }
 
-TEST(TextToNumber, RefusesASecondPointAndCommasBehindThePoint) {
+TEST(TextToNumber, RefusesASecondPointAndCommasAfterThePoint) {
   expectErrors(kTypeMismatch, {"1.2.3", "1..2", "1.5,0", "1.,5", ",.5", "$,.5", "1E1.5", "1E1,0"});
 }
 
@@ -163,7 +163,7 @@ TEST(TextToNumber, OverflowsBeyondTheRangeOfADouble) {
                 "(1E999)", "10E308", "1" + std::string(309, '0'), "0.001E312"});
 }
 
-TEST(TextToNumber, ReadsTheBordersOfTheRange) {
+TEST(TextToNumber, ReadsTheLimitsOfTheRange) {
   expectNumbers({{"1.7976931348623157E308", Double::max()},
                  {"-1.7976931348623157E308", Double::lowest()},
                  {"2.2250738585072014E-308", Double::min()},
@@ -172,7 +172,7 @@ TEST(TextToNumber, ReadsTheBordersOfTheRange) {
                  {"1E308", 1e308}});
 }
 
-TEST(TextToNumber, TakesWhatIsTooSmallForZero) {
+TEST(TextToNumber, RoundsTinyNumbersToZero) {
   expectNumbers({{"1E-999", 0},
                  {"2E-324", 0},
                  {"1E-99999999999999999999999", 0},
@@ -180,7 +180,7 @@ TEST(TextToNumber, TakesWhatIsTooSmallForZero) {
                  {"0E99999999999999999999999", 0}});
 }
 
-TEST(TextToNumber, LetsTheExponentOutweighManyZeros) {
+TEST(TextToNumber, ExponentCanOffsetManyZeros) {
   expectNumbers({{"0." + std::string(1000, '0') + "5E1001", 5},
                  {"5" + std::string(1000, '0') + "E-1000", 5},
                  {std::string(1000, '0') + "5", 5}});
@@ -194,7 +194,7 @@ TEST(TextToNumber, RoundsCorrectly) {
                  {"123456789012345.67", 123456789012345.67}});
 }
 
-TEST(TextToNumber, IsQuickWithRubbishOf64Kilobytes) {
+TEST(TextToNumber, IsFastOn64KilobytesOfGarbage) {
   constexpr std::size_t kLength = 65536;
   const auto start = std::chrono::steady_clock::now();
   for (const char filler : {'0', '9', ',', '.', '-', '(', ' ', 'E', 'x', '\0', '\xFF', '$', '\t'}) {
@@ -219,7 +219,7 @@ void expectTexts(const std::vector<Writing>& writings) {
   for (const Writing& each : writings) EXPECT_EQ(toText(each.value), each.text);
 }
 
-TEST(NumberToText, WritesNoDigitThatIsNotNeeded) {
+TEST(NumberToText, WritesNoUnneededDigits) {
   expectTexts({{5, "5"}, {-1234.5, "-1234.5"}, {0.1, "0.1"}, {100, "100"}, {12.50, "12.5"}});
 }
 
@@ -237,7 +237,7 @@ TEST(NumberToText, WritesZeroWithoutASign) {
   expectTexts({{0.0, "0"}, {-0.0, "0"}});
 }
 
-TEST(NumberToText, WritesFifteenDigitsInFrontOfThePoint) {
+TEST(NumberToText, WritesFifteenDigitsBeforeThePoint) {
   expectTexts({{999999999999999, "999999999999999"},
                {-999999999999999, "-999999999999999"},
                {123456789012345, "123456789012345"},
@@ -245,7 +245,7 @@ TEST(NumberToText, WritesFifteenDigitsInFrontOfThePoint) {
                {12345678901234.5, "12345678901234.5"}});
 }
 
-TEST(NumberToText, WritesAnExponentFromTheSixteenthDigitInFront) {
+TEST(NumberToText, WritesAnExponentFromSixteenIntegerDigits) {
   expectTexts({{1e15, "1E+15"},
                {-1e15, "-1E+15"},
                {1e16, "1E+16"},
@@ -255,14 +255,14 @@ TEST(NumberToText, WritesAnExponentFromTheSixteenthDigitInFront) {
                {999999999999999.9, "1E+15"}});
 }
 
-TEST(NumberToText, WritesFifteenDigitsBehindThePoint) {
+TEST(NumberToText, WritesFifteenDecimals) {
   expectTexts({{1e-5, "0.00001"},
                {1e-15, "0.000000000000001"},
                {1.25e-13, "0.000000000000125"},
                {-0.000000000012345, "-0.000000000012345"}});
 }
 
-TEST(NumberToText, WritesAnExponentFromTheSixteenthDigitBehind) {
+TEST(NumberToText, WritesAnExponentFromSixteenDecimals) {
   expectTexts({{1e-16, "1E-16"},
                {1.5e-10 / 1e6, "1.5E-16"},
                {1.25e-14, "1.25E-14"},
@@ -279,14 +279,14 @@ TEST(NumberToText, CarriesThroughNines) {
                {99999999999999.99, "100000000000000"}});
 }
 
-TEST(NumberToText, WritesTheBordersOfTheRange) {
+TEST(NumberToText, WritesTheLimitsOfTheRange) {
   expectTexts({{Double::denorm_min(), "4.94065645841247E-324"},
                {Double::min(), "2.2250738585072E-308"},
                {Double::max(), "1.79769313486232E+308"},
                {Double::lowest(), "-1.79769313486232E+308"}});
 }
 
-TEST(NumberToText, IsReadBackToFifteenDigits) {
+TEST(NumberToText, RoundTripsToFifteenDigits) {
   std::mt19937_64 random(1);
   std::uniform_real_distribution<double> exponent(-307, 307);
   // Half a unit of the fifteenth digit, and what reading and dividing round.
@@ -300,7 +300,7 @@ TEST(NumberToText, IsReadBackToFifteenDigits) {
   }
 }
 
-TEST(NumberToText, WritesWhatWasTypedAsItWasTyped) {
+TEST(NumberToText, RoundTripsTypedNumbers) {
   std::mt19937_64 random(2);
   std::uniform_int_distribution<long long> cents(1, 99999999999999);
   for (int i = 0; i < 20000; ++i) {
@@ -314,7 +314,7 @@ TEST(NumberToText, WritesWhatWasTypedAsItWasTyped) {
   }
 }
 
-TEST(NumberDigits, StandBehindThePointWithoutZerosAtTheirEnds) {
+TEST(NumberDigits, HaveNoLeadingOrTrailingZeros) {
   const DecimalDigits number = toDigits(-1250);
   EXPECT_TRUE(number.negative);
   EXPECT_EQ(number.digits, "125");
@@ -325,24 +325,24 @@ TEST(NumberDigits, StandBehindThePointWithoutZerosAtTheirEnds) {
   EXPECT_EQ(toDigits(9.9999999999999995).point, 2);
 }
 
-TEST(NumberDigits, OfZeroAreNone) {
+TEST(NumberDigits, AreEmptyForZero) {
   EXPECT_FALSE(toDigits(-0.0).negative);
   EXPECT_EQ(toDigits(-0.0).digits, "");
 }
 
-TEST(HasOddCommas, FindsThoseThatPartNoGroupsOfThree) {
+TEST(HasOddCommas, FindsCommasThatDoNotSeparateThousands) {
   for (const char* text : {"12,50", "1,23", "1,2345", "1234,567", "5,", ",500", "1,,234", "-1,23",
                            "$7,5", "(1,2)", "7,5 ", "1,234,56.7", "1,2E3", "0,5"})
     EXPECT_TRUE(hasOddCommas(text)) << text;
 }
 
-TEST(HasOddCommas, LetsGroupsOfThreePass) {
+TEST(HasOddCommas, AcceptsThousandsSeparators) {
   for (const char* text : {"1,234.50", "1234.50", "-12,345", "123,456,789", "$ 1,234.50", "(1,234)",
                            "1,000E3", ".5", "0"})
     EXPECT_FALSE(hasOddCommas(text)) << text;
 }
 
-TEST(HasOddCommas, SaysNothingOfWhatIsNoNumber) {
+TEST(HasOddCommas, IsFalseForNonNumericText) {
   for (const char* text : {"", "abc", ",", "1,23x", "1.5,6", "7,5\r\n"})
     EXPECT_FALSE(hasOddCommas(text)) << text;
 }

@@ -16,7 +16,7 @@ void expectPlain(const std::vector<std::pair<std::string, std::string>>& texts) 
   }
 }
 
-TEST(PlainText, ComesBackAsItIsWhenItIsPlain) {
+TEST(PlainText, PlainNumberIsUnchanged) {
   expectPlain({{"5", "5"},
                {"-5", "-5"},
                {"+5", "+5"},
@@ -28,7 +28,7 @@ TEST(PlainText, ComesBackAsItIsWhenItIsPlain) {
                {"0.0000000000000000001", "0.0000000000000000001"}});
 }
 
-TEST(PlainText, HasItsSignInFront) {
+TEST(PlainText, HasALeadingSign) {
   expectPlain({{"12.34-", "-12.34"},
                {"12.345-", "-12.345"},
                {"($1,234.567)", "-1,234.567"},
@@ -42,7 +42,7 @@ TEST(PlainText, HasNoDollarSignAndNoBlanks) {
   expectPlain({{"$ 1,250.00 ", "1,250.00"}, {"$5.", "5."}, {" 5 ", "5"}, {"\t-5", "-5"}});
 }
 
-TEST(PlainText, HasADigitInFrontOfItsPoint) {
+TEST(PlainText, HasADigitBeforeThePoint) {
   expectPlain(
       {{".5", "0.5"}, {"-.55", "-0.55"}, {"(.5)", "-0.5"}, {".5-", "-0.5"}, {"$.50", "0.50"}});
 }
@@ -62,7 +62,7 @@ TEST(PlainText, HasNoExponent) {
                {".5E1", "5"}});
 }
 
-TEST(PlainText, OfWhatIsTooSmallIsAZeroThatKeepsItsSign) {
+TEST(PlainText, TinyNumberBecomesASignedZero) {
   expectPlain({{"1E-999", "0"},
                {"-1E-999", "-0"},
                {"0E999999999999999999", "0"},
@@ -70,7 +70,7 @@ TEST(PlainText, OfWhatIsTooSmallIsAZeroThatKeepsItsSign) {
                {"0.00E5", "0"}});
 }
 
-TEST(PlainText, HasTheValueOfWhatWasWritten) {
+TEST(PlainText, KeepsTheValue) {
   for (const char* text : {"1.23456E+3", "1.7976931348623157E308", "4.9E-324", "($1,234.567)",
                            "123456.789E-3", "000.00012E-5", "1,2,3E2"}) {
     SCOPED_TRACE(text);

@@ -8,14 +8,14 @@
 namespace common {
 namespace {
 
-TEST(RunTimeErrorText, SaysWhatWentWrong) {
+TEST(RunTimeErrorText, NamesTheError) {
   EXPECT_EQ(errorText(kInvalidProcedureCall), "Error:5 Invalid procedure call or argument");
   EXPECT_EQ(errorText(kOverflow), "Error:6 Overflow");
   EXPECT_EQ(errorText(kDivisionByZero), "Error:11 Division by zero");
   EXPECT_EQ(errorText(kTypeMismatch), "Error:13 Type mismatch");
 }
 
-TEST(RunTimeErrorText, HasADescriptionForEveryOtherNumber) {
+TEST(RunTimeErrorText, HasAFallbackDescription) {
   EXPECT_EQ(errorText(4711), "Error:4711 Application-defined or object-defined error");
   for (const int number : {3020, 3021})
     EXPECT_EQ(errorText(number), "Error:" + std::to_string(number) +
@@ -23,13 +23,13 @@ TEST(RunTimeErrorText, HasADescriptionForEveryOtherNumber) {
                                      "Please close this window and reload this form.");
 }
 
-TEST(Trap, RunsABodyWithoutAnErrorToItsEnd) {
+TEST(Trap, RunsABodyToItsEnd) {
   bool ended = false;
   EXPECT_TRUE(trap([&] { ended = true; }, [](const RunTimeError&) { FAIL(); }));
   EXPECT_TRUE(ended);
 }
 
-TEST(Trap, EndsTheBodyAtItsErrorAndReportsItOnce) {
+TEST(Trap, StopsAtTheErrorAndReportsItOnce) {
   bool ended = false;
   int reports = 0;
   int reported = 0;
@@ -53,7 +53,7 @@ TEST(Trap, LetsOtherExceptionsPass) {
   EXPECT_THROW(trap([] { throw std::logic_error("other"); }, report), std::logic_error);
 }
 
-TEST(Finite, LetsANumberPass) {
+TEST(Finite, ReturnsAFiniteNumber) {
   EXPECT_EQ(finite(-1.5e308), -1.5e308);
 }
 

@@ -25,7 +25,7 @@ const std::vector<std::pair<std::string, std::u16string>> kSamples = {
     {"\xF4\x8F\xBF\xBF", u"\xDBFF\xDFFF"},
 };
 
-TEST(Unicode, TurnsWellFormedTextIntoUtf16AndBack) {
+TEST(Unicode, RoundTripsWellFormedText) {
   for (const auto& [narrow, wide] : kSamples) {
     EXPECT_EQ(toUtf16(narrow), wide);
     EXPECT_EQ(toUtf8(wide), narrow);

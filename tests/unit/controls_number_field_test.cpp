@@ -40,7 +40,7 @@ class NumberFieldTest : public testing::Test {
   }
 };
 
-TEST_F(NumberFieldTest, CaretIsNeverPutInFrontOfTheSign) {
+TEST_F(NumberFieldTest, CaretStaysBehindTheSign) {
   put("12", 0);
   field_.rewrite("-12", 0);
   EXPECT_EQ(shown(), "-12 1+0");
@@ -49,7 +49,7 @@ TEST_F(NumberFieldTest, CaretIsNeverPutInFrontOfTheSign) {
   EXPECT_EQ(changes_, 2);
 }
 
-TEST_F(NumberFieldTest, TheSameTextLeavesTheSelection) {
+TEST_F(NumberFieldTest, SameTextKeepsTheSelection) {
   put("1,234", 1, 3);
   field_.rewrite("1,234", 0);
   field_.reformat("1,234");
@@ -59,19 +59,19 @@ TEST_F(NumberFieldTest, TheSameTextLeavesTheSelection) {
   EXPECT_EQ(changes_, 0);
 }
 
-TEST_F(NumberFieldTest, CaretKeepsItsDistanceFromTheEndWhenSeparatorsCome) {
+TEST_F(NumberFieldTest, CaretKeepsItsDistanceFromTheEndWhenSeparatorsAppear) {
   put("1234567", 4);
   field_.reformat("1,234,567");
   EXPECT_EQ(shown(), "1,234,567 6+0");
 }
 
-TEST_F(NumberFieldTest, CaretStaysWhereMoreGoesThanStandsInFrontOfIt) {
+TEST_F(NumberFieldTest, CaretStaysWhenMoreIsRemovedThanPrecedesIt) {
   put("1.23456", 1);
   field_.reformat("1.23");
   EXPECT_EQ(shown(), "1.23 1+0");
 }
 
-TEST_F(NumberFieldTest, BackspaceBehindASeparatorStepsOverIt) {
+TEST_F(NumberFieldTest, BackspaceSkipsASeparator) {
   put("1,234", 2);
   field_.stepOverSeparator();
   EXPECT_EQ(shown(), "1,234 1+0");
@@ -79,7 +79,7 @@ TEST_F(NumberFieldTest, BackspaceBehindASeparatorStepsOverIt) {
   EXPECT_EQ(shown(), "1,234 1+0");
 }
 
-TEST_F(NumberFieldTest, BackspaceOverASelectionOrAtTheStartStepsOverNothing) {
+TEST_F(NumberFieldTest, BackspaceSkipsNothingAtTheStartOrOverASelection) {
   put("1,234", 2, 2);
   field_.stepOverSeparator();
   EXPECT_EQ(shown(), "1,234 2+2");
@@ -88,7 +88,7 @@ TEST_F(NumberFieldTest, BackspaceOverASelectionOrAtTheStartStepsOverNothing) {
   EXPECT_EQ(shown(), ",234 0+0");
 }
 
-TEST_F(NumberFieldTest, PlacesAreCountedAsTheBoxCountsThem) {
+TEST_F(NumberFieldTest, CountsPositionsAsTheBoxDoes) {
   put("\u00e91,234", 3);
   field_.stepOverSeparator();
   EXPECT_EQ(box_.selStart(), 2);
@@ -97,7 +97,7 @@ TEST_F(NumberFieldTest, PlacesAreCountedAsTheBoxCountsThem) {
   EXPECT_EQ(box_.selStart(), 7);
 }
 
-TEST_F(NumberFieldTest, CharacterInFrontOfTheSignGivesWay) {
+TEST_F(NumberFieldTest, CharacterBeforeTheSignIsRemoved) {
   put("0-", 2);
   field_.repairSign();
   EXPECT_EQ(shown(), "- 1+0");
@@ -106,7 +106,7 @@ TEST_F(NumberFieldTest, CharacterInFrontOfTheSignGivesWay) {
   EXPECT_EQ(shown(), "-12 1+0");
 }
 
-TEST_F(NumberFieldTest, CharacterThatGivesWayGoesWhole) {
+TEST_F(NumberFieldTest, SurrogatePairBeforeTheSignIsRemovedWhole) {
   put("\u00e9-5", 2);
   field_.repairSign();
   EXPECT_EQ(shown(), "-5 1+0");
@@ -115,7 +115,7 @@ TEST_F(NumberFieldTest, CharacterThatGivesWayGoesWhole) {
   EXPECT_EQ(shown(), "-5 2+0");
 }
 
-TEST_F(NumberFieldTest, LeadingCommasGo) {
+TEST_F(NumberFieldTest, LeadingCommasAreRemoved) {
   put(",,234", 3);
   field_.dropLeadingCommas();
   EXPECT_EQ(shown(), "234 1+0");
@@ -124,7 +124,7 @@ TEST_F(NumberFieldTest, LeadingCommasGo) {
   EXPECT_EQ(shown(), " 0+0");
 }
 
-TEST_F(NumberFieldTest, SeparatorsBehindThePointGo) {
+TEST_F(NumberFieldTest, SeparatorsAfterThePointAreRemoved) {
   put("8.,123,456", 2);
   field_.dropSeparatorsBehindPoint();
   EXPECT_EQ(shown(), "8.123456 2+0");

@@ -14,7 +14,7 @@ std::string lost(inmemory::TapeSafe& safe) {
   return safe.lostTapes();
 }
 
-TEST(TapeSafe, KeepsNothingOfATapeThatHoldsItsHeadAlone) {
+TEST(TapeSafe, StoresNothingForATapeWithOnlyItsHeader) {
   inmemory::TapeSafe safe;
   safe.record({.inserted = "Top"});
   safe.record({.removed = 3, .inserted = "Top                    Top"});
@@ -22,21 +22,21 @@ TEST(TapeSafe, KeepsNothingOfATapeThatHoldsItsHeadAlone) {
   EXPECT_EQ(lost(safe), "");
 }
 
-TEST(TapeSafe, KeepsTheHeadWithTheFirstLine) {
+TEST(TapeSafe, StoresTheHeaderWithTheFirstLine) {
   inmemory::TapeSafe safe;
   safe.record({.inserted = "Top"});
   safe.record({.start = 3, .inserted = "\r\n1.00 + "});
   EXPECT_EQ(lost(safe), "Top\r\n1.00 + ");
 }
 
-TEST(TapeSafe, KeepsANoteThatIsWrittenOnTheHead) {
+TEST(TapeSafe, StoresANoteInTheHeader) {
   inmemory::TapeSafe safe;
   safe.record({.inserted = "Top"});
   safe.record({.start = 3, .inserted = "!"});
   EXPECT_EQ(lost(safe), "Top!");
 }
 
-TEST(TapeSafe, ATapeThatIsReplacedAsAWholeBeginsAnew) {
+TEST(TapeSafe, ReplacingTheWholeTapeStartsOver) {
   inmemory::TapeSafe safe;
   safe.record({.inserted = "Top"});
   safe.record({.start = 3, .inserted = "\r\n1.00 + "});
@@ -48,7 +48,7 @@ TEST(TapeSafe, ATapeThatIsReplacedAsAWholeBeginsAnew) {
   EXPECT_EQ(lost(safe), "Top\r\n1.00 + \r\n2.00 + ");
 }
 
-TEST(TapeSafe, TellsOfTheOlderRunFirstAndForgetsBoth) {
+TEST(TapeSafe, ReturnsTheOlderRunFirstAndForgetsBoth) {
   inmemory::TapeSafe safe;
   for (const std::string line : {"\r\n1.00 + ", "\r\n2.00 + "}) {
     safe.record({.inserted = "Top"});
@@ -61,7 +61,7 @@ TEST(TapeSafe, TellsOfTheOlderRunFirstAndForgetsBoth) {
 }
 
 // What is stored for a line, or for an edit in the middle, is the same on a tape of any length.
-TEST(TapeSafe, StoresAsMuchForAnEditOfALongTape) {
+TEST(TapeSafe, CostOfAnEditDoesNotGrowWithTheTape) {
   inmemory::TapeSafe safe;
   safe.record({.inserted = "Top"});
   const std::string line = "\r\n123.45 + ";

@@ -29,7 +29,7 @@ std::size_t boxesAfterMouse(controls::MouseEdit edit, const char* text) {
   return desktop.boxes.size();
 }
 
-TEST(EntryPaste, ClipboardThatIsHeldIsABeep) {
+TEST(EntryPaste, LockedClipboardBeeps) {
   inmemory::Desktop desktop;
   const auto window = desktop.createWindow(shell::frmCalcLayout());
   controls::TextBox& entry = window->textBox("txtEntry");
@@ -46,15 +46,15 @@ TEST(EntryMouse, PastedWordIsReported) {
   EXPECT_EQ(boxesAfterMouse(controls::MouseEdit::Pasted, "12abc"), 1U);
 }
 
-TEST(EntryMouse, EntryEmptiedByAPasteOfNothingIsNotReported) {
+TEST(EntryMouse, EmptyPasteIsNotReported) {
   EXPECT_EQ(boxesAfterMouse(controls::MouseEdit::Pasted, ""), 0U);
 }
 
-TEST(EntryMouse, EntryCutAwayIsNoPaste) {
+TEST(EntryMouse, CutIsNotAPaste) {
   EXPECT_EQ(boxesAfterMouse(controls::MouseEdit::Edited, ""), 0U);
 }
 
-TEST(EntryMouse, ClickIntoAnUnfinishedEntryIsNoPaste) {
+TEST(EntryMouse, ClickIsNotAPaste) {
   EXPECT_EQ(boxesAfterMouse(controls::MouseEdit::None, "-"), 0U);
 }
 

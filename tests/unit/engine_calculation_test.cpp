@@ -35,7 +35,7 @@ void expectSteps(const std::vector<Step>& steps, double largest,
   }
 }
 
-TEST(Calculation, AddModeAddsAndTakesOff) {
+TEST(Calculation, AddModeAddsAndSubtracts) {
   expectSteps({{{"12", 12}, Operator::Plus, "+", 12},
                {{"3", 3}, Operator::Minus, "-", 9},
                {{"0", 0}, Operator::Plus, "+", 9}},
@@ -52,25 +52,25 @@ TEST(Calculation, CalculatorModeWorksFromLeftToRight) {
               kLargestFixedTotal, &Calculation::calculate);
 }
 
-TEST(Calculation, WrittenZerosAreRefusedAndAPlainZeroFails) {
+TEST(Calculation, DivisionByWrittenZerosIsRefusedAndByAPlainZeroFails) {
   expectSteps({{{"1", 1}, Operator::Divide, " ", 1},
                {{"0.00", 0}, Operator::Equals, "11", 1},
                {{"0", 0}, Operator::Equals, " divide by zero.", 1}},
               kLargestFixedTotal, &Calculation::calculate);
 }
 
-TEST(Calculation, RefusedAmountLeavesTheOperatorThatWaits) {
+TEST(Calculation, RefusalKeepsThePendingOperator) {
   expectSteps({{{"1", 1}, Operator::Divide, " ", 1},
                {{"0.00", 0}, Operator::Plus, "11", 1},
                {{"4", 4}, Operator::Equals, "/", 0.25}},
               kLargestFixedTotal, &Calculation::calculate);
 }
 
-TEST(Calculation, RootOfANegativeIsRefused) {
+TEST(Calculation, RootOfANegativeNumberIsRefused) {
   expectSteps({{{"-4", -4}, Operator::Root, "5", 0}}, kLargestFixedTotal, &Calculation::calculate);
 }
 
-TEST(Calculation, BeyondTheRangeOfNumbersIsRefused) {
+TEST(Calculation, OverflowIsRefused) {
   const std::vector<Step> steps = {{{"1E308", 1e308}, Operator::Plus, "+", 1e308},
                                    {{"1E308", 1e308}, Operator::Plus, "6", 1e308}};
   expectSteps(steps, kLargestFloatingTotal, &Calculation::add);
@@ -94,7 +94,7 @@ TEST(Calculation, TotalOfMoreThanFifteenDigitsFailsUnlessTheDecimalFloats) {
   }
 }
 
-TEST(Calculation, NegativeTotalIsLimitedToo) {
+TEST(Calculation, NegativeTotalHasTheSameLimit) {
   const Amount more = {"-1E+15", -1e15};
   Calculation calculation;
   EXPECT_EQ(told(calculation.add(more, Operator::Plus, kLargestFixedTotal)), " result too large");

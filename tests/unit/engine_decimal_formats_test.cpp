@@ -16,7 +16,7 @@ struct FloatingCase {
   const char* shown;
 };
 
-TEST(DecimalFormats, WhileTheDecimalFloats) {
+TEST(DecimalFormats, FloatingDecimal) {
   const std::vector<FloatingCase> cases = {
       {"an empty entry stays empty", "", ""},
       {"digits are grouped by thousands", "1234", "1,234"},
@@ -46,7 +46,7 @@ TEST(DecimalFormats, WhileTheDecimalFloats) {
     EXPECT_EQ(formatFloating(each.typed), each.shown) << each.whatAUserSees;
 }
 
-TEST(DecimalFormats, AWordInFrontOfThePointIsAnErrorWhileTheDecimalFloats) {
+TEST(DecimalFormats, TextBeforeThePointIsAnErrorInFloatingDecimal) {
   EXPECT_THROW(formatFloating("5-3.2"), common::RunTimeError);
 }
 
@@ -57,7 +57,7 @@ struct PlacesCase {
   const char* shown;
 };
 
-TEST(DecimalFormats, WithAKeyedPoint) {
+TEST(DecimalFormats, KeyedPoint) {
   const std::vector<PlacesCase> cases = {
       {"an empty entry stays empty", "", 2, ""},
       {"digits are grouped, and no decimals are added", "1234", 2, "1,234"},
@@ -81,7 +81,7 @@ TEST(DecimalFormats, WithAKeyedPoint) {
     EXPECT_EQ(formatKeyed(each.typed, each.places), each.shown) << each.whatAUserSees;
 }
 
-TEST(DecimalFormats, InStationaryDecimal) {
+TEST(DecimalFormats, StationaryDecimal) {
   const std::vector<PlacesCase> cases = {
       {"5 is five hundredths", "5", 2, "0.05"},
       {"12 is twelve hundredths", "12", 2, "0.12"},
@@ -110,11 +110,11 @@ TEST(DecimalFormats, InStationaryDecimal) {
     EXPECT_EQ(formatStationary(each.typed, each.places), each.shown) << each.whatAUserSees;
 }
 
-TEST(DecimalFormats, WhatIsNoNumberIsAnErrorInStationaryDecimal) {
+TEST(DecimalFormats, NonNumericTextIsAnErrorInStationaryDecimal) {
   EXPECT_THROW(formatStationary("5-3", 2), common::RunTimeError);
 }
 
-TEST(DecimalFormats, OfANumberThatWasNotKeyed) {
+TEST(DecimalFormats, ValueThatWasNotKeyed) {
   const std::vector<PlacesCase> cases = {
       {"a pasted 12 has both places", "12", 2, "12.00"},
       {"a recalled 1.006 is rounded", "1.006", 2, "1.01"},
@@ -128,7 +128,7 @@ TEST(DecimalFormats, OfANumberThatWasNotKeyed) {
     EXPECT_EQ(formatValue(each.typed, each.places), each.shown) << each.whatAUserSees;
 }
 
-TEST(DecimalFormats, PatternOfATotalHasAllItsPlaces) {
+TEST(DecimalFormats, TotalPatternHasAllPlaces) {
   EXPECT_EQ(decimalsPattern(0), "###,###,###,###,##0");
   EXPECT_EQ(decimalsPattern(1), "###,###,###,###,##0.0");
   EXPECT_EQ(decimalsPattern(2), "###,###,###,###,##0.00");

@@ -23,7 +23,7 @@ struct Case {
   int places = 2;
 };
 
-TEST(TapeLine, OfAnAmountAndItsMark) {
+TEST(TapeLine, ShowsTheAmountAndItsMark) {
   const std::vector<Case> cases = {
       {"an amount added", "1,234.50", Mark::Plus, kPlain, kFixed, "1,234.50 + "},
       {"an amount taken off", "3.00", Mark::Minus, kPlain, kFixed, "3.00 - "},
@@ -55,7 +55,7 @@ TEST(TapeLine, OfAnAmountAndItsMark) {
         << each.whatAUserSees;
 }
 
-TEST(TapeLine, HeaderStandsAtTheRightOrAtBothEdges) {
+TEST(TapeLine, HeaderIsAtTheRightOrAtBothEdges) {
   EXPECT_EQ(tapeHeader(kPlain), "Top");
   EXPECT_EQ(tapeHeader(kPadded), "Top                    Top");
   EXPECT_EQ(tapeHeader(kPadded).size(), static_cast<std::size_t>(kTapeWidth));

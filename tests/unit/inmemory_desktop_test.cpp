@@ -11,9 +11,9 @@ namespace {
 constexpr controls::WindowLayout kLayout = {
     .name = "plain", .caption = "", .place = {0, 0, 900, 900}, .controls = {}};
 
-class DialogOfTheSystem : public testing::Test {
+class SystemDialogTest : public testing::Test {
  protected:
-  DialogOfTheSystem() { window_->show(); }
+  SystemDialogTest() { window_->show(); }
 
   void showMessage() {
     desktop_.events().runEvent([this] {
@@ -30,7 +30,7 @@ class DialogOfTheSystem : public testing::Test {
 
 using Log = std::vector<std::string>;
 
-TEST_F(DialogOfTheSystem, LeavesNoWindowItsInput) {
+TEST_F(SystemDialogTest, DisablesAllWindows) {
   bool enabled = true;
   desktop_.meanwhile.push_back([&] { enabled = window_->enabled() || other_->enabled(); });
   showMessage();
@@ -38,7 +38,7 @@ TEST_F(DialogOfTheSystem, LeavesNoWindowItsInput) {
   EXPECT_TRUE(window_->enabled());
 }
 
-TEST_F(DialogOfTheSystem, EndsItsHandlerWhenTheWindowThatAskedIsClosed) {
+TEST_F(SystemDialogTest, EndsItsHandlerWhenItsOwnerIsClosed) {
   window_->onClose = [this] { log_.push_back("closed"); };
   desktop_.meanwhile.push_back([this] { window_->requestClose(); });
   showMessage();
@@ -46,14 +46,14 @@ TEST_F(DialogOfTheSystem, EndsItsHandlerWhenTheWindowThatAskedIsClosed) {
   EXPECT_TRUE(window_->enabled());
 }
 
-TEST_F(DialogOfTheSystem, StaysWhenAnotherWindowIsClosed) {
+TEST_F(SystemDialogTest, StaysOpenWhenAnotherWindowIsClosed) {
   other_->onClose = [this] { log_.push_back("closed"); };
   desktop_.meanwhile.push_back([this] { other_->requestClose(); });
   showMessage();
   EXPECT_EQ(log_, (Log{"closed", "answered"}));
 }
 
-TEST_F(DialogOfTheSystem, EndsItsHandlerWithTheSession) {
+TEST_F(SystemDialogTest, EndsItsHandlerWithTheSession) {
   desktop_.onEndSession = [this] { log_.push_back("end"); };
   desktop_.meanwhile.push_back([this] { desktop_.endSession(); });
   showMessage();
@@ -61,7 +61,7 @@ TEST_F(DialogOfTheSystem, EndsItsHandlerWithTheSession) {
   EXPECT_EQ(desktop_.boxes.back().answer, controls::kNoAnswer);
 }
 
-TEST_F(DialogOfTheSystem, WhatAClosedHandlerHasLeftForLaterStillHappens) {
+TEST_F(SystemDialogTest, PostedTasksRunAfterADismissal) {
   window_->onClose = [this] { desktop_.events().post([this] { log_.push_back("destroyed"); }); };
   desktop_.meanwhile.push_back([this] { window_->requestClose(); });
   showMessage();

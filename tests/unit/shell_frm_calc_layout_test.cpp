@@ -7,11 +7,11 @@ namespace {
 
 using namespace layout_rules;
 
-TEST(FrmCalcLayout, EveryControlIsInSight) {
+TEST(FrmCalcLayout, ControlsFitAndDoNotOverlap) {
   expectAllInSight(frmCalcLayout());
 }
 
-TEST(FrmCalcLayout, DigitsStandWhereFingersKnowThem) {
+TEST(FrmCalcLayout, DigitsAndOperatorsFormAKeypad) {
   const auto& layout = frmCalcLayout();
   expectRow(layout, {"cmdNumber(7)", "cmdNumber(8)", "cmdNumber(9)", "cmdTimes", "cmdPercent"});
   expectRow(layout, {"cmdNumber(4)", "cmdNumber(5)", "cmdNumber(6)", "cmdMinus", "cmdChangeSign"});
@@ -25,7 +25,7 @@ TEST(FrmCalcLayout, DigitsStandWhereFingersKnowThem) {
   expectColumn(layout, {"cmdArrow", "cmdPercent", "cmdChangeSign", "cmdEquals"});
 }
 
-TEST(FrmCalcLayout, ClearAndMemoryKeysStandInColumnsBesideTheDigits) {
+TEST(FrmCalcLayout, ClearAndMemoryKeysFormColumnsBesideTheDigits) {
   const auto& layout = frmCalcLayout();
   expectColumn(layout,
                {"cmdClearCurrent", "cmdClearCalc", "cmdClearTape", "cmdClearAll", "cmdSquareRoot"});
@@ -36,7 +36,7 @@ TEST(FrmCalcLayout, ClearAndMemoryKeysStandInColumnsBesideTheDigits) {
     EXPECT_EQ(bottom(placeOf(layout, name)), bottom(placeOf(layout, "cmdPeriod"))) << name;
 }
 
-TEST(FrmCalcLayout, KeysOfOneSortAreOfOneSize) {
+TEST(FrmCalcLayout, KeysOfAKindHaveTheSameSize) {
   const auto& layout = frmCalcLayout();
   const auto& digit = placeOf(layout, "cmdNumber(5)");
   const controls::Twips gap = placeOf(layout, "cmdNumber(6)").left - right(digit);
@@ -97,11 +97,11 @@ constexpr Seen kListed[] = {
      120, true},
 };
 
-TEST(FrmCalcLayout, EveryControlIsSeenAsListed) {
+TEST(FrmCalcLayout, ControlsMatchTheList) {
   expectSeen(frmCalcLayout(), kListed);
 }
 
-TEST(FrmCalcLayout, MenusAreAsListed) {
+TEST(FrmCalcLayout, MenusMatchTheList) {
   std::vector<std::string> menu;
   for (const auto& item : frmCalcLayout().menu)
     menu.push_back(std::string(2 * static_cast<std::size_t>(item.level), ' ') +
@@ -141,7 +141,7 @@ TEST(FrmCalcLayout, MenusAreAsListed) {
   EXPECT_EQ(menu, listed);
 }
 
-TEST(FrmCalcLayout, WindowIsAsDesigned) {
+TEST(FrmCalcLayout, WindowHasTheDesignedSize) {
   const auto& layout = frmCalcLayout();
   EXPECT_EQ(layout.place, (controls::Rect{500, 500, 6690, 3525}));
   EXPECT_TRUE(layout.resizable);

@@ -11,17 +11,17 @@
 namespace shell {
 namespace {
 
-class DesktopOnADriveRoot : public inmemory::Desktop {
+class DriveRootDesktop : public inmemory::Desktop {
  public:
   std::string programFolder() override { return "D:\\"; }
 };
 
-class DesktopWithALockedClipboard : public inmemory::Desktop {
+class LockedClipboardDesktop : public inmemory::Desktop {
  public:
   bool setClipboardText(std::string_view) override { return false; }
 };
 
-class NothingAround : public Program {
+class EmptyProgram : public Program {
  public:
   void openFinancialCalc(common::AnnuityKind) override {}
   void showAbout(std::function<void()>) override {}
@@ -35,7 +35,7 @@ class NothingAround : public Program {
 template <class Desktop>
 struct Shown {
   Desktop desktop;
-  NothingAround program;
+  EmptyProgram program;
   frmCalc calc{desktop, program};
 
   Shown() { calc.show(); }
@@ -43,7 +43,7 @@ struct Shown {
   void choose(std::string_view name) { calc.window().menuItem(name).choose(); }
 };
 
-TEST(MainWindow, TapeAndEntryAreSetInLettersOfOneWidth) {
+TEST(MainWindow, TapeAndEntryUseFixedWidthFonts) {
   using controls::ControlKind;
   for (const controls::ControlLayout& control : frmCalcLayout().controls) {
     if (control.name == "txtTape") {
@@ -56,17 +56,17 @@ TEST(MainWindow, TapeAndEntryAreSetInLettersOfOneWidth) {
   }
 }
 
-TEST(MainWindow, TitleBeforeItIsShownIsThatOfTheCalculator) {
+TEST(MainWindow, InitialTitleIsCalcMode) {
   EXPECT_EQ(frmCalcLayout().caption, "Calc Mode");
 }
 
-TEST(MainWindow, HelpFileOfAProgramOnADriveRootStandsBesideIt) {
-  DesktopOnADriveRoot desktop;
+TEST(MainWindow, HelpFileOnADriveRootIsBesideTheProgram) {
+  DriveRootDesktop desktop;
   desktop.files = {"D:\\help\\Tallyrex.hlp"};
   EXPECT_EQ(findHelpFile(desktop), "D:\\Tallyrex.hlp");
 }
 
-TEST(MainWindow, DecimalsBoxKeepsTheFocusWhenTheTabThatLedThereComesUp) {
+TEST(MainWindow, DecimalsBoxKeepsTheFocusWhenTabIsReleased) {
   Shown<inmemory::Desktop> shown;
   constexpr controls::KeyCode kKeyShift = 16;
   controls::TextBox& txtDec = shown.box("txtDec");
@@ -78,8 +78,8 @@ TEST(MainWindow, DecimalsBoxKeepsTheFocusWhenTheTabThatLedThereComesUp) {
   EXPECT_TRUE(shown.box("txtEntry").focused());
 }
 
-TEST(MainWindow, CutThatTheClipboardDoesNotTakeLosesNothing) {
-  Shown<DesktopWithALockedClipboard> shown;
+TEST(MainWindow, FailedCutLosesNothing) {
+  Shown<LockedClipboardDesktop> shown;
   shown.box("txtEntry").setText("12");
   shown.box("txtEntry").selectAll();
   shown.choose("mnuEditCut");
@@ -88,8 +88,8 @@ TEST(MainWindow, CutThatTheClipboardDoesNotTakeLosesNothing) {
   EXPECT_EQ(shown.desktop.beeps, 2);
 }
 
-TEST(MainWindow, TapeThatTheClipboardDoesNotTakeIsNotPastedIntoNotepad) {
-  Shown<DesktopWithALockedClipboard> shown;
+TEST(MainWindow, FailedCopyIsNotPastedIntoNotepad) {
+  Shown<LockedClipboardDesktop> shown;
   shown.choose("mnuWinPadTape");
   shown.choose("mnuEditTapeToNotepad");
   EXPECT_TRUE(shown.desktop.launches.empty());

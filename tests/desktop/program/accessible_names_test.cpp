@@ -57,7 +57,7 @@ class AccessibleNamesTest : public ProgramTest {
   }
 };
 
-TEST_F(AccessibleNamesTest, EveryControlOfTheMainWindowSaysWhatItDoes) {
+TEST_F(AccessibleNamesTest, MainWindowControlsHaveNames) {
   const Names expected = {L"Entry",
                           L"Tape",
                           L"Decimal places",
@@ -96,34 +96,34 @@ TEST_F(AccessibleNamesTest, EveryControlOfTheMainWindowSaysWhatItDoes) {
   EXPECT_EQ(namesIn(program().mainWindow()), expected);
 }
 
-TEST_F(AccessibleNamesTest, BoxesSayWhatTheyHold) {
+TEST_F(AccessibleNamesTest, MainWindowBoxesHaveNames) {
   EXPECT_EQ(accessibleName(program().entry()), L"Entry");
   EXPECT_EQ(accessibleName(program().tape()), L"Tape");
   EXPECT_EQ(accessibleName(program().decimals()), L"Decimal places");
 }
 
-TEST_F(AccessibleNamesTest, FieldsOfTheLoanCalculatorGoByTheirLabels) {
+TEST_F(AccessibleNamesTest, LoanFieldsAreNamedByTheirLabels) {
   const HWND window = openCalculator(0, L"Loan Annuities");
   EXPECT_EQ(namesIn(window, L"Edit"),
             (Names{L"Length of Time:", L"Annual Interest Rate:", L"Monthly Payment:",
                    L"Loan Amount:", L"Balloon Payment:"}));
 }
 
-TEST_F(AccessibleNamesTest, FieldsOfTheInvestmentCalculatorGoByTheirLabels) {
+TEST_F(AccessibleNamesTest, InvestmentFieldsAreNamedByTheirLabels) {
   const HWND window = openCalculator(1, L"Investment Annuities");
   EXPECT_EQ(namesIn(window, L"Edit"),
             (Names{L"Length of Time:", L"Annual Interest Rate:", L"Monthly Investment:",
                    L"Dollars Invested Today:", L"Future Value:"}));
 }
 
-TEST_F(AccessibleNamesTest, ButtonsOfTheFinancialCalculatorSayWhatTheyDo) {
+TEST_F(AccessibleNamesTest, FinancialCalculatorButtonsHaveNames) {
   const HWND window = openCalculator(0, L"Loan Annuities");
   EXPECT_EQ(namesIn(window, L"Button"),
             (Names{L"Calculate", L"Rotate configuration", L"Clear all boxes", L"Help", L"Months",
                    L"Years", L"Payments are due by:", L"the end (default)", L"the beginning"}));
 }
 
-TEST_F(AccessibleNamesTest, AboutBoxSaysWhatItShows) {
+TEST_F(AccessibleNamesTest, AboutBoxControlsHaveNames) {
   chooseFromMenu('H', "A");
   const HWND about =
       awaitWindow("the About box", [] { return program().windowTitled(L"About Tallyrex"); });

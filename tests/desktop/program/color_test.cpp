@@ -98,7 +98,7 @@ class ColorTest : public ProgramTest {
   std::wstring stored() { return settings().get(L"glngTextBackColor"); }
 };
 
-TEST_F(ColorTest, ColoursTheBoxesAndIsKept) {
+TEST_F(ColorTest, ChosenColorIsAppliedAndStored) {
   start();
   expectEntryColor(kPaleCyan);
   choose(kChosen);
@@ -111,14 +111,14 @@ TEST_F(ColorTest, ColoursTheBoxesAndIsKept) {
   EXPECT_EQ(stored(), std::to_wstring(kChosen));
 }
 
-TEST_F(ColorTest, BlackIsNoColour) {
+TEST_F(ColorTest, BlackIsIgnored) {
   start();
   choose(RGB(0, 0, 0));
   expectEntryColor(kPaleCyan);
   EXPECT_EQ(stored(), L"");
 }
 
-TEST_F(ColorTest, PickerShowsThePresentColour) {
+TEST_F(ColorTest, PickerShowsTheCurrentColor) {
   start();
   choose(kChosen);
   const HWND picker = openPicker();
@@ -130,7 +130,7 @@ TEST_F(ColorTest, PickerShowsThePresentColour) {
   EXPECT_EQ(stored(), std::to_wstring(kChosen));
 }
 
-TEST_F(ColorTest, CancelLeavesItAsItIs) {
+TEST_F(ColorTest, CancelKeepsTheColor) {
   start();
   choose(kChosen);
   end(openPicker(), IDCANCEL);
@@ -138,12 +138,12 @@ TEST_F(ColorTest, CancelLeavesItAsItIs) {
   EXPECT_EQ(stored(), std::to_wstring(kChosen));
 }
 
-TEST_F(ColorTest, LettersAreLightOnADarkColour) {
+TEST_F(ColorTest, TextIsLightOnADarkColor) {
   expectLettersOn(RGB(0, 0, 96), true);
 }
 
 // Yellow is bright, though it has no blue.
-TEST_F(ColorTest, LettersAreDarkOnALightColour) {
+TEST_F(ColorTest, TextIsDarkOnALightColor) {
   expectLettersOn(RGB(255, 255, 0), false);
 }
 

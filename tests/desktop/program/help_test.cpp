@@ -95,7 +95,7 @@ TEST_F(HelpTest, HelpMenuOpensTheContents) {
   expectPage(contents());
 }
 
-TEST_F(HelpTest, HelpKeyOfTheFinancialCalculatorOpensItsTopic) {
+TEST_F(HelpTest, HelpButtonOfTheFinancialCalculatorOpensItsTopic) {
   start();
   const HWND calculator = openCalculator(0, L"Loan Annuities");
   click(middleOf(TestedProgram::key(calculator, L"Help")));

@@ -88,7 +88,7 @@ class KeyboardTest : public ProgramTest {
   }
 };
 
-TEST_F(KeyboardTest, TabLeadsThroughEveryControlRowByRow) {
+TEST_F(KeyboardTest, TabVisitsEveryControlRowByRow) {
   for (const wchar_t* name : kTabOrder) {
     expectFocus(name);
     press(VK_TAB);
@@ -96,14 +96,14 @@ TEST_F(KeyboardTest, TabLeadsThroughEveryControlRowByRow) {
   expectFocus(kTabOrder.front());
 }
 
-TEST_F(KeyboardTest, ShiftAndTabLeadBack) {
+TEST_F(KeyboardTest, ShiftTabGoesBack) {
   std::for_each(kTabOrder.rbegin(), kTabOrder.rend(), [this](const auto& name) {
     pressWith(VK_SHIFT, VK_TAB);
     expectFocus(name);
   });
 }
 
-TEST_F(KeyboardTest, SpaceAndEnterPressTheKeyThatTabHasReached) {
+TEST_F(KeyboardTest, SpaceAndEnterPressTheFocusedKey) {
   goTo(L"7");
   press(VK_SPACE);
   expectText(program().entry(), L"7");
@@ -136,7 +136,7 @@ TEST_F(KeyboardTest, AccessKeysPressTheirKeys) {
   expectText(program().entry(), L"");
 }
 
-TEST_F(KeyboardTest, FileMenuByItsLetters) {
+TEST_F(KeyboardTest, FileMenuWorksByLetters) {
   chooseFromMenu('F', "S");
   expectQuestionAndDecline(L"Save Tape Display");
   chooseFromMenu('F', "P");
@@ -145,7 +145,7 @@ TEST_F(KeyboardTest, FileMenuByItsLetters) {
   program().awaitEnd();
 }
 
-TEST_F(KeyboardTest, EditMenuByItsLetters) {
+TEST_F(KeyboardTest, EditMenuWorksByLetters) {
   type("125");
   expectText(program().entry(), L"125");
   pressWith(VK_SHIFT, VK_HOME);
@@ -172,7 +172,7 @@ TEST_F(KeyboardTest, EditMenuByItsLetters) {
   awaitWindow("Notepad", [this] { return openedWindow(L"Notepad"); });
 }
 
-TEST_F(KeyboardTest, WinMenuByItsLetters) {
+TEST_F(KeyboardTest, WinMenuWorksByLetters) {
   const auto width = [] { return placeOf(window()).right - placeOf(window()).left; };
   const auto normal = width();
   chooseFromMenu('W', "OA");
@@ -194,7 +194,7 @@ TEST_F(KeyboardTest, WinMenuByItsLetters) {
   await("the normal window", [&] { return width() == normal; });
 }
 
-TEST_F(KeyboardTest, FinancialCalculatorsByLettersAndArrows) {
+TEST_F(KeyboardTest, FinancialCalculatorsOpenByLettersAndArrows) {
   constexpr std::array kTitles = {L"Loan Annuities", L"Investment Annuities",
                                   L"Standard Annuity Calc"};
   for (int place = 0; place < 3; ++place) {
@@ -205,7 +205,7 @@ TEST_F(KeyboardTest, FinancialCalculatorsByLettersAndArrows) {
   }
 }
 
-TEST_F(KeyboardTest, AboutBoxByLettersAndAwayByEscape) {
+TEST_F(KeyboardTest, AboutBoxOpensByLettersAndClosesWithEscape) {
   chooseFromMenu('H', "A");
   const HWND about =
       awaitWindow("the About box", [] { return program().windowTitled(L"About Tallyrex"); });

@@ -118,7 +118,7 @@ class RestartTest : public ProgramTest {
   }
 };
 
-TEST_F(RestartTest, ShowsTheSecondAndTheThirdTimeEverythingThatWasSet) {
+TEST_F(RestartTest, RestoresEverySettingOnTheSecondAndThirdStart) {
   start();
   setEverythingOtherwise();
   const RECT place = placeOf(window());

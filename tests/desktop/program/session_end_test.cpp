@@ -96,7 +96,7 @@ class SessionEndTest : public ProgramTest {
   };
 };
 
-TEST_F(SessionEndTest, ToldToTheMainWindowBehindTheFirstNoteKeepsTheFields) {
+TEST_F(SessionEndTest, SentToTheMainWindowDuringTheFirstNoteKeepsTheFields) {
   openFirstNote();
   endSession({program().mainWindow()});
   expectEnd();
@@ -104,7 +104,7 @@ TEST_F(SessionEndTest, ToldToTheMainWindowBehindTheFirstNoteKeepsTheFields) {
   expectMainWindowSaved();
 }
 
-TEST_F(SessionEndTest, ToldToTheWindowWhoseFirstNoteIsOpenKeepsTheFields) {
+TEST_F(SessionEndTest, SentToTheCalculatorDuringItsFirstNoteKeepsTheFields) {
   openFirstNote();
   endSession({hiddenWindow()});
   expectEnd();
@@ -112,7 +112,7 @@ TEST_F(SessionEndTest, ToldToTheWindowWhoseFirstNoteIsOpenKeepsTheFields) {
   expectMainWindowSaved();
 }
 
-TEST_F(SessionEndTest, ToldToAllWindowsKeepsTheFields) {
+TEST_F(SessionEndTest, SentToAllWindowsKeepsTheFields) {
   openFirstNote();
   endSession(allWindows());
   expectEnd();
@@ -120,7 +120,7 @@ TEST_F(SessionEndTest, ToldToAllWindowsKeepsTheFields) {
   expectMainWindowSaved();
 }
 
-TEST_F(SessionEndTest, RequestToAllWindowsDuringTheFirstNoteKeepsTheFields) {
+TEST_F(SessionEndTest, CloseRequestToAllWindowsDuringTheFirstNoteKeepsTheFields) {
   openFirstNote();
   askToClose(allWindows());
   expectEnd();
@@ -128,7 +128,7 @@ TEST_F(SessionEndTest, RequestToAllWindowsDuringTheFirstNoteKeepsTheFields) {
   expectMainWindowSaved();
 }
 
-TEST_F(SessionEndTest, WindowThatIsClosedDuringItsFirstNoteDoesNotCome) {
+TEST_F(SessionEndTest, WindowClosedDuringItsFirstNoteStaysClosed) {
   openFirstNote();
   const HWND calculator = hiddenWindow();
   askToClose({calculator});
@@ -141,28 +141,28 @@ TEST_F(SessionEndTest, WindowThatIsClosedDuringItsFirstNoteDoesNotCome) {
   expectMainWindowSaved();
 }
 
-TEST_F(SessionEndTest, AboutBoxIsNoObstacleForTheMainWindow) {
+TEST_F(SessionEndTest, MainWindowClosesBehindTheAboutBox) {
   openAboutBoxOverAWindowOnTop();
   askToClose({program().mainWindow()});
   expectEnd();
   expectOnTopKept();
 }
 
-TEST_F(SessionEndTest, ToldToTheMainWindowBehindTheAboutBoxIsCarriedOut) {
+TEST_F(SessionEndTest, SentToTheMainWindowBehindTheAboutBoxEndsTheProgram) {
   openAboutBoxOverAWindowOnTop();
   endSession({program().mainWindow()});
   expectEnd();
   expectOnTopKept();
 }
 
-TEST_F(SessionEndTest, ToldToTheAboutBoxIsCarriedOut) {
+TEST_F(SessionEndTest, SentToTheAboutBoxEndsTheProgram) {
   const HWND about = openAboutBoxOverAWindowOnTop();
   endSession({about});
   expectEnd();
   expectOnTopKept();
 }
 
-TEST_F(SessionEndTest, MessageIsNoObstacle) {
+TEST_F(SessionEndTest, EndsTheProgramDuringAMessage) {
   startWithFields();
   chooseFromMenu('F', "S");
   awaitDialog();
@@ -171,7 +171,7 @@ TEST_F(SessionEndTest, MessageIsNoObstacle) {
   expectMainWindowSaved();
 }
 
-TEST_F(SessionEndTest, OpenFieldsAreSavedAsTheyStand) {
+TEST_F(SessionEndTest, OpenFieldsAreSavedUnchanged) {
   startWithFields();
   openCalculator(0, L"Loan Annuities");
   type("25");

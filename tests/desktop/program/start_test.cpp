@@ -40,7 +40,7 @@ TEST_F(StartTest, AddsAColumnOfFigures) {
 // Somebody types on while the window comes up. The program that was in front before gets the first
 // keys; once this one is in front, it gets every key, in order. Of a key that goes down just when
 // the front changes hands, the system itself may lose sight.
-TEST_F(StartTest, KeysTypedWhileTheWindowComesUpArriveInOrder) {
+TEST_F(StartTest, KeysTypedDuringStartupArriveInOrder) {
   constexpr std::size_t kKeysInFront = 6;
   OtherProgram other;
   other.comeToFront();
@@ -63,7 +63,7 @@ TEST_F(StartTest, KeysTypedWhileTheWindowComesUpArriveInOrder) {
   EXPECT_PRED2(startsWith, typed, other.keys());
 }
 
-TEST_F(StartTest, ClosedWhileMinimizedItComesUpAsItWasBefore) {
+TEST_F(StartTest, ClosingWhileMinimizedKeepsTheStoredPlace) {
   settings().set(L"frmCalcAtUnloadLeft", L"1500");
   settings().set(L"frmCalctxtDec", L"3");
   start();
@@ -83,7 +83,7 @@ TEST_F(StartTest, ClosedWhileMinimizedItComesUpAsItWasBefore) {
 }
 
 // As a shortcut may say of its window.
-TEST_F(StartTest, StartsMinimizedWhereTheStarterSaysSo) {
+TEST_F(StartTest, StartsMinimizedOnRequest) {
   for (const int show : {SW_SHOWMINNOACTIVE, SW_SHOWMINIMIZED}) {
     program().launch(static_cast<WORD>(show));
     await("the window as an icon",
@@ -92,7 +92,7 @@ TEST_F(StartTest, StartsMinimizedWhereTheStarterSaysSo) {
   }
 }
 
-TEST_F(StartTest, StartsMaximizedWhereTheStarterSaysSo) {
+TEST_F(StartTest, StartsMaximizedOnRequest) {
   program().launch(SW_SHOWMAXIMIZED);
   await("the window over the whole screen",
         [] { return program().mainWindow() && IsZoomed(program().mainWindow()); });

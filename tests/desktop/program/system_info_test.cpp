@@ -84,13 +84,13 @@ TEST_F(SystemInfoTest, StartsTheProgramThatTheRegistryNames) {
   expectStandIn();
 }
 
-TEST_F(SystemInfoTest, TakesANameStoredWithoutItsEnd) {
+TEST_F(SystemInfoTest, AcceptsANameWithoutATerminator) {
   path().setUnterminated(L"PATH", program().file());
   askForSystemInfo();
   expectStandIn();
 }
 
-TEST_F(SystemInfoTest, TakesANameWithHalfACharacterBehindIt) {
+TEST_F(SystemInfoTest, AcceptsANameWithATrailingHalfCharacter) {
   path().setWithAnOddSize(L"PATH", program().file());
   askForSystemInfo();
   expectStandIn();
@@ -112,7 +112,7 @@ TEST_F(SystemInfoTest, StartsTheProgramInTheFolderThatTheRegistryNames) {
   expectStandIn();
 }
 
-TEST_F(SystemInfoTest, LooksIntoTheFolderWhenTheNameIsTooLong) {
+TEST_F(SystemInfoTest, UsesTheFolderWhenTheNameIsTooLong) {
   path().set(L"PATH", program().file() + std::wstring(1024, L' '));
   location().set(L"MSINFO", makeFolder());
   askForSystemInfo();
@@ -120,14 +120,14 @@ TEST_F(SystemInfoTest, LooksIntoTheFolderWhenTheNameIsTooLong) {
 }
 
 // A number is a value like any other: it is the name, and the folder is not looked into.
-TEST_F(SystemInfoTest, TakesANumberForTheName) {
+TEST_F(SystemInfoTest, AcceptsANumberAsTheName) {
   path().set(L"PATH", 7);
   location().set(L"MSINFO", makeFolder());
   askForSystemInfo();
   expectMissing();
 }
 
-TEST_F(SystemInfoTest, SaysThatNothingNamesTheProgram) {
+TEST_F(SystemInfoTest, ReportsAMissingProgram) {
   askForSystemInfo();
   expectMissing();
 }
