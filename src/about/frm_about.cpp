@@ -76,7 +76,7 @@ void frmAbout::showSystemInformation() {
         {.text = "Cannot Find The External Program For System Information (MSINFO32.EXE)"});
 }
 
-// The registry names the program, or the folder that it is in.
+// The registry contains the path of the program, or of its folder.
 bool frmAbout::startSystemInformation() {
   if (const auto path = desktop_.registryValue("SOFTWARE\\Microsoft\\Shared Tools\\MSINFO", "PATH"))
     return desktop_.startProgram(*path);

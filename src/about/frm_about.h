@@ -8,21 +8,21 @@
 
 namespace about {
 
-/// What the About box tells of the program.
+/// The program's version as in the About box.
 struct ProgramVersion {
   int major = 0;
   int minor = 0;
   int revision = 0;
 };
 
-/// The version that the build gave this program.
+/// The version of this build.
 ProgramVersion programVersion();
 
-/// "Software Version:  1.0"; a revision other than 0 follows.
+/// "Software Version:  1.0", followed by a revision other than 0.
 std::string versionText(const ProgramVersion& version);
 
-/// The About box: title, version, what the version information says of the makers, and the way to
-/// the system's own information program.
+/// The About box: title, version, copyright and company, and a button that starts the system
+/// information program.
 class frmAbout {
  public:
   /// `unload` is called when the user closes the box.

@@ -7,9 +7,9 @@
 
 namespace annuity {
 
-/// The key filter of the numeric fields: whether the character may be typed into a field that holds
-/// `text` (without the selection that the character will replace). The kind "fraction" accepts a
-/// point. A refused character beeps; discarding it is the caller's matter.
+/// The key filter of the numeric fields: whether the character may be typed into a field with this
+/// text (without the selection, which the character will replace). The kind "fraction" accepts a
+/// point. Beeps for a refused character; the caller discards it.
 bool allowKey(controls::KeyAscii key, std::string_view kind, std::string_view text,
               controls::Desktop& desktop);
 

@@ -18,7 +18,7 @@ namespace {
 constexpr std::string_view kWhole = "####0";
 constexpr std::string_view kBroken = "####0.##";
 
-// A remainder this close to a whole month is shown as that month.
+// A remainder this close to a whole number of months is shown as a whole number.
 bool isNearlyWhole(float months) {
   const float fraction = months - std::floor(months);
   return fraction >= 0.995F || fraction <= 0.004F;
@@ -35,7 +35,7 @@ std::string rateAnswer(double rate) {
 }
 
 std::string termInMonths(double months) {
-  // Its 15 digits decide whether it is whole, not what the arithmetic has left behind them.
+  // Only 15 digits decide whether it is whole, so that rounding errors do not show.
   const std::string text = toText(months);
   const double shown = common::toNumber(text);
   const bool broken = std::floor(shown) < shown;

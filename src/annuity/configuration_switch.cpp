@@ -15,7 +15,7 @@ void frmAnnuity::applyConfiguration(const Configuration& configuration) {
   showNote();
 }
 
-// A stored answer other than 6, Yes, keeps the note away; so does one that is no number.
+// Any stored answer other than Yes suppresses the note, even one that is not a number.
 void frmAnnuity::showNote() {
   common::SettingsStore& settings = desktop_.settings();
   const auto stored = settings.read("Annuity", showing_->noteKey);

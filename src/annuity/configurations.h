@@ -6,7 +6,7 @@
 
 namespace annuity {
 
-/// What the window says of one kind of problem, and which amounts it negates before solving.
+/// The texts of the window for one kind of problem, and the signs that it applies before solving.
 struct Configuration {
   common::AnnuityKind kind;
 
@@ -15,7 +15,7 @@ struct Configuration {
   std::string_view paymentLabel;
   std::string_view presentValueLabel;
   std::string_view futureValueLabel;
-  /// Whether the hint about the balloon payment shows.
+  /// Whether the hint about the balloon payment is shown.
   bool hintsAtBalloon;
 
   int signPV;
@@ -28,13 +28,13 @@ struct Configuration {
   std::string_view futureValueResult;
 
   std::string_view noteTitle;
-  /// The key under which a declined note is stored.
+  /// The settings key under which the answer No is stored.
   std::string_view noteKey;
   std::string_view note;
 };
 
 const Configuration& configurationOf(common::AnnuityKind kind);
-/// The one that the window turns to from `configuration`, round and round.
+/// The next configuration in the cycle of the Rotate button.
 const Configuration& nextConfiguration(const Configuration& configuration);
 
 }  // namespace annuity

@@ -13,7 +13,7 @@ using controls::TextBox;
 
 namespace {
 
-// The separators follow the digits that are keyed; a key that moves the caret changes none.
+// Separators follow the keyed digits; a key that only moves the caret changes none.
 void tidyMoney(TextBox& field, KeyCode key) {
   NumberField number(field);
   number.repairSign();
@@ -49,7 +49,7 @@ bool frmAnnuity::takeEnterAsTab(KeyAscii& key) {
   return true;
 }
 
-// Of a ledger of another country, 12,50 is not 1,250.
+// Where the comma is the decimal sign, 12,50 does not mean 1,250.
 void frmAnnuity::takePaste(std::string& text) {
   text = controls::firstLineOf(text);
   if (!common::hasOddCommas(text)) return;

@@ -10,7 +10,7 @@ std::string groupThousands(std::string_view text) {
   const auto point = std::min(text.find('.'), text.size());
   const std::string_view whole = text.substr(0, point);
   std::string grouped = common::formatText(whole, common::kWholePattern);
-  // The sign of zeros belongs to the digits still to be typed.
+  // The sign before zeros belongs to digits still to be typed.
   if (whole.starts_with('-') && !grouped.starts_with('-')) grouped.insert(0, "-");
   return grouped + std::string(text.substr(point));
 }

@@ -5,9 +5,9 @@
 
 namespace annuity {
 
-/// An amount being typed: its integer part grouped by thousands, its point and its decimals exactly
-/// as they are. A sign stays in front, also of zeros and of a lone point; what is no number comes
-/// back as it is.
+/// An amount being typed: the integer part grouped by thousands, the point and the decimals exactly
+/// as typed. The sign is kept, even before zeros or a lone point. Text that is not a number is
+/// returned unchanged.
 std::string groupThousands(std::string_view text);
 
 }  // namespace annuity

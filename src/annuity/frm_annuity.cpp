@@ -99,7 +99,7 @@ void frmAnnuity::showHelp() {
                      .data = kTopic});
 }
 
-// The answer may no longer belong to what the window shows.
+// The answer may no longer match the fields.
 void frmAnnuity::withdrawPrint() {
   cmdPrintToTape.setVisible(false);
 }

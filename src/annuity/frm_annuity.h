@@ -10,28 +10,28 @@
 
 namespace annuity {
 
-/// What the financial calculator asks of the program around it.
+/// What the financial calculator needs from the application.
 class Program {
  public:
   virtual ~Program() = default;
-  /// The place of the main window, which is loaded.
+  /// The bounds of the main window, which must be loaded.
   virtual controls::Rect mainWindowPlace() const = 0;
-  /// The main window is loaded, and has been shown.
+  /// Whether the main window is loaded and has been shown.
   virtual bool mainWindowIsUp() const = 0;
-  /// The background of the text box that has the focus.
+  /// The background of the focused text box.
   virtual controls::Color focusColor() const = 0;
   virtual std::string helpFile() const = 0;
-  /// Shows the main window, loading it where it is not loaded.
+  /// Shows the main window; loads it if necessary.
   virtual void showMainWindow() = 0;
-  /// Appends lines to the tape of the main window and makes that window `width` wide. It is loaded,
-  /// but not shown, where it is not loaded.
+  /// Appends lines to the tape of the main window, and sets the width of that window. Loads it if
+  /// necessary, but does not show it.
   virtual void printToTape(const std::string& lines, controls::Twips width) = 0;
-  /// The financial calculator goes, once the running handler has ended.
+  /// Closes the financial calculator when the current event has ended.
   virtual void unloadAnnuity() = 0;
 };
 
-/// The financial calculator: of term, rate, payment, present and future value the user leaves one
-/// blank, and it computes that one.
+/// The financial calculator: of term, rate, payment, present value and future value the user leaves
+/// one blank, and the window computes it.
 class frmAnnuity {
  public:
   frmAnnuity(controls::Desktop& desktop, Program& program);
@@ -39,12 +39,11 @@ class frmAnnuity {
   frmAnnuity& operator=(const frmAnnuity&) = delete;
 
   controls::Window& window() { return *window_; }
-  /// Prepares the window for one kind of problem, with its note in front, and restores its place
-  /// and its fields.
+  /// Prepares the window for one kind of problem: shows the note, restores position and fields.
   void load(common::AnnuityKind kind);
   void show() { window_->show(); }
-  /// Saves its place and its fields, and goes. At any moment: what has not been restored yet stays
-  /// as it was stored.
+  /// Saves position and fields, and closes the window. May be called at any moment: settings that
+  /// have not been restored yet are not overwritten.
   void unload();
 
  private:
@@ -87,9 +86,9 @@ class frmAnnuity {
   controls::Control& lblResultType;
   controls::Control& lblAnswer;
 
-  /// The configuration that shows; none before the window is loaded.
+  /// The present configuration; null until the window is loaded.
   const Configuration* showing_ = nullptr;
-  /// Its place and fields are those that were stored, or what the user has made of them.
+  /// Whether the position and the fields have been restored.
   bool restored_ = false;
 };
 

@@ -13,9 +13,8 @@ using controls::Twips;
 
 namespace {
 
-// At the left the five fields stand under each other, each with its label in front, and the answer
-// closes their column like the sum of it. At the right is what the answer depends on besides, and
-// below it the four picture buttons.
+// At the left, a column of five labeled fields, with the answer below like a sum. At the right, the
+// options, and below them the four picture buttons.
 constexpr Twips kMargin = 180;
 constexpr Twips kLabelWidth = 2040;
 constexpr Twips kFieldColumn = 2310;
@@ -39,7 +38,7 @@ constexpr Twips row(int index) {
   return kFirstRow + index * kRowPitch;
 }
 
-// The text of a label stands on the line of the text in its field.
+// The text of a label has the baseline of the text in its field.
 constexpr Rect label(int r) {
   return {kMargin, row(r) + 60, kLabelWidth, kTextHeight};
 }
@@ -55,7 +54,7 @@ constexpr Rect picture(int index) {
 constexpr FontLayout kFont = {"MS Sans Serif", 83, false};
 constexpr FontLayout kFieldFont = {"MS Sans Serif", 98, false};
 constexpr FontLayout kResultFont = {"MS Sans Serif", 98, true};
-// Trillions, with their separators and cents, go into one line.
+// Trillions with separators and cents fit into one line.
 constexpr FontLayout kAnswerFont = {"MS Sans Serif", 150, false};
 
 constexpr ControlKind kLabel = ControlKind::Label;
@@ -66,8 +65,8 @@ constexpr ControlKind kOption = ControlKind::OptionButton;
 constexpr int kTermUnit = 1;
 constexpr int kTiming = 2;
 
-// Each label stands in front of its field in the order of the Tab key, so that its access key leads
-// there. A screen reader names a field by the label too: it changes with the configuration.
+// Each label precedes its field in tab order, so that its access key focuses the field. Screen
+// readers also name a field by its label, which changes with the configuration.
 constexpr auto kControls = std::to_array<ControlLayout>({
     {.kind = kLabel,
      .name = "Label1",

@@ -4,8 +4,8 @@
 
 namespace annuity {
 
-/// The financial calculator as it is designed: its controls and their places in twips. What differs
-/// from one configuration to the other is empty here.
+/// The design of the financial calculator: its controls and their positions in twips. Texts that
+/// depend on the configuration are empty.
 const controls::WindowLayout& frmAnnuityLayout();
 
 }  // namespace annuity

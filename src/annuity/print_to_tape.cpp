@@ -25,7 +25,7 @@ void frmAnnuity::print() {
   program_.printToTape(record(), kWidthWithTape);
 }
 
-// What is printed is what the user sees: no sign is changed.
+// Prints what the user sees: no sign is changed.
 std::string frmAnnuity::record() const {
   const auto valueOnTape = [this](Quantity quantity) {
     const std::string text = fields_[quantity]->text();

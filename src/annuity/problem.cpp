@@ -10,7 +10,7 @@ namespace annuity {
 
 namespace {
 
-/// The quantities as the time-value functions take them; the unknown is left at 0.
+/// The quantities as arguments of the time-value functions; the unknown is 0.
 struct Flows {
   double rate = 0;
   double nper = 0;
@@ -20,14 +20,14 @@ struct Flows {
   int due = 0;
 };
 
-// Amounts are grouped by the window while they are keyed; a term or a rate counts as it is typed.
+// The window groups amounts while they are keyed; a term or a rate is taken as typed.
 double numberOf(Quantity quantity, const std::string& text) {
   const bool asTyped = quantity == Quantity::Term || quantity == Quantity::Rate;
   if (asTyped && common::hasOddCommas(text)) throw common::RunTimeError(common::kTypeMismatch);
   return common::toNumber(text);
 }
 
-// The rate is a year's, in percent; a period is a month, whatever the unit of the term.
+// The rate is annual, in percent; a period is a month, whatever the unit of the term.
 Flows flowsOf(const AnnuityProblem& problem, Quantity unknown, const Configuration& configuration) {
   const auto number = [&](Quantity quantity) {
     return quantity == unknown ? 0 : numberOf(quantity, problem.texts[quantity]);
@@ -74,7 +74,7 @@ std::vector<Quantity> blanksOf(const PerQuantity<std::string>& texts) {
   return blanks;
 }
 
-/// Which quantity is asked for, and what the fields hold then.
+/// The unknown quantity, or why there is none. Records what has to be written into fields.
 std::variant<Quantity, Refusal> unknownOf(AnnuityProblem& problem,
                                           std::vector<WrittenField>& written) {
   auto& texts = problem.texts;
@@ -85,7 +85,7 @@ std::variant<Quantity, Refusal> unknownOf(AnnuityProblem& problem,
     if (written.size() == 2) return Refusal::AmountIsNeeded;
     return Quantity::FutureValue;
   }
-  // A payment of 0 asks for the payment.
+  // A payment of 0 counts as blank.
   if (texts[Quantity::Payment] == "0") {
     texts[Quantity::Payment].clear();
     written.push_back({Quantity::Payment, ""});

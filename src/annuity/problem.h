@@ -17,7 +17,7 @@ enum class Quantity { Term, Rate, Payment, PresentValue, FutureValue };
 inline constexpr std::array kQuantities = {Quantity::Term, Quantity::Rate, Quantity::Payment,
                                            Quantity::PresentValue, Quantity::FutureValue};
 
-/// Something of each quantity.
+/// One value for each quantity.
 template <class Value>
 struct PerQuantity {
   std::array<Value, kQuantities.size()> values;
@@ -28,16 +28,15 @@ struct PerQuantity {
   }
 };
 
-/// A problem as it is keyed: the texts of the five fields, of which the one that is asked for is
-/// empty.
+/// A problem as entered: the texts of the five fields, of which the unknown one is empty.
 struct AnnuityProblem {
   PerQuantity<std::string> texts;
-  /// The unit of the term; else it is in years.
+  /// The unit of the term: months, otherwise years.
   bool termInMonths = true;
   bool dueAtBeginning = false;
 };
 
-/// The answer as it is shown, and the caption that says what it is.
+/// The answer as shown, and its caption.
 struct Answer {
   std::string text;
   std::string_view caption;
@@ -55,18 +54,18 @@ struct WrittenField {
   std::string_view text;
 };
 
-/// What comes of a problem: an answer, a refusal, or the error that the arithmetic met.
+/// The result of a problem: an answer, a refusal or an arithmetic error.
 struct Outcome {
-  /// These are written whatever the result is.
+  /// Written whatever the result is.
   std::vector<WrittenField> written;
   std::variant<Answer, Refusal, common::RunTimeError> result;
 };
 
-/// Finds the quantity that is blank, or the payment where that is "0", in the signs of the
+/// Solves for the blank quantity, or for the payment if that is "0", with the signs of the
 /// configuration.
 Outcome solve(const AnnuityProblem& problem, const Configuration& configuration);
 
-/// What is said of a refusal.
+/// The message for a refusal.
 std::string_view refusalText(Refusal refusal);
 
 }  // namespace annuity

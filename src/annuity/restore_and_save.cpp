@@ -15,10 +15,10 @@ namespace {
 constexpr std::string_view kPlaceSection = "Settings";
 constexpr std::string_view kSection = "Annuity";
 
-// A first window opens below the corner of the main window, at its right.
+// The first time, the window opens this far right of and below the corner of the main window.
 constexpr Twips kBesideMainWindow = 400;
 
-// The place that a setting gives; where it is no single-precision number, the one `designed`.
+// The position in a setting; `designed` if it is out of the range of a single-precision number.
 Twips placeOf(double stored, Twips designed) {
   if (std::abs(stored) > std::numeric_limits<float>::max()) return designed;
   return controls::clampedTwips(stored);
@@ -48,7 +48,7 @@ void frmAnnuity::writeCaptions() {
   setCaption("optDue(1)", "the beginning");
 }
 
-// A stored text that is no number leaves the place as it is designed.
+// A stored text that is not a number leaves the designed position.
 void frmAnnuity::restorePlace(const controls::Rect& main) {
   const auto stored = [this](std::string_view edge, Twips fallback, Twips designed) {
     const std::string key = std::string(edge) + window_->name();

@@ -6,23 +6,23 @@
 
 namespace annuity {
 
-/// One entry of the record: the caption that names it, and its value.
+/// One entry of the record: caption and value.
 struct TapeEntry {
   std::string caption;
   std::string value;
 };
 
-/// The values as the record shows them, with a blank behind them. A text that is not a number
-/// stands as it is.
+/// The values as printed in the record, with a trailing blank. A text that is not a number is
+/// printed unchanged.
 std::string termOnTape(std::string_view text, bool inMonths);
-/// The pattern has a percent sign, so that a field that holds 8.5 reads "% 850.00 ".
+/// The pattern has a percent sign, so that 8.5 is printed as "% 850.00 ".
 std::string rateOnTape(std::string_view text);
 std::string moneyOnTape(std::string_view text);
 std::string answerOnTape(std::string_view text);
 
-/// The record of a problem and its answer, to be put behind the text of the tape: a header, then of
-/// each field and of the answer its caption, right-aligned, and its value, left-aligned, in lines
-/// of 26 characters.
+/// The record of a problem and its answer, to be appended to the tape: a header, then for each
+/// field and the answer the right-aligned caption and the left-aligned value, in lines of 26
+/// characters.
 std::string tapeRecord(const std::vector<TapeEntry>& fields, const TapeEntry& answer);
 
 }  // namespace annuity

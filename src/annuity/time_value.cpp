@@ -12,18 +12,18 @@ using common::kInvalidProcedureCall;
 using common::kOverflow;
 using common::RunTimeError;
 
-/// What a balance multiplies the amounts by: pv * q + pmt * s + fv = 0.
+/// The coefficients of the balance: pv * q + pmt * s + fv = 0.
 struct Factors {
   double q;  ///< (1 + rate)^nper
   double s;  ///< k * (q - 1) / rate, the end value of payments of 1
 };
 
-/// Whether a rate is not 0. One below the normal range of a double has no digits to count with.
+/// Whether a rate counts as nonzero. A subnormal double is too imprecise.
 bool bearsInterest(double rate) {
   return !(std::abs(rate) < std::numeric_limits<double>::min());
 }
 
-/// The factors at `rate`, without a check: not finite where they overflow or make no sense.
+/// The factors at `rate`, unchecked: not finite where they overflow or are undefined.
 Factors factorsAt(double rate, double nper, int due) {
   const double k = 1 + rate * due;
   if (!bearsInterest(rate)) return {1, nper};
@@ -31,12 +31,12 @@ Factors factorsAt(double rate, double nper, int due) {
     const double q = std::pow(1 + rate, nper);
     return {q, k * ((q - 1) / rate)};
   }
-  // q - 1 by itself, since q of a small rate has lost the digits of the interest.
+  // Computes q - 1 directly: for a small rate, q has lost the digits of the interest.
   const double x = nper * std::log1p(rate);
   return {std::exp(x), k * (std::expm1(x) / rate)};
 }
 
-/// The factors at `rate`. Error 5 where q makes no sense, 6 where it overflows.
+/// The factors at `rate`. Error 5 where q is undefined, 6 where it overflows.
 Factors usableFactors(double rate, double nper, int due) {
   const bool powerOfNothing = rate == -1 && nper < 0;
   const Factors factors = factorsAt(rate, nper, due);
@@ -50,7 +50,7 @@ double answer(double value) {
   return common::finite(value) == 0 ? 0 : value;
 }
 
-/// Whether the flows balance but for `share` of their size.
+/// Whether the flows balance within `share` of their size.
 bool balances(const Factors& factors, double pmt, double pv, double fv, double share) {
   const double grown = pv * factors.q;
   const double paid = pmt * factors.s;
@@ -58,7 +58,7 @@ bool balances(const Factors& factors, double pmt, double pv, double fv, double s
   return std::isfinite(size) && std::abs(grown + paid + fv) <= share * size;
 }
 
-/// `nper` or the whole number beside it, where the last digits of the arithmetic alone part them.
+/// `nper`, or the nearest whole number if only rounding errors separate the two.
 double wholeTerm(double nper, double rate, double pmt, double pv, double fv, int due) {
   const double whole = std::round(nper);
   const double share =
@@ -66,18 +66,18 @@ double wholeTerm(double nper, double rate, double pmt, double pv, double fv, int
   return balances(factorsAt(rate, whole, due), pmt, pv, fv, share) ? whole : nper;
 }
 
-/// A function of the rate that is 0 where the flows balance.
+/// A function of the rate with a zero where the flows balance.
 struct Point {
   double value;
   double slope;
 };
 
-/// The slopes of the factors in the rate.
+/// The derivatives of the factors with respect to the rate.
 Factors slopesAt(double rate, double nper, int due, const Factors& factors) {
   const double qSlope = nper * factors.q / (1 + rate);
   const double k = 1 + rate * due;
   const double gained = factors.s / k;  // (q - 1) / rate
-  // Near 0 the difference has no digits left; the series has all that a step needs.
+  // Near 0 the difference cancels out; the series is precise enough for a step.
   const bool nearZero = std::abs(nper * rate) < 1e-5;
   const double gainedSlope =
       nearZero ? nper * (nper - 1) * (0.5 + (nper - 2) / 3 * rate) : (qSlope - gained) / rate;
@@ -88,15 +88,15 @@ bool sameSign(double a, double b) {
   return (a > 0 && b > 0) || (a < 0 && b < 0);
 }
 
-/// The balance in the form on which Newton's step goes straightest.
+/// The balance in a form that is nearly linear, so that Newton's method converges fast.
 Point balanceAt(const Factors& factors, const Factors& slopes, double pmt, double pv, double fv) {
   const bool savingUp = fv != 0 && !sameSign(pmt, fv) && !sameSign(pv, fv);
   if (savingUp) {
-    // The end value grows as a power of the rate: its logarithm is nearly straight.
+    // The end value grows as a power of the rate: its logarithm is nearly linear.
     const double saved = pv * factors.q + pmt * factors.s;
     return {std::log(saved / -fv), (pv * slopes.q + pmt * slopes.s) / saved};
   }
-  // Divided by s the equation says which payment the rate asks for, and bends little.
+  // Divided by s, the equation gives the payment needed at a rate, which is nearly linear.
   const double needed = (pv * factors.q + fv) / factors.s;
   return {needed + pmt, (pv * slopes.q - needed * slopes.s) / factors.s};
 }
@@ -112,7 +112,7 @@ double pmt(double rate, double nper, double pv, double fv, int due) {
 
 double pv(double rate, double nper, double pmt, double fv, int due) {
   const Factors factors = usableFactors(rate, nper, due);
-  // At -1 and below nothing is left to divide by; above it q only became too small for a double.
+  // At -1 and below there is nothing to divide by; above, q has underflowed.
   if (factors.q == 0) throw RunTimeError(rate <= -1 ? kInvalidProcedureCall : kOverflow);
   return answer(-(fv + pmt * factors.s) / factors.q);
 }
@@ -132,7 +132,7 @@ double nper(double rate, double pmt, double pv, double fv, int due) {
   const double c = answer(pmt * (1 + rate * due) / rate);
   const double quotient = (c - fv) / (c + pv);
   if (c + pv == 0 || !(quotient > 0)) throw RunTimeError(kInvalidProcedureCall);
-  // A quotient near 1 has lost the digits that its logarithm is made of.
+  // A quotient near 1 has lost the digits that its logarithm needs.
   const double excess = -(fv + pv) / (c + pv);
   const double logarithm = std::abs(excess) < 0.5 ? std::log1p(excess) : std::log(quotient);
   return wholeTerm(answer(logarithm / std::log1p(rate)), rate, pmt, pv, fv, due);
@@ -141,7 +141,7 @@ double nper(double rate, double pmt, double pv, double fv, int due) {
 double rate(double nper, double pmt, double pv, double fv, int due, double guess) {
   constexpr int kMostSteps = 20;
   constexpr double kClose = 1e-7;
-  // Closer to a loss of everything no digits are left to tell one rate from another.
+  // Closer to -1, a double cannot distinguish the rates.
   constexpr double kLeastLeft = 1e-9;
   if (!(nper > 0) || !(guess + 1 > kLeastLeft)) throw RunTimeError(kInvalidProcedureCall);
   double rate = guess;
@@ -149,7 +149,7 @@ double rate(double nper, double pmt, double pv, double fv, int due, double guess
   for (int step = 0; step < kMostSteps; ++step) {
     const Point point = balanceAt(factors, slopesAt(rate, nper, due, factors), pmt, pv, fv);
     const double next = rate - point.value / point.slope;
-    // Fails too for what has no number: a slope of 0, a logarithm that does not exist, an overflow.
+    // Also fails for a slope of 0, an undefined logarithm and an overflow.
     if (!(next + 1 > kLeastLeft) || !std::isfinite(next)) break;
     const bool settled = std::abs(next - rate) < kClose;
     rate = next;

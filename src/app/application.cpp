@@ -18,7 +18,7 @@ void Application::start(controls::WindowState state) {
   offerLostTapes();
 }
 
-// They are offered until the question is answered. Where Notepad cannot be had, they are on the
+// Offered at each start until the question is answered. Without Notepad, the tapes go to the
 // clipboard.
 void Application::offerLostTapes() {
   const std::string tapes = desktop_.tapeSafe().lostTapes();
@@ -49,15 +49,15 @@ controls::Window* Application::findWindow(std::string_view name) const {
   return nullptr;
 }
 
-// One that is open goes first, so that it opens afresh in the configuration requested.
+// One that is open closes first, so that the new one has the requested configuration.
 void Application::openFinancialCalc(common::AnnuityKind kind) {
-  // Another program may have closed the main window while a message of its own was shown.
+  // Another program may have closed the main window while its message was open.
   if (!calc_) return;
   if (annuity_) annuity_->unload();
   annuity::Program& program = *this;
   annuity_ = std::make_unique<annuity::frmAnnuity>(desktop_, program);
   annuity_->load(kind);
-  // Another program may have closed it while its note was shown.
+  // Another program may have closed it while its note was open.
   if (annuity_) annuity_->show();
 }
 
@@ -82,7 +82,7 @@ void Application::unloadAnnuity() {
   unload(annuity_);
 }
 
-// A window is destroyed when the handler that closes it has ended, and those that it had called.
+// A window is destroyed when the event that closes it has ended.
 template <class Form>
 void Application::unload(std::unique_ptr<Form>& form) {
   if (!form) return;
@@ -94,7 +94,7 @@ void Application::unload(std::unique_ptr<Form>& form) {
   });
 }
 
-// The About box first: the main window is saved as it is without it.
+// The About box closes first: the main window saves its state as without it.
 void Application::endSession() {
   if (about_) about_->window().requestClose();
   if (annuity_) annuity_->unload();
@@ -116,7 +116,7 @@ void Application::printToTape(const std::string& lines, controls::Twips width) {
   calc_->window().setWidth(width);
 }
 
-// A window that was loaded but not shown does not keep the program running.
+// A window that is loaded but not visible does not keep the program running.
 void Application::endWithLastWindow() {
   const auto isShown = [](const auto& form) { return form && form->window().visible(); };
   if (isShown(calc_) || isShown(annuity_) || isShown(about_)) return;

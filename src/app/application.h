@@ -10,7 +10,8 @@
 
 namespace app {
 
-/// The program: it owns its windows, knows which are loaded, and ends with the last visible one.
+/// The application: it owns its windows, knows which are loaded, and ends with the last visible
+/// one.
 class Application : private shell::Program, private annuity::Program {
  public:
   explicit Application(controls::Desktop& desktop);
@@ -18,13 +19,13 @@ class Application : private shell::Program, private annuity::Program {
   Application(const Application&) = delete;
   Application& operator=(const Application&) = delete;
 
-  /// The last window has gone.
+  /// The last window has closed.
   std::function<void()> onEnded;
 
-  /// Loads and shows the main window; then offers the tape of a run that did not end normally.
+  /// Shows the main window, then offers the tape of a run that did not end normally.
   void start(controls::WindowState state = controls::WindowState::Normal);
   bool ended() const { return !calc_ && !annuity_ && !about_; }
-  /// The loaded window of that name; none when it is not loaded.
+  /// The window of that name; null if it is not loaded.
   controls::Window* findWindow(std::string_view name) const;
 
  private:
@@ -51,7 +52,7 @@ class Application : private shell::Program, private annuity::Program {
 
   controls::Desktop& desktop_;
   controls::Color focusColor_ = shell::kDefaultFocusColor;
-  /// Chosen when the main window is loaded.
+  /// Determined when the main window is loaded.
   std::string helpFile_;
   std::unique_ptr<shell::frmCalc> calc_;
   std::unique_ptr<annuity::frmAnnuity> annuity_;

@@ -2,7 +2,8 @@
 
 namespace common {
 
-/// The problems that the financial calculator is made for, in the order in which it offers them.
+/// The kinds of problems that the financial calculator solves, in the order in which it offers
+/// them.
 enum class AnnuityKind { Investment, Standard, Loan };
 
 }  // namespace common

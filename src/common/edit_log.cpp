@@ -8,7 +8,7 @@
 namespace common {
 namespace {
 
-// What stands in front of the inserted bytes.
+// What precedes the inserted bytes.
 struct Header {
   std::uint32_t start = 0;
   std::uint32_t removed = 0;
@@ -17,7 +17,7 @@ struct Header {
 };
 static_assert(sizeof(Header) == 16);
 
-// FNV-1a: of nothing but zeros, which a power cut may leave in a file, it is not zero.
+// FNV-1a: not zero for a run of zeros, which a power cut may leave in a file.
 std::uint32_t checksum(const Header& header, std::string_view inserted) {
   constexpr std::uint32_t kBasis = 2166136261;
   constexpr std::uint32_t kPrime = 16777619;

@@ -90,7 +90,7 @@ class PatternWriter {
     if (shape_.integerPlaces == 0 && shape_.hasPoint) writeDigitsInFrontOf(0);
   }
 
-  // The pattern has places for the last digits only; the others are not lost.
+  // A number may have more integer digits than the pattern has places; all of them are printed.
   void writeDigitsInFrontOf(int places) {
     for (int place = number_.point; place > places;) writeIntegerDigit(--place);
   }

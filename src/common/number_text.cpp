@@ -15,14 +15,14 @@ namespace {
 
 constexpr int kSignificantDigits = 15;
 
-// Ten to these powers is beyond every double, and below half of the smallest one.
+// Ten to these powers is larger than every double, and less than half of the smallest one.
 constexpr long long kLargestPoint = 309;
 constexpr long long kSmallestPoint = -323;
 
 // Far beyond what the digits of any text in memory could bring back into the range of a double.
 constexpr long long kExponentLimit = 1'000'000'000'000'000;
 
-// A number as it was written.
+// The parts of a number as written.
 struct Written {
   char sign = 0;  // '+', '-' or none; of a minus behind and of parentheses '-'
   std::string_view integer;
@@ -96,7 +96,7 @@ bool readExponent(std::string_view& rest, Written& written) {
   return !digits.empty();
 }
 
-// False where no digit stands on the side of the point that must have one.
+// False when there is no digit.
 bool readDigits(std::string_view& rest, Written& written) {
   written.integer = takeWhile(rest, isDigitOrComma);
   written.hasPoint = take(rest, '.');
@@ -107,7 +107,7 @@ bool readDigits(std::string_view& rest, Written& written) {
   return !written.fraction.empty();
 }
 
-// False for a second sign, and for a parenthesis that does not close.
+// False for a second sign, and for a parenthesis that is not closed.
 bool readBack(std::string_view& rest, bool parentheses, Written& written) {
   if (parentheses) {
     if (written.sign || !take(rest, ')')) return false;
@@ -119,7 +119,7 @@ bool readBack(std::string_view& rest, bool parentheses, Written& written) {
   return true;
 }
 
-// Nothing for a text that is no number.
+// Null for a text that is not a number.
 std::optional<Written> read(std::string_view text) {
   std::string_view rest = trimmed(text);
   Written written;
@@ -132,8 +132,8 @@ std::optional<Written> read(std::string_view text) {
   return written;
 }
 
-// The digits without commas and without zeros in front, and how many of them stand in front of the
-// point once the exponent has moved it.
+// The digits without commas and leading zeros, and how many of them are before the point once the
+// exponent has been applied.
 struct Significand {
   std::string digits;
   long long point = 0;
@@ -154,7 +154,7 @@ Significand significandOf(const Written& written) {
   return significand;
 }
 
-// The size of the number; nothing beyond the range of a double.
+// The absolute value of the number; null when out of the range of a double.
 std::optional<double> magnitudeOf(const Significand& significand) {
   if (significand.digits.empty() || significand.point < kSmallestPoint) return 0;
   if (significand.point > kLargestPoint) return {};
@@ -173,7 +173,7 @@ std::optional<double> valueOf(const Written& written) {
   return written.sign == '-' && *magnitude != 0 ? -*magnitude : *magnitude;
 }
 
-// Appends fixed notation of 0.DIGITS times ten to the power of `point`.
+// Appends 0.DIGITS times ten to the power of `point` in fixed notation.
 void appendFixed(std::string& text, std::string_view digits, long long point) {
   if (point <= 0) {
     text += "0.";
@@ -191,7 +191,7 @@ void appendFixed(std::string& text, std::string_view digits, long long point) {
   }
 }
 
-// Appends scientific notation of the same.
+// Appends the same in scientific notation.
 void appendScientific(std::string& text, std::string_view digits, int point) {
   text += digits.front();
   if (digits.size() > 1) {
@@ -281,7 +281,7 @@ std::optional<std::string> toPlainText(std::string_view text) {
     if (written->hasPoint) plain += '.';
     plain += written->fraction;
   } else if (*magnitude == 0) {
-    // A size that vanishes in a double could have more zeros than fit into memory.
+    // A number too small for a double could have more zeros than fit into memory.
     plain += '0';
   } else {
     appendFixed(plain, significand.digits, significand.point);

@@ -15,7 +15,7 @@ enum ErrorNumber : int {
   kWindowOutdated = 3021,
 };
 
-/// An error met while a handler computes: it ends the handler, whose trap reports it.
+/// An error in a computation of a handler: it ends the handler, whose trap reports it.
 class RunTimeError : public std::exception {
  public:
   explicit RunTimeError(int number) : number_(number) {}
@@ -26,14 +26,14 @@ class RunTimeError : public std::exception {
   int number_;
 };
 
-/// What both windows report: "Error:13 Type mismatch". After an error that makes a window unusable
-/// a second line advises a fresh one.
+/// The text that both windows show: "Error:13 Type mismatch". For an error that makes a window
+/// unusable, a second line advises the user to reopen it.
 std::string errorText(int number);
 
-/// The result of an operation. Raises error 6 where it has overflowed.
+/// Returns the result of an operation; raises error 6 if it has overflowed.
 double finite(double value);
 
-/// Runs `body`; a run-time error ends it and goes to `report`. False when there was one.
+/// Runs `body`; a run-time error ends it and is passed to `report`. False if there was one.
 template <class Body, class Reporter>
 bool trap(Body&& body, Reporter&& report) {
   try {

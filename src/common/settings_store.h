@@ -15,12 +15,12 @@ class SettingsStore {
   virtual void write(std::string_view section, std::string_view key, std::string_view text) = 0;
 };
 
-/// The stored number; `fallback` when the key is absent or its text is no number.
+/// The stored number; `fallback` when the key is absent or its text is not a number.
 double readNumber(const SettingsStore& store, std::string_view section, std::string_view key,
                   double fallback);
 
-/// The stored truth value: True and False as words, any number other than 0 is true; `fallback`
-/// when the key is absent or its text is neither.
+/// The stored truth value: the words True and False, or a number, where 0 is false; `fallback` when
+/// the key is absent or its text is neither.
 bool readTruth(const SettingsStore& store, std::string_view section, std::string_view key,
                bool fallback);
 

@@ -9,7 +9,7 @@ bool isContinuation(char byte) {
   return (static_cast<unsigned char>(byte) & 0xC0) == 0x80;
 }
 
-// The character that begins at `at`, which moves behind it.
+// Returns the character at `at`, and moves `at` past it.
 char32_t decode(std::string_view text, std::size_t& at) {
   const auto first = static_cast<unsigned char>(text[at++]);
   if (first < 0x80) return first;

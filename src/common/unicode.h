@@ -5,7 +5,7 @@
 
 namespace common {
 
-/// UTF-8 as UTF-16 and back. What is not well-formed becomes the replacement character.
+/// UTF-8 to UTF-16 and back. Ill-formed input becomes the replacement character.
 std::u16string toUtf16(std::string_view text);
 std::string toUtf8(std::u16string_view text);
 /// One character as UTF-8.

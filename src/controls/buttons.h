@@ -4,35 +4,35 @@
 
 namespace controls {
 
-/// What can be clicked: buttons, toggle buttons, option buttons.
+/// A control that can be clicked: a button, toggle button or option button.
 class ClickControl : public Control {
  public:
   using Control::Control;
 
   std::function<void()> onClick;
 
-  /// What the user's click does, once the focus is here. Nothing when it is disabled or not
-  /// visible.
+  /// Does what a user's click does, apart from moving the focus. No effect while disabled or
+  /// hidden.
   virtual void click();
 
-  /// Enter and Space click.
+  /// Enter and Space click the control.
   void typeCharacter(KeyAscii character) override;
 };
 
-/// A button is pressed and comes up again.
+/// A push button.
 class Button : public ClickControl {
  public:
   using ClickControl::ClickControl;
 };
 
-/// A toggle button stays down until it is pressed again.
+/// A button that stays down until it is pressed again.
 class ToggleButton : public ClickControl {
  public:
   using ClickControl::ClickControl;
 
-  /// 1 when it is down, else 0.
+  /// 1 while it is down, else 0.
   int value() const { return value_; }
-  /// Raises Click when the value changes, as a user's click does.
+  /// Raises Click when the value changes, as a click by the user does.
   void setValue(int value);
   void click() override;
 
@@ -43,13 +43,13 @@ class ToggleButton : public ClickControl {
   int value_ = 0;
 };
 
-/// Of the option buttons of a group one is chosen.
+/// A button of a group of which one is chosen.
 class OptionButton : public ClickControl {
  public:
   OptionButton(Window& window, const ControlLayout& layout);
 
   bool value() const { return value_; }
-  /// Choosing one releases the others of its group and raises its Click when it was not chosen
+  /// Choosing a button releases the others of its group, and raises Click if it was not chosen
   /// before.
   void setValue(bool value);
   void click() override;

@@ -4,7 +4,8 @@
 
 namespace controls {
 
-/// A background: a colour (red + 256 x green + 65536 x blue), or a colour of the user's scheme.
+/// A background color: a number (red + 256 x green + 65536 x blue), or a color of the user's
+/// scheme.
 class Color {
  public:
   enum class Scheme { None, Window, ButtonFace };
@@ -14,7 +15,7 @@ class Color {
   static constexpr Color buttonFace() { return Color(Scheme::ButtonFace, 0); }
 
   constexpr Scheme scheme() const { return scheme_; }
-  /// The colour number; only of a colour that is not the scheme's.
+  /// The color number. Meaningless for a color of the scheme.
   constexpr std::uint32_t value() const { return value_; }
 
   bool operator==(const Color&) const = default;

@@ -35,7 +35,7 @@ void Control::setEnabled(bool enabled) {
   showEnabled();
 }
 
-// A control that can no longer have the focus hands it on, as pressing Tab would.
+// A control that can no longer have the focus passes it on, as Tab would.
 void Control::leaveWhenUnable() {
   if (window_.focusedControl() == this && !takesFocus()) window_.moveFocus(true);
 }

@@ -13,14 +13,14 @@ namespace controls {
 
 class Window;
 
-/// Calls a handler, where there is one.
+/// Calls a handler if one is set.
 template <class Handler, class... Arguments>
 void raise(const Handler& handler, Arguments&&... arguments) {
   if (handler) handler(std::forward<Arguments>(arguments)...);
 }
 
-/// A part of a window: what is common to labels, boxes and buttons. It is built from its layout and
-/// lives as long as its window. The state lives here; the implementations show it.
+/// A part of a window: what labels, boxes and buttons have in common. It is built from its layout
+/// and lives as long as its window. The state is kept here; an implementation displays it.
 class Control {
  public:
   Control(Window& window, const ControlLayout& layout);
@@ -33,7 +33,7 @@ class Control {
   ControlKind kind() const { return layout_.kind; }
   Window& window() const { return window_; }
 
-  /// With its "&" in front of the access key.
+  /// With "&" before the access key.
   const std::string& caption() const { return caption_; }
   void setCaption(std::string_view caption);
   const std::string& toolTip() const { return toolTip_; }
@@ -49,14 +49,14 @@ class Control {
   Color backColor() const { return backColor_; }
   void setBackColor(Color color);
 
-  /// The capital letter behind the "&" of the caption, 0 without one.
+  /// The letter after the "&" of the caption, as a capital; 0 without one.
   char accessKey() const;
-  /// Whether the focus can be given to it now: not a label or frame, visible and enabled.
+  /// Whether it can take the focus now: visible, enabled, and neither a label nor a frame.
   bool takesFocus() const;
   /// Whether it has the focus of the program now.
   bool focused() const;
-  /// Moves the focus here, with the events of a move. In a window that is not in front the control
-  /// gets the focus when the window is next brought there.
+  /// Moves the focus here and raises the focus events. In a window that is not in front, the
+  /// control gets the focus when the window next comes to the front.
   void setFocus();
 
   std::function<void()> onGotFocus;
@@ -66,15 +66,15 @@ class Control {
   std::function<void(KeyAscii&)> onKeyPress;
   std::function<void(KeyCode)> onKeyUp;
 
-  /// Raises KeyPress. What comes back is the character to be acted on, 0 for none.
+  /// Raises KeyPress. Returns the character to act on, 0 for none.
   KeyAscii keyPress(KeyAscii character);
   void keyUp(KeyCode key);
   void doubleClick();
-  /// A character typed while it has the focus: KeyPress, and what the character then does here.
+  /// A character is typed while it has the focus: KeyPress, then the effect of the character.
   virtual void typeCharacter(KeyAscii character) { keyPress(character); }
 
  protected:
-  /// What a screen needs to do when a property has changed. In memory there is nothing to do.
+  /// Called when a property has changed, for an implementation that displays it.
   virtual void showCaption() {}
   virtual void showVisible() {}
   virtual void showEnabled() {}

@@ -6,14 +6,14 @@ namespace controls {
 
 SystemDialog::SystemDialog(Desktop& desktop) : desktop_(desktop), owner_(desktop.activeWindow()) {
   desktop_.dialogs_.push_back(this);
-  // The system itself takes care of the window that owns the dialog.
+  // The system itself disables the window that owns the dialog.
   desktop_.showWhoTakesInput(owner_);
 }
 
 SystemDialog::~SystemDialog() {
   std::erase(desktop_.dialogs_, this);
   desktop_.showWhoTakesInput(nullptr);
-  // A window that came to the front meanwhile could not take the keys before.
+  // A window that came to the front meanwhile could not take the keyboard until now.
   if (desktop_.activeWindow_ != owner_) desktop_.bringActiveToFront();
 }
 
@@ -58,7 +58,7 @@ void Desktop::showWhoTakesInput(const Window* except) {
     if (window != except) window->showEnabled();
 }
 
-void Desktop::clearWayOf(Window& window) {
+void Desktop::dismissDialogsOver(Window& window) {
   if (modal_ && modal_ != &window) modal_->requestClose();
   dismissDialogs([&window](const SystemDialog& dialog) { return dialog.owner_ == &window; });
 }

@@ -18,13 +18,13 @@ namespace controls {
 enum class Buttons { Ok, YesNo };
 enum class Icon { None, Question };
 
-/// The answers of a message box, as they are also stored; kNoAnswer where it went away unanswered.
+/// The answers of a message box, also as stored; kNoAnswer if it was dismissed.
 inline constexpr int kNoAnswer = 0;
 inline constexpr int kAnswerOk = 1;
 inline constexpr int kAnswerYes = 6;
 inline constexpr int kAnswerNo = 7;
 
-/// A message box. Without a title of its own it carries the application's.
+/// A message box. The default title is the application's name.
 struct UserMessage {
   std::string text;
   Buttons buttons = Buttons::Ok;
@@ -41,7 +41,7 @@ struct HelpRequest {
   int data = 0;
 };
 
-/// What the program's own version information says besides the version.
+/// Texts from the program's version information.
 struct VersionNotes {
   std::string legalNotice;
   std::string company;
@@ -50,9 +50,9 @@ struct VersionNotes {
 /// A value under the machine's registry root: a text, or a double word.
 using RegistryValue = std::string;
 
-/// What was found on the clipboard. While another program holds it, nobody knows what is there.
+/// The result of reading the clipboard, which another program may have locked.
 struct Clipping {
-  enum class Found { Nothing, Text, HeldByAnother };
+  enum class Found { Nothing, Text, Locked };
   Found found = Found::Nothing;
   std::string text;
 
@@ -61,7 +61,7 @@ struct Clipping {
 
 class Desktop;
 
-/// A dialog of the system's, in front while this lives: no window of the program takes input.
+/// Marks a system dialog as open while it exists: no window of the program takes input.
 class SystemDialog {
  public:
   explicit SystemDialog(Desktop& desktop);
@@ -69,9 +69,9 @@ class SystemDialog {
   SystemDialog(const SystemDialog&) = delete;
   SystemDialog& operator=(const SystemDialog&) = delete;
 
-  /// The window that was in front and asked; null without one.
+  /// The window that was in front when the dialog opened; null without one.
   Window* owner() const { return owner_; }
-  /// The dialog has gone. Raises DialogDismissed where that was not the user's doing.
+  /// Call after the dialog has closed. Throws DialogDismissed if it was not the user who closed it.
   void noteAnswered() const;
 
  private:
@@ -82,64 +82,64 @@ class SystemDialog {
   bool dismissed_ = false;
 };
 
-/// Everything that the program asks of the system: one function a thing. There is one for the
-/// program, and it outlives its windows.
+/// Everything that the program asks of the system, one function each. The program has one desktop,
+/// which outlives its windows.
 class Desktop {
  public:
   virtual ~Desktop() = default;
 
   EventLoop& events() { return events_; }
 
-  /// The session ends: what is to be kept is saved, the windows go. At any moment, also while a
-  /// dialog stands open.
+  /// The Windows session ends: settings are saved and the windows close. May come at any moment,
+  /// even while a dialog is open.
   std::function<void()> onEndSession;
   void endSession();
 
-  /// Makes a window, hidden, with the controls of the layout.
+  /// Creates a hidden window with the controls of the layout.
   virtual std::unique_ptr<Window> createWindow(const WindowLayout& layout) = 0;
-  /// Shows a message box and waits for its answer: kAnswerOk, or kAnswerYes or kAnswerNo. Where the
-  /// window that asks is closed meanwhile, the handler ends here.
+  /// Shows a message box and waits for its answer: kAnswerOk, kAnswerYes or kAnswerNo. If the owner
+  /// is closed meanwhile, the calling handler ends here.
   virtual int showMessage(const UserMessage& box) = 0;
   virtual void beep() = 0;
 
   virtual Clipping clipboardText() = 0;
-  /// False when another program does not let go of the clipboard.
+  /// False when another program keeps the clipboard locked.
   virtual bool setClipboardText(std::string_view text) = 0;
 
   /// Starts a program in a normal window with the focus. False when it cannot be started.
   virtual bool startProgram(const std::string& program) = 0;
   /// Starts a program, brings its new window to the front and pastes the clipboard into it. False
-  /// when any of this fails; no key stroke has been sent to anything else then.
+  /// when any of this fails; no keystroke is ever sent to another window.
   virtual bool startProgramAndPaste(const std::string& program) = 0;
 
-  /// Shows a text in a program that opens text files. False when it cannot be started.
+  /// Opens a text in a program for text files. False when it cannot be started.
   virtual bool openText(const std::string& program, std::string_view text) = 0;
 
   virtual void showHelp(const HelpRequest& request) = 0;
-  /// The colour that the user picks, who is shown the present one; nothing on Cancel.
+  /// Lets the user pick a color, starting with the present one; null on Cancel.
   virtual std::optional<std::uint32_t> chooseColor(std::uint32_t present) = 0;
 
-  /// The settings of the application, under the name of its executable file.
+  /// The application's settings, stored under the name of its executable.
   virtual common::SettingsStore& settings() = 0;
-  /// What keeps the tape of this run.
+  /// The safe that keeps the tape of this run.
   virtual TapeSafe& tapeSafe() = 0;
-  /// A text value under the machine's registry root, a number in its decimal text.
+  /// A value under the machine's registry root, a number as decimal text.
   virtual std::optional<RegistryValue> registryValue(std::string_view key,
                                                      std::string_view name) = 0;
   virtual bool fileExists(const std::string& path) = 0;
-  /// The folder that the program runs from; only a drive's root ends in a backslash.
+  /// The folder of the executable. Only a drive's root ends in a backslash.
   virtual std::string programFolder() = 0;
-  /// The name of the executable file without its extension.
+  /// The name of the executable without its extension.
   virtual std::string programName() = 0;
   virtual VersionNotes versionNotes() = 0;
 
-  /// The window in front, which has the focus; none while the program shows none.
+  /// The window in front, which has the focus; null while none is shown.
   Window* activeWindow() const { return activeWindow_; }
-  /// Whether no dialog is in front of the window.
+  /// Whether the window takes input: no dialog is in front of it.
   bool takesInput(const Window& window) const;
 
  protected:
-  /// Makes the dialogs of the system's go, unanswered.
+  /// Closes all system dialogs without an answer.
   virtual void dismissSystemDialogs() {}
 
  private:
@@ -148,18 +148,18 @@ class Desktop {
 
   void noteInFront(Window& window);
   void noteGone(Window& window);
-  /// The window in front of those that are shown; null without one.
+  /// The frontmost visible window; null without one.
   Window* frontWindow() const;
-  /// The window takes all input; null gives it back to all.
+  /// Makes the window modal; null ends that.
   void setModal(Window* window);
   void showWhoTakesInput(const Window* except);
   void bringActiveToFront();
-  /// The dialogs in front of a window that is to be closed go first.
-  void clearWayOf(Window& window);
+  /// Dismisses the dialogs in front of a window that is about to close.
+  void dismissDialogsOver(Window& window);
   template <class IsMeant>
   void dismissDialogs(IsMeant isMeant);
 
-  // The one in front last.
+  // From back to front.
   std::vector<Window*> windows_;
   Window* activeWindow_ = nullptr;
   Window* modal_ = nullptr;

@@ -7,15 +7,15 @@
 
 namespace controls {
 
-/// Ends the handler that waits for a dialog, because the window that asked is being closed.
+/// Thrown to end a handler that waits for a dialog when the owner of the dialog is closed.
 struct DialogDismissed {};
 
-/// The order of the program's events. An event is what comes in from outside: a key, a click, a
-/// message of the system. What its handlers post runs when the outermost event has ended, in the
-/// order in which it was posted.
+/// The order of the program's events. An event is an input from outside: a key, a click, a message
+/// from the system. Tasks that its handlers post run when the outermost event has ended, in the
+/// order in which they were posted.
 class EventLoop {
  public:
-  /// Runs one event and, when it was the outermost, everything posted meanwhile.
+  /// Runs one event and, if it is the outermost, everything posted meanwhile.
   template <class Body>
   void runEvent(Body&& body) {
     runHandler(body);
@@ -26,14 +26,14 @@ class EventLoop {
     }
   }
 
-  /// Leaves a task for the end of the running event. Outside an event it runs at once.
+  /// Queues a task for the end of the current event. Outside an event it runs at once.
   void post(std::function<void()> task) {
     tasks_.push_back(std::move(task));
     if (depth_ == 0) runEvent([] {});
   }
 
  private:
-  // An exception must not leave the loop believing that an event still runs.
+  // Keeps the depth right when a handler throws.
   class Depth {
    public:
     explicit Depth(int& depth) : depth_(depth) { ++depth_; }

@@ -28,7 +28,7 @@ constexpr bool isNavigationKey(KeyCode key) {
   return key >= kKeyEnd && key <= kKeyDown;
 }
 
-/// A key that is pressed, with its modifiers.
+/// A pressed key with its modifiers.
 struct KeyStroke {
   KeyCode key = 0;
   bool shift = false;

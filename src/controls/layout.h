@@ -10,7 +10,7 @@ namespace controls {
 enum class ControlKind { Label, Frame, TextBox, Button, ToggleButton, OptionButton };
 enum class Alignment { Left, Right };
 
-/// A font by the name that the design gives it; sizes in tenths of a point.
+/// A font by its name in the design; the size is in tenths of a point.
 struct FontLayout {
   std::string_view name = "MS Sans Serif";
   int tenthsOfPoint = 83;
@@ -19,34 +19,34 @@ struct FontLayout {
   Twips characterWidth = 0;
 };
 
-/// One control of a window, as it is designed. What a kind has no use for stays at its default.
+/// One control of a window as designed. A kind ignores the fields that do not apply to it.
 struct ControlLayout {
   ControlKind kind = ControlKind::Label;
   std::string_view name;
   std::string_view caption = "";
   std::string_view toolTip = "";
   Rect place;
-  /// Place in the order of the Tab key; controls of equal index follow each other as listed.
+  /// Position in the tab order; controls of equal index keep the order of the list.
   int tabIndex = 0;
   FontLayout font = {};
-  /// What a key shows where its caption says nothing: a symbol or a short word.
+  /// What a key without a caption shows: a symbol or a short word.
   std::string_view face = "";
-  /// What a screen reader says where caption and face do not. Of a key with a caption, with &
-  /// before the same letter.
+  /// The name for screen readers where caption and face are not enough. If there is a caption, it
+  /// has its & before the same letter.
   std::string_view accessibleName = "";
-  /// A picture button: the name of its icon.
+  /// The icon of a picture button.
   std::string_view icon = "";
   Alignment alignment = Alignment::Left;
   bool multiLine = false;
-  /// Option buttons with the same number exclude each other.
+  /// Option buttons with the same number are mutually exclusive.
   int optionGroup = 0;
-  /// The option button of its group that is chosen at first.
+  /// The option button of its group that is chosen initially.
   bool chosen = false;
   /// The button that Escape presses.
   bool cancel = false;
 };
 
-/// One item of a window's menu. An item with items of a deeper level behind it is a menu.
+/// One item of a window's menu. An item followed by items of a deeper level is a menu.
 struct MenuItemLayout {
   int level = 0;
   std::string_view name;
@@ -68,7 +68,7 @@ struct WindowLayout {
   Twips smallestWidth = kFrameWidth;
   Twips smallestHeight = kFrameHeight;
 
-  /// What the window is higher than its client area.
+  /// How much higher the window counts than its client area.
   Twips frameHeight() const { return menu.empty() ? kFrameHeight : kFrameHeightWithMenu; }
 };
 

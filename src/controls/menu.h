@@ -36,9 +36,9 @@ class MenuItem {
   MenuItem* parent() const { return parent_; }
   const std::vector<MenuItem*>& items() const { return items_; }
   bool isSeparator() const { return caption_ == "-"; }
-  /// It and every menu that holds it is enabled, and it is an item that does something.
+  /// Whether it is an item, and it and every menu that contains it is enabled.
   bool canBeChosen() const;
-  /// Raises Click when it can be chosen; tells whether it could.
+  /// Raises Click if it can be chosen; returns whether it could.
   bool choose();
   bool hasShortcut(const KeyStroke& stroke) const;
 

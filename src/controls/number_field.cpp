@@ -10,7 +10,7 @@ namespace controls {
 void NumberField::rewrite(std::string_view text, int caret) {
   if (text == box_.text()) return;
   box_.setText(text);
-  // A digit typed in front of the sign would be lost.
+  // A digit typed before the sign would be lost.
   box_.setSelStart(std::max(caret, text.starts_with('-') ? 1 : 0));
 }
 
@@ -54,7 +54,7 @@ void NumberField::dropSeparatorsBehindPoint() {
   rewrite(common::toUtf8(kept), static_cast<int>(caret) - static_cast<int>(passed));
 }
 
-// A character beyond the basic plane takes two places.
+// A surrogate pair takes two positions.
 void NumberField::dropFirstCharacter() {
   const std::u16string text = common::toUtf16(box_.text());
   const std::size_t places = (text[0] & 0xFC00) == 0xD800 ? 2 : 1;

@@ -6,23 +6,25 @@
 
 namespace controls {
 
-/// A text box that holds a number while it is keyed: the sign stands in front, separators come and
-/// go by themselves, and the caret stays behind the character behind which it was, never in front
-/// of the sign. Whatever leaves the text as it is touches neither caret nor selection.
+/// A text box in which a number is keyed: the sign comes first, separators come and go
+/// automatically, and the caret stays after the character that it followed, never before the sign.
+/// An operation that does not change the text leaves caret and selection alone.
 class NumberField {
  public:
   explicit NumberField(TextBox& box) : box_(box) {}
 
-  /// Puts another text in the place of the present one, with the caret at `caret`.
+  /// Replaces the text and places the caret at `caret`.
   void rewrite(std::string_view text, int caret);
-  /// Puts the same number in another form: the caret keeps its distance from the end.
+  /// Replaces the text by another form of the same number; the caret keeps its distance from the
+  /// end.
   void reformat(std::string_view text);
-  /// Before Backspace: right behind a separator it takes the digit in front of the separator.
+  /// Call before Backspace takes effect: after a separator, it deletes the digit before the
+  /// separator.
   void stepOverSeparator();
-  /// A character in front of the only sign gives way to it.
+  /// Removes a character before the only sign.
   void repairSign();
   void dropLeadingCommas();
-  /// Separators that have come to stand behind the point were not typed.
+  /// Removes separators that have ended up after the point; they were not typed.
   void dropSeparatorsBehindPoint();
 
  private:

@@ -8,37 +8,37 @@
 
 namespace controls {
 
-/// Keeps the tape while the program runs, where a crash, a power cut or an end by force does not
-/// reach it. A tape that is cleared, or ends with its window, is kept no longer. An implementation
-/// stores records; where it cannot, the tape is not kept, and nothing else is different.
+/// Keeps a copy of the tape that survives a crash, a power failure or a killed process. It is
+/// deleted when the tape is cleared or its window closes. An implementation stores records; if it
+/// cannot, the tape is not kept, and nothing else changes.
 class TapeSafe {
  public:
   virtual ~TapeSafe() = default;
 
-  /// The tape has changed. Costs the same however long the tape is.
+  /// The tape has changed. The cost does not depend on the length of the tape.
   void record(const common::TextEdit& edit);
-  /// The tape has ended as its user wished.
+  /// The tape has ended normally.
   void clear();
 
-  /// The tapes of the runs that have not ended normally, the oldest first, with an empty line in
-  /// between; empty when there is none.
+  /// The tapes of runs that did not end normally, the oldest first, separated by an empty line;
+  /// empty when there are none.
   std::string lostTapes();
-  /// Those of which lostTapes has told are kept no longer.
+  /// Deletes the tapes that lostTapes has returned.
   virtual void forgetLostTapes() = 0;
 
  protected:
-  /// Stores records behind those that are stored, the first ones in a place of their own.
+  /// Appends records to those stored; creates the storage for the first.
   virtual void store(std::string_view records) = 0;
-  /// Drops what has been stored.
+  /// Deletes what has been stored.
   virtual void discard() = 0;
-  /// The records that each of the other runs has left behind, the oldest run first. A run that
-  /// still goes on has left none.
+  /// The records that other runs have left behind, the oldest run first. A program that is still
+  /// running has left none.
   virtual std::vector<std::string> lostRecords() = 0;
 
  private:
   // In UTF-16 units.
   int length_ = 0;
-  // A tape of nothing but its head is no loss: that waits for the first line.
+  // A tape with only its header is not worth keeping: it is stored with the first line.
   std::string head_;
 };
 

@@ -84,7 +84,7 @@ bool TextBox::replaceSelection(std::string_view text) {
   return true;
 }
 
-// Whether the two units there are one character, or a line end.
+// Whether the two units there are a surrogate pair or a line break.
 bool TextBox::hasPairAt(int start) const {
   if (start < 0 || start + 2 > length()) return false;
   const std::string pair = loadPart(start, 2);
@@ -122,7 +122,7 @@ std::string withoutLineEnd(std::string text) {
 void TextBox::paste() {
   const Clipping clipping = window().desktop().clipboardText();
   const bool isText = clipping.found == Clipping::Found::Text;
-  if (clipping.found == Clipping::Found::HeldByAnother) {
+  if (clipping.found == Clipping::Found::Locked) {
     window().desktop().beep();
   } else if (onPasteCommand) {
     raise(onPasteCommand, isText ? std::optional(clipping.text) : std::nullopt);
@@ -133,7 +133,7 @@ void TextBox::paste() {
 
 bool TextBox::pasteByMouse() {
   const Clipping clipping = window().desktop().clipboardText();
-  if (clipping.found == Clipping::Found::HeldByAnother) window().desktop().beep();
+  if (clipping.found == Clipping::Found::Locked) window().desktop().beep();
   return clipping.found == Clipping::Found::Text && pasteText(clipping.text);
 }
 
@@ -196,7 +196,7 @@ void TextBox::insert(KeyAscii character) {
   replaceSelection(common::toUtf8(static_cast<char32_t>(character)));
 }
 
-// Ctrl+Delete does nothing: what it would take away depends on the system.
+// Ctrl+Delete does nothing: what it deletes depends on the version of the system.
 bool TextBox::takeEditKey(const KeyStroke& stroke) {
   if (stroke.key == kKeyInsert && stroke.control && !stroke.shift) {
     copy();

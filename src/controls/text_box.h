@@ -12,86 +12,81 @@ namespace controls {
 
 enum class ChangedBy { Program, User };
 
-/// What the user did to the text with the mouse, by the box's own menu: he changed it as a key
-/// would, or pasted into it.
+/// What the user did to the text with the context menu: edited it as with a key, or pasted into it.
 enum class MouseEdit { None, Edited, Pasted };
 
-/// What a box's own menu offers.
+/// The commands of a box's context menu.
 enum class BoxCommand { None, Undo, Cut, Copy, Paste, Delete, SelectAll };
 
-/// How many bytes of text an edit may put into a box of one line.
+/// The most bytes that one edit may put into a single-line box.
 inline constexpr std::size_t kLongestEdit = 32767;
 
-/// A text without the one line end behind it, with which a cell copied from a spreadsheet ends.
+/// A text without one trailing line break, such as a cell copied from a spreadsheet has.
 std::string withoutLineEnd(std::string text);
 
-/// What of a pasted text goes into a box of one line.
+/// The part of a pasted text that goes into a single-line box.
 std::string firstLineOf(std::string_view text);
 
-/// A box with a text, a caret and a selection. Places in the text are counted in characters from 0;
-/// text is UTF-8, and a character beyond the basic plane counts as two, as the system counts it.
-/// The functions that are not virtual hold the rules; an implementation keeps the text and the
-/// selection.
+/// A box with a text, a caret and a selection. Text is UTF-8; positions count characters from 0,
+/// and a character outside the basic plane counts as two, as in the system. The functions that are
+/// not virtual contain the rules; an implementation stores the text and the selection.
 class TextBox : public Control {
  public:
   TextBox(Window& window, const ControlLayout& layout);
 
-  /// Raised when the text was assigned, or when an edit has changed it; tells whose doing it was.
+  /// Raised when the text has been assigned, or changed by an edit.
   std::function<void(ChangedBy)> onChange;
-  /// Raised when the text is about to change: what of it gives way to what.
+  /// Raised when the text is about to change.
   std::function<void(const common::TextEdit&)> onEdit;
-  /// A text about to be pasted in the place of the selection; the handler may change it, or empty
-  /// it to discard it. A one-line box without a handler takes the text up to its first line break.
+  /// A text is about to replace the selection; the handler may change it, or empty it to discard
+  /// it. A single-line box without a handler takes the text up to its first line break.
   std::function<void(std::string&)> onPaste;
-  /// Takes over what a command pastes: the clipboard's text, nothing where it has none. The mouse
-  /// pastes where the caret is, with this handler too.
+  /// Replaces what the Paste command does; the argument is the clipboard's text, null without one.
+  /// The context menu still pastes at the caret.
   std::function<void(const std::optional<std::string>&)> onPasteCommand;
-  /// The mouse button goes down in the box; it has come up, and what the mouse did to the text is
-  /// done.
+  /// The mouse button goes down in the box, and has come up, after any command of the context menu.
   std::function<void()> onMouseDown;
   std::function<void(MouseEdit)> onMouseUp;
 
   std::string text() const { return loadText(); }
-  /// Puts the caret at 0 with nothing selected; always raises Change.
+  /// Moves the caret to 0, clears the selection, and always raises Change.
   void setText(std::string_view text);
-  /// Puts text behind the text, with the caret behind it and the last line in view; raises Change.
-  /// Costs the same however long the text is.
+  /// Appends to the text, moves the caret to the end and scrolls to the last line; raises Change.
+  /// The cost does not depend on the length of the text.
   void append(std::string_view text);
   /// In characters.
   int length() const { return loadLength(); }
 
   int selStart() const { return loadSelection().start; }
   int selLength() const { return loadSelection().length; }
-  /// Places the caret; drops the selection.
+  /// Moves the caret and clears the selection.
   void setSelStart(int start);
   void setSelLength(int length);
-  /// Start and length are kept within the text.
+  /// Start and length are clamped to the text.
   void select(int start, int length);
   void selectAll() { select(0, length()); }
   void moveCaretToEnd() { setSelStart(length()); }
   std::string selectedText() const;
-  /// What stays when the selection is replaced by nothing.
+  /// The text that is not selected.
   std::string textWithoutSelection() const;
 
-  /// A user's edits. Each raises Change once when it changes the text, leaves the caret behind what
-  /// it put there, and tells whether it changed the text. What is too long for a box of one line is
-  /// refused with a beep.
+  /// Edits by the user. Each raises Change once if it changes the text, moves the caret to the end
+  /// of the insertion, and returns whether it changed the text. A text too long for a single-line
+  /// box is refused with a beep.
   bool replaceSelection(std::string_view text);
-  /// Pastes the clipboard's text by a command: the menu's, a key's, another program's. Beeps where
-  /// another program holds the clipboard.
+  /// The Paste command, of the menu, a key or another program. Beeps if the clipboard is locked.
   void paste();
-  /// Puts a selection on the clipboard, or beeps where another program holds it; cutting also takes
-  /// it out of the text.
+  /// Copies the selection to the clipboard, or beeps if that is locked; cut also deletes it.
   void copy();
   bool cut();
-  /// Takes back the user's last edit, and a second time restores it. What the program assigned is
-  /// not taken back.
+  /// Undoes the user's last edit; a second call redoes it. Assignments by the program are not
+  /// undone.
   bool undo();
   bool canUndo() const { return lastEdit_.has_value(); }
-  /// The character takes effect when KeyPress lets it through.
+  /// The character takes effect unless KeyPress discards it.
   void typeCharacter(KeyAscii character) override;
-  /// A key without a character that edits: Delete, and Cut and Copy as Shift+Delete and
-  /// Ctrl+Insert. False for any other key.
+  /// An editing key without a character: Delete, Shift+Delete (cut), Ctrl+Insert (copy). False for
+  /// any other key.
   bool takeEditKey(const KeyStroke& stroke);
 
   Alignment alignment() const { return alignment_; }
@@ -99,8 +94,7 @@ class TextBox : public Control {
 
   void mouseDown() { raise(onMouseDown); }
   void mouseUp() { raise(onMouseUp, MouseEdit::None); }
-  /// The box's own menu, which the mouse has opened, closes: what was chosen is done, and the mouse
-  /// button is up.
+  /// The context menu closes: carries out the command, then raises MouseUp.
   void closeMenu(BoxCommand chosen);
 
  protected:
@@ -121,15 +115,15 @@ class TextBox : public Control {
   virtual void showAlignment() {}
 
  private:
-  // An edit as it is taken back: the part of the text that it put there, and what stood there.
+  // What undo needs: the part of the text that an edit inserted, and the text before.
   struct Edit {
     int start;
     int length;
     std::string before;
   };
 
-  // These take whole characters away: a line end, or a character of two units, goes as one, also
-  // with the caret inside it.
+  // These delete whole characters: a line break or a surrogate pair goes as one, even with the
+  // caret inside it.
   void backspace();
   void deleteForward();
   void takeAway(int start, int end);

@@ -13,7 +13,7 @@ Window::Window(Desktop& desktop, const WindowLayout& layout)
       name_(layout.name),
       caption_(layout.caption),
       bounds_(layout.place) {
-  // Behind those that have been shown.
+  // Behind all others until it is shown.
   desktop_.windows_.insert(desktop_.windows_.begin(), this);
 }
 
@@ -112,7 +112,7 @@ void Window::setOnTop(bool onTop) {
 
 void Window::requestClose() {
   if (!onClose) return;
-  desktop_.clearWayOf(*this);
+  desktop_.dismissDialogsOver(*this);
   onClose();
 }
 

@@ -17,22 +17,22 @@ class Desktop;
 
 enum class WindowState { Normal, Minimized, Maximized };
 
-/// A window with the controls and the menu of its layout. It is made hidden; a window in front is
-/// the one that the user's keys go to. The rules live here; an implementation shows the window and
-/// tells what the user did to it.
+/// A window with the controls and the menu of its layout. It is created hidden; the window in front
+/// receives the keyboard. The rules are kept here; an implementation displays the window and
+/// reports what the user does to it.
 class Window {
  public:
   virtual ~Window();
   Window(const Window&) = delete;
   Window& operator=(const Window&) = delete;
 
-  /// The size has really changed, or the window is about to be shown for the first time.
+  /// The size has changed, or the window is about to be shown for the first time.
   std::function<void()> onResize;
   /// The window has come to the front.
   std::function<void()> onActivate;
   /// The user closes the window; the program unloads it.
   std::function<void()> onClose;
-  /// The user asks for help with F1.
+  /// The user has pressed F1.
   std::function<void()> onHelp;
 
   const WindowLayout& layout() const { return layout_; }
@@ -41,9 +41,9 @@ class Window {
   const std::string& caption() const { return caption_; }
   void setCaption(std::string_view caption);
 
-  /// Left and top are the place of the real frame on the screen; width and height are the client
-  /// area and the classic frame around it (kFrameWidth, kFrameHeight). Twips are kept to the digit
-  /// while nobody moves the window. Of a minimized window: where it stands when it is restored.
+  /// Left and top are the position of the real frame on the screen; width and height are the client
+  /// area plus a classic frame (kFrameWidth, kFrameHeight). Assigned values are kept exactly until
+  /// the user moves or sizes the window. For a minimized window: its bounds when restored.
   const Rect& bounds() const { return bounds_; }
   /// A window is never smaller than its frame.
   void setBounds(const Rect& wanted);
@@ -53,27 +53,27 @@ class Window {
   void setHeight(Twips height);
 
   bool visible() const { return visible_; }
-  /// Shows the window and brings it to the front. The first time: a resize event, then it is
-  /// activated, then its first control has the focus.
+  /// Shows the window and brings it to the front. The first time, it raises Resize, is activated,
+  /// and its first control gets the focus.
   void show();
   /// Shows it as a dialog: the other windows take no input until it is hidden.
   void showModal();
-  /// Hides it; the one behind it comes to the front.
+  /// Hides it; the window behind comes to the front.
   void hide();
-  /// Whether it takes input: no dialog is in front of it.
+  /// Whether it takes input, that is, no dialog is in front of it.
   bool enabled() const;
   WindowState state() const { return state_; }
   void setState(WindowState state);
   bool onTop() const { return onTop_; }
-  /// The system's switch between topmost and normal, which moves the window to 0,0 and shrinks it
-  /// to nothing; the caller puts it back.
+  /// Switches the window between topmost and normal. The system's call also moves it to 0,0 and
+  /// shrinks it to nothing; the caller restores the bounds.
   void setOnTop(bool onTop);
-  /// The user, or another program, asks it to close. A dialog in front of it goes first.
+  /// The user or another program asks it to close. A dialog in front of it closes first.
   void requestClose();
 
   Control* findControl(std::string_view name) const;
   MenuItem* findMenuItem(std::string_view name) const;
-  /// The control of that name and kind; a name that the layout lacks is a broken program.
+  /// The control of that name and kind. The layout must have it.
   TextBox& textBox(std::string_view name) const;
   Button& button(std::string_view name) const;
   ToggleButton& toggleButton(std::string_view name) const;
@@ -86,29 +86,29 @@ class Window {
 
   /// The control that has the focus, or gets it when the window comes to the front.
   Control* focusedControl() const { return focusedControl_; }
-  /// Moves the focus to the next or the previous control in tab order, as the Tab key does; of a
-  /// group of option buttons the chosen one.
+  /// Moves the focus to the next or previous control in tab order, as Tab does; a group of option
+  /// buttons is entered at the chosen one.
   void moveFocus(bool forward);
-  /// A key stroke that the window takes before a control sees it: a menu's shortcut, Shift+Insert
-  /// for a paste into the box with the focus, F1 for help, Tab, an access key, Escape for the
-  /// cancel button, arrows among option buttons. False when a control is to have it.
+  /// Handles a keystroke that belongs to the window: a menu shortcut, Shift+Insert for a paste into
+  /// the focused box, F1, Tab, an access key, Escape for the cancel button, arrows among option
+  /// buttons. False if the keystroke is for the focused control.
   bool takeKey(const KeyStroke& stroke);
-  /// A key stroke sent by the program: it takes the way of a real one, once the running handler has
-  /// ended. `character` is 0 for a key without one.
+  /// Simulates a keystroke, which is handled like a real one when the current event has ended.
+  /// `character` is 0 for a key without one.
   void sendKey(KeyCode key, KeyAscii character);
 
   /// For the implementation: the user has moved, sized, minimized or activated the window.
   void noteBounds(const Rect& bounds);
   void noteState(WindowState state);
   void noteActivated();
-  /// Gives the focus to `control` with the events of a move; of a window in the background it just
-  /// keeps it.
+  /// Moves the focus to `control` and raises the focus events; a window in the background only
+  /// remembers it.
   void focusControl(Control& control);
 
  protected:
   Window(Desktop& desktop, const WindowLayout& layout);
 
-  /// Makes the controls and the menu items of the layout.
+  /// Creates the controls and the menu items of the layout.
   void build();
   virtual std::unique_ptr<Control> makeControl(const ControlLayout& layout) = 0;
   virtual std::unique_ptr<MenuItem> makeMenuItem(const MenuItemLayout& layout,
@@ -120,11 +120,11 @@ class Window {
   virtual void showEnabled() {}
   virtual void showState() {}
   virtual void showOnTop() {}
-  /// Brings the window to the front. The implementation tells noteActivated.
+  /// Brings the window to the front. The implementation then calls noteActivated.
   virtual void bringToFront() = 0;
   /// The window is about to be hidden and `next` comes to the front.
   virtual void handOver(Window& next) { next.bringToFront(); }
-  /// Puts the keyboard's focus on a control of the window in front.
+  /// Gives the keyboard focus to a control of the window in front.
   virtual void showFocus(Control&) {}
 
  private:

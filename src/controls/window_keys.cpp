@@ -13,7 +13,7 @@ void Window::focusControl(Control& control) {
   if (desktop_.activeWindow_ != this) return;
   showFocus(control);
   if (before) raise(before->onLostFocus);
-  // The handler may have sent the focus on already.
+  // The handler may have moved the focus already.
   if (focusedControl_ == &control) raise(control.onGotFocus);
 }
 
@@ -21,7 +21,7 @@ bool Window::isTabStop(const Control& control) const {
   if (!control.takesFocus()) return false;
   const auto* option = dynamic_cast<const OptionButton*>(&control);
   if (!option || option->value()) return true;
-  // A group without a chosen button is entered at its first one.
+  // A group without a chosen button is entered at its first.
   for (const auto& other : controls_) {
     const auto* sibling = dynamic_cast<const OptionButton*>(other.get());
     if (!sibling || sibling->layout().optionGroup != control.layout().optionGroup) continue;
@@ -66,7 +66,7 @@ bool Window::takeKey(const KeyStroke& stroke) {
   return takeArrow(stroke);
 }
 
-// All shortcuts of menus are keys with Ctrl.
+// All menu shortcuts use Ctrl.
 bool Window::takeShortcut(const KeyStroke& stroke) {
   if (!stroke.control) return false;
   for (const auto& item : menuItems_) {
@@ -89,8 +89,8 @@ bool Window::takeHelp(const KeyStroke& stroke) {
   return true;
 }
 
-// An access key of a label leads to the control behind it; any other control is clicked. All of
-// them are ASCII.
+// The access key of a label focuses the next control; any other control is clicked. All access keys
+// are ASCII.
 bool Window::takeAccessKey(KeyCode character) {
   constexpr KeyCode kLastOfAscii = 127;
   if (character <= 0 || character > kLastOfAscii) return false;
@@ -112,7 +112,7 @@ bool Window::takeAccessKey(KeyCode character) {
   return false;
 }
 
-// The arrows choose among the option buttons of a group, round and round.
+// The arrows move cyclically among the option buttons of a group.
 bool Window::takeArrow(const KeyStroke& stroke) {
   auto* from = dynamic_cast<OptionButton*>(focusedControl_);
   if (!from || stroke.key < kKeyLeft || stroke.key > kKeyDown) return false;

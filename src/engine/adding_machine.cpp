@@ -55,7 +55,7 @@ bool AddingMachine::runKey(KeyAscii key) {
     (this->*command->run)();
     return true;
   }
-  // Add mode knows no square root, not even while it computes a product.
+  // Add mode has no square root, not even during a multiplication.
   if (mode_ != Mode::Calculator || (key != 'S' && key != 's')) return false;
   squareRoot();
   return true;

@@ -12,28 +12,29 @@
 
 namespace engine {
 
-/// The numbers are those of the settings and of the items of the Modes menu. Product is add mode
-/// during the one calculation that x or / starts there: until its total the machine calculates.
+/// The numbers are those in the settings and in the names of the Modes menu items. Product is add
+/// mode during a multiplication or division: until its total the machine works as in calculator
+/// mode.
 enum class Mode { Add = 0, Calculator = 1, Product };
 
-/// The adding machine: what each of its keys does. It is given its controls and never knows whether
-/// they are on a screen.
+/// The adding machine: what each of its keys does. It is given its controls, and does not know
+/// whether they are on a screen.
 class AddingMachine {
  public:
   explicit AddingMachine(const MachineControls& controls);
 
-  /// Adds the entry, or takes it off. In add mode a total just shown is not taken again: the last
-  /// amount is repeated. In calculator mode the operator waits for the next entry.
+  /// Adds or subtracts the entry. In add mode, after a posting, the last amount is repeated. In
+  /// calculator mode the operator waits for the next entry.
   void plus();
   void minus();
-  /// In add mode the entry is added first, and the next one multiplies or divides it.
+  /// In add mode the entry is posted first, and then multiplied or divided by the next.
   void times();
   void divide();
-  /// Prints the total. An entry that add mode has not been told to add or take off is asked for.
+  /// Prints the total. In add mode an entry that has not been posted is refused with a message.
   void equals();
-  /// A hundredth of the entry; ends the one calculation of add mode.
+  /// Divides the entry by 100; in add mode this ends a multiplication or division.
   void percent();
-  /// Prints the entry and its root, once an open calculation is closed.
+  /// Closes an open calculation, then prints the entry and its square root.
   void squareRoot();
   void changeSign();
 
@@ -43,13 +44,13 @@ class AddingMachine {
   void clearTape();
   void clearAll();
 
-  /// A character of the entry box: runs its key, or judges it; sets it to 0 when it is not to be
-  /// typed.
+  /// A character typed into the entry box: runs the function of that key, or checks the character;
+  /// set to 0 if it is not to be typed.
   void keyPress(controls::KeyAscii& key);
 
-  /// The mode that the user chose: Add or Calculator.
+  /// The mode that the user has chosen: Add or Calculator.
   Mode chosenMode() const { return mode_ == Mode::Calculator ? mode_ : Mode::Add; }
-  /// The running total begins again.
+  /// Clears the running total.
   void chooseMode(Mode mode);
 
   Entry& entry() { return entry_; }

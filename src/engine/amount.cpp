@@ -4,7 +4,7 @@
 
 namespace engine {
 
-// What the text says is what counts: it has no more than 15 digits.
+// The text decides: it has at most 15 digits.
 Amount amountOf(double value) {
   std::string text = common::toText(value);
   const double said = common::tryNumber(text).value_or(value);

@@ -4,7 +4,7 @@
 
 namespace engine {
 
-/// An amount as it is in the entry box: its text, and the number that the text represents.
+/// An amount as in the entry box: its text and the number it represents.
 struct Amount {
   std::string text;
   double value = 0;

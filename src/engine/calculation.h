@@ -8,46 +8,46 @@
 
 namespace engine {
 
-/// What a key does with the amount that it takes.
+/// What is done with an amount.
 enum class Operator { Plus, Minus, Times, Divide, Root, Equals };
 
-/// The amount was refused with a run-time error; nothing has changed.
+/// The amount is refused with a run-time error; nothing has changed.
 struct Refusal {
   int error;
 };
 
-/// The calculation cannot go on and has to be cleared. The reason is as the tape gives it.
+/// The calculation cannot continue and has to be cleared. The reason is worded as on the tape.
 struct Failure {
   std::string_view reason;
 };
 
-/// What became of an amount: a line for the tape when it was taken.
+/// The result of an operation: a line for the tape if the amount was accepted.
 using Outcome = std::variant<TapeLine, Refusal, Failure>;
 
-/// The largest total while the number of places is fixed, and while the decimal floats.
+/// The largest total with a fixed number of places and with a floating decimal.
 inline constexpr double kLargestFixedTotal = 999'999'999'999'999;
 inline constexpr double kLargestFloatingTotal = std::numeric_limits<double>::max();
 
-/// The arithmetic of the adding machine: a total, and the operator that waits for the next amount.
+/// The arithmetic of the adding machine: the running total and the pending operator.
 class Calculation {
  public:
   double total() const { return total_; }
-  /// An amount has been taken since the last total.
+  /// Whether an amount has been taken since the last total.
   bool isOpen() const { return open_; }
   bool operatorWaits() const { return pendingOperator_ != Operator::Equals; }
-  /// What the last line on the tape was marked with.
+  /// The mark of the last line on the tape.
   Mark lastMark() const { return lastMark_; }
 
-  /// Add mode: Plus and Minus add the amount or take it off; any other operator leaves the total
-  /// and the mark as they are.
+  /// Add mode: Plus and Minus add or subtract the amount; any other operator changes neither total
+  /// nor mark.
   Outcome add(const Amount& amount, Operator key, double largestTotal);
-  /// Calculator mode: the first amount becomes the total; each further one goes through the
-  /// operator that waits, and `key` waits from then on. Root takes the root of the amount at once.
+  /// Calculator mode: the first amount becomes the total; the pending operator is applied to each
+  /// further one, and `key` becomes the pending operator. Root is applied to the amount at once.
   Outcome calculate(const Amount& amount, Operator key, double largestTotal);
-  /// The total waits to be multiplied or divided.
+  /// Sets the pending operator: the total is to be multiplied or divided.
   void wait(Operator key) { pendingOperator_ = key; }
 
-  /// A total has been printed: the next amount begins a new calculation.
+  /// A total has been printed: the next amount starts a new calculation.
   void close();
   void clearTotal() { total_ = 0; }
 

@@ -21,7 +21,7 @@ bool hasDigit(std::string_view text) {
   return text.find_first_of("0123456789") != std::string_view::npos;
 }
 
-// A minus in front of the zeros typed so far is the sign of the digits to come.
+// A minus before zeros is kept as the sign of the digits to come.
 std::string keepSign(std::string_view typed, std::string formatted) {
   const bool lost = typed.starts_with('-') && !formatted.starts_with('-');
   if (lost && common::tryNumber(typed) == 0.0) formatted.insert(0, 1, '-');
@@ -52,7 +52,7 @@ std::string formatFloating(std::string_view text) {
   const std::string_view whole = text.substr(0, point);
   const double wholeValue = hasDigit(whole) ? common::toNumber(whole) : 0;
   std::string formatted = groupWhole(whole) + std::string(text.substr(point));
-  // Exponent notation is spelt out where it is the text of a small number.
+  // Exponent notation of a small number is written out.
   if (formatted.find('E') == std::string::npos || wholeValue >= 1000) return formatted;
   return formatText(formatted, kSmallNumberPattern);
 }
@@ -73,7 +73,7 @@ std::string formatStationary(std::string_view text, int places) {
   const auto point = digits.find('.');
   if (point != std::string::npos && point > 0) digits.erase(point, 1);
   const double value = common::toNumber(digits);
-  // Scaling loses the zeros at the end; they are put back behind it.
+  // Scaling loses trailing zeros; they are appended again.
   const int zeros = value == 0 ? 0 : trailingZeros(digits);
   const std::string scaled =
       places == 0 ? digits : common::toText(value * kScale[static_cast<std::size_t>(places)]);

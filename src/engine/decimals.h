@@ -5,21 +5,21 @@
 
 namespace engine {
 
-/// How many decimals the amounts have and how they come about, as the decimals box and the two
-/// toggles beside it say.
+/// How many decimals amounts have and how they are entered, as set by the decimals box and the two
+/// toggles.
 class Decimals {
  public:
   Decimals(const controls::ToggleButton& floating, const controls::ToggleButton& stationary,
            controls::TextBox& places)
       : floating_(floating), stationary_(stationary), places_(places) {}
 
-  /// As many as are keyed.
+  /// As many decimals as are keyed.
   bool floating() const { return floating_.value() == 1; }
-  /// The digits fill from the right, behind an implied point.
+  /// Digits fill in from the right, after an implied point.
   bool stationary() const { return !floating() && stationary_.value() == 1; }
-  /// The decimals box when it holds one digit, else 0.
+  /// The digit in the decimals box; 0 if it does not contain a single digit.
   int places() const;
-  /// Writes the 0 that an empty decimals box means.
+  /// Writes 0 into an empty decimals box.
   void fillEmptyBox();
 
  private:

@@ -101,19 +101,19 @@ void Entry::keyUp(controls::KeyCode key) {
   if (!controls::isNavigationKey(key)) tidy();
 }
 
-// What the user changes is a fresh entry, and digits as keyed.
+// An entry that the user changes is open again, and counts as keyed digits.
 void Entry::changed(controls::ChangedBy by) {
   if (by != controls::ChangedBy::User) return;
   origin_ = hasOwnPoint() ? Origin::PointKeyed : Origin::Digits;
   use_ = Use::Open;
 }
 
-// In a number that the program wrote, a minus inside belongs to its exponent.
+// In a value that the program wrote, a minus inside belongs to the exponent.
 bool Entry::hasSign(const std::string& text) const {
   return text.starts_with('-') || (!isValue() && text.find('-') != std::string::npos);
 }
 
-// What was typed where it cannot stay.
+// Fixes a misplaced sign and misplaced separators.
 void Entry::repair() {
   const std::string text = box_.text();
   if (hasSign(text)) field_.repairSign();
@@ -133,7 +133,7 @@ std::string Entry::formatted(std::string text) {
   const auto point = text.find('.');
   if (point == std::string::npos) origin_ = Origin::Digits;
   if (origin_ == Origin::Digits) return formatStationary(text, places);
-  // The point that scaling has shown gives way to the one keyed behind it.
+  // A keyed point replaces the one that scaling has inserted.
   if (point > 0 && text.find('.', point + 2) != std::string::npos) text.erase(point, 1);
   return formatKeyed(text, places);
 }

@@ -11,71 +11,70 @@
 
 namespace engine {
 
-/// As many characters as an entry may be typed with, separators and point included.
+/// The most characters that can be typed into an entry, including separators and point.
 inline constexpr int kEntryLength = 19;
 
-/// Nothing, or a point alone.
+/// Whether an entry is empty or only a point.
 inline bool isBlank(std::string_view entry) {
   return entry.empty() || entry == ".";
 }
 
-/// The entry box: the number that it holds, how that came there, what may be typed behind it, and
-/// how it is shown.
+/// The entry box: its number, how that was entered, what may be typed next, and how it is
+/// formatted.
 class Entry {
  public:
   Entry(controls::TextBox& box, const Decimals& decimals, controls::Desktop& desktop)
       : box_(box), field_(box), decimals_(decimals), desktop_(desktop) {}
 
   std::string text() const { return box_.text(); }
-  /// What is typed next begins a new entry.
+  /// Whether the next character starts a new entry.
   bool isResult() const { return use_ != Use::Open; }
-  /// The tape shows it already.
+  /// Whether it is on the tape already.
   bool isPosted() const { return use_ == Use::Posted; }
 
   /// Empties the box for a new entry.
   void clear();
-  /// Shows a number that was not keyed digit by digit, with the caret behind it.
+  /// Shows a number that was not keyed digit by digit, with the caret at its end.
   void showValue(const std::string& text);
-  /// Shows a pasted number, which is written plainly.
+  /// Shows a pasted number, given in plain notation.
   void showPasted(const std::string& text);
-  /// Shows the total behind a line that was printed; the box is wide enough for it.
+  /// Shows the running total after a posting, and widens the box for a long one.
   void showTotal(double total);
-  /// What is typed next changes this entry, or begins a new one.
+  /// The next character changes this entry, or starts a new one.
   void keepOpen() { use_ = Use::Open; }
   void takeAsResult() { use_ = Use::Result; }
-  /// The next character begins a new entry; a posted one stays posted.
+  /// The next character starts a new entry; a posted one stays posted.
   void finish();
 
-  /// Puts a changed entry in shape for the key that takes it, and gives its text. What is no number
-  /// is left for that key to report.
+  /// Formats a changed entry for the key that uses it, and returns its text. If it is not a number,
+  /// that key reports it.
   std::string settle();
-  /// The number that the text of the entry represents; nothing, and the error reported, if it
-  /// represents none.
+  /// The number that the text represents; null, and the error is reported, if it is not a number.
   std::optional<Amount> amountIn(const std::string& text) const;
-  /// The same for a key that takes the entry: the minus in front of typed zeros waited for digits
-  /// that did not come, and goes.
+  /// The same for a key that posts the entry: a minus before zeros is dropped, since no more digits
+  /// follow.
   std::optional<Amount> take(std::string text);
-  /// Puts the entry in shape; one that is no number is reported.
+  /// Formats the entry; reports it if it is not a number.
   void format();
-  /// The same after an edit of the user's.
+  /// The same after an edit by the user.
   void tidy();
   void changeSign();
   void setFocus() { box_.setFocus(); }
   void moveCaretToEnd() { box_.moveCaretToEnd(); }
 
-  /// Whether the character may be typed. One that is typed behind a result empties the box first.
+  /// Whether the character may be typed. After a result, the box is emptied first.
   bool accepts(controls::KeyAscii key);
-  /// Before Backspace takes effect.
+  /// Call before Backspace takes effect.
   void stepOverSeparator() { field_.stepOverSeparator(); }
-  /// Puts the entry in shape, unless the key just moved the caret.
+  /// Formats the entry unless the key only moved the caret.
   void keyUp(controls::KeyCode key);
   void changed(controls::ChangedBy by);
 
  private:
-  /// How what the box holds came there. Stationary decimal scales digits, and neither a number with
-  /// a point of its own nor a value.
+  /// How the content was entered. Stationary decimal scales digits, but neither numbers with a
+  /// keyed point nor values.
   enum class Origin { Digits, PointKeyed, Value, ValueWithPoint };
-  /// What becomes of it: it is being keyed, the next character replaces it, or the tape has it too.
+  /// Whether it is being keyed, is replaced by the next character, or is also on the tape.
   enum class Use { Open, Result, Posted };
 
   bool isValue() const { return origin_ == Origin::Value || origin_ == Origin::ValueWithPoint; }
@@ -88,7 +87,7 @@ class Entry {
   bool fitsBehindImpliedPoint(const std::string& text, char digit) const;
   bool hasSign(const std::string& text) const;
   void repair();
-  /// Raises error 13 when the text cannot be put in shape; then it stays.
+  /// Raises error 13 if the text cannot be formatted, and leaves it unchanged.
   void reformat();
   std::string formatted(std::string text);
 

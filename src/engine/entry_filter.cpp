@@ -18,7 +18,7 @@ int charactersBehindPoint(const std::string& text) {
   return static_cast<int>(text.size() - text.find('.')) - 1;
 }
 
-// Zeros in front take no room: they are not part of the number.
+// Leading zeros do not count: they are not part of the number.
 int significantDigits(const std::u16string& text) {
   const auto isDigit = [](char16_t c) { return c >= u'0' && c <= u'9'; };
   const auto first = std::ranges::find_if(text, [](char16_t c) { return c >= u'1' && c <= u'9'; });
@@ -45,7 +45,7 @@ void Entry::takePoint() {
   origin_ = isValue() ? Origin::ValueWithPoint : Origin::PointKeyed;
 }
 
-// In stationary decimal the point that is shown is not one that was keyed.
+// In stationary decimal the visible point was not keyed.
 bool Entry::acceptsPoint(const std::string& text) const {
   return !hasPoint(text) || (decimals_.stationary() && origin_ == Origin::Digits);
 }

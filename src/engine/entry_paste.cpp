@@ -4,7 +4,7 @@
 
 namespace engine {
 
-// In a ledger of another country 12,50 is not 1,250.
+// Where the comma is the decimal sign, 12,50 does not mean 1,250.
 void EntryPaste::paste(const std::optional<std::string>& text) {
   const std::string pasted = controls::withoutLineEnd(text.value_or(""));
   if (common::hasOddCommas(pasted)) {
@@ -19,8 +19,8 @@ void EntryPaste::mousePaste(std::string& text) {
   mousePasteIsOdd_ = common::hasOddCommas(text);
 }
 
-// The separators that stood in the entry before are the program's own, wherever they stand now. A
-// box that the mouse has emptied had nothing pasted into it.
+// Separators that were in the entry before are the program's own, wherever they are now. An empty
+// box had nothing pasted into it.
 void EntryPaste::mouseUp(controls::MouseEdit edit) {
   std::string text = entry_.text();
   if (edit == controls::MouseEdit::Edited) entry_.tidy();
@@ -46,7 +46,7 @@ void EntryPaste::refuse() {
   entry_.clear();
 }
 
-// Decimals beyond the places set are cut off, not rounded.
+// Extra decimals are cut off, not rounded.
 std::string EntryPaste::withPlaces(std::string text) const {
   const auto point = text.find('.');
   if (decimals_.floating() || point == std::string::npos) return text;

@@ -7,18 +7,18 @@
 
 namespace engine {
 
-/// What is pasted into the entry box: it must be a number, and is shown as one.
+/// Pasting into the entry box: the text must be a number, and is formatted as one.
 class EntryPaste {
  public:
   EntryPaste(Entry& entry, const Decimals& decimals, controls::Desktop& desktop)
       : entry_(entry), decimals_(decimals), desktop_(desktop) {}
 
-  /// The clipboard's text in the place of the whole entry.
+  /// Replaces the whole entry by the clipboard's text.
   void paste(const std::optional<std::string>& text);
-  /// The mouse pastes the text where the caret is: judges it by itself.
+  /// The context menu is about to insert the text at the caret: checks its commas.
   void mousePaste(std::string& text);
-  /// What the mouse has pasted must be a number, with what stood there; any other edit of its own
-  /// is as one by keyboard.
+  /// After a paste by the context menu the whole entry must be a number; any other edit counts as
+  /// one by keyboard.
   void mouseUp(controls::MouseEdit edit);
 
  private:

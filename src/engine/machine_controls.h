@@ -4,8 +4,8 @@
 
 namespace engine {
 
-/// What the adding machine works on: the boxes, keys and menu items that the layout of its window
-/// gives these names.
+/// The boxes, keys and menu items that the adding machine works on, found in its window by these
+/// names.
 struct MachineControls {
   explicit MachineControls(const controls::Window& window);
 

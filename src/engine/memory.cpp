@@ -24,7 +24,8 @@ void Memory::store() {
   entry_.setFocus();
 }
 
-// An entry of 0 is not kept; one written out, such as 0.00, is. Behind a -0 digits may still come.
+// An entry of 0 is not stored; one with decimals, such as 0.00, is. After -0 more digits may
+// follow.
 void Memory::keep(double base) {
   const std::string text = entry_.settle();
   if (text.empty() || text == "0" || text == "-0") return;

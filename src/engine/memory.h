@@ -5,16 +5,16 @@
 
 namespace engine {
 
-/// The memory and its light. Its keys neither print nor change the total.
+/// The memory and its indicator. The memory keys neither print nor change the total.
 class Memory {
  public:
   Memory(Entry& entry, controls::Button& light, controls::Desktop& desktop)
       : entry_(entry), light_(light), desktop_(desktop) {}
 
-  /// Adds the entry, or takes it in the place of what was stored.
+  /// Adds the entry to the memory, or replaces the memory by it.
   void add();
   void store();
-  /// Puts what is stored into the entry box, as if it had been typed.
+  /// Puts the memory into the entry box, as if it had been typed.
   void recall();
   void clear();
 

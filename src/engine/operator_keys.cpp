@@ -20,7 +20,7 @@ void AddingMachine::divide() {
   startProduct(Operator::Divide);
 }
 
-// False when the key was refused: then nothing is posted.
+// False if the amount was refused; nothing is posted then.
 bool AddingMachine::postWith(Operator key) {
   if (!processEntry(key)) return false;
   entry_.format();
@@ -33,7 +33,7 @@ void AddingMachine::startProduct(Operator key) {
     postWith(key);
     return;
   }
-  // The entry, or the total just taken, becomes the first operand.
+  // The entry, or the running total just shown, becomes the first operand.
   const bool isOperand = entry_.isPosted() && calculation_.isOpen();
   if (!isOperand && !postWith(Operator::Plus)) return;
   mode_ = Mode::Product;
@@ -60,7 +60,7 @@ bool AddingMachine::takeEntry(const std::string& text, Operator key) {
   return amount && applyOperator(*amount, key);
 }
 
-// False when the amount was refused; then the calculation is unchanged.
+// False if the amount was refused; the calculation is unchanged then.
 bool AddingMachine::applyOperator(const Amount& amount, Operator key) {
   const double largest = decimals_.floating() ? kLargestFloatingTotal : kLargestFixedTotal;
   const Outcome outcome = addMode() ? calculation_.add(amount, key, largest)
@@ -77,7 +77,7 @@ bool AddingMachine::applyOperator(const Amount& amount, Operator key) {
   return true;
 }
 
-// Writes the line on the tape and moves the running total into the entry box.
+// Prints the line and shows the running total in the entry box.
 void AddingMachine::postToTape(const TapeLine& line) {
   const bool closes = line.mark == Mark::Total;
   lockModes(!closes);
@@ -89,7 +89,7 @@ void AddingMachine::postToTape(const TapeLine& line) {
   entry_.setFocus();
 }
 
-// That is logged, and the calculation begins again.
+// Prints the reason and starts a new calculation.
 void AddingMachine::postFailure(const Failure& failure) {
   tape_.printFailure(failure.reason);
   clearCalculation();
@@ -97,7 +97,7 @@ void AddingMachine::postFailure(const Failure& failure) {
   entry_.setFocus();
 }
 
-// The modes may be changed between two calculations.
+// The modes can be changed only between two calculations.
 void AddingMachine::lockModes(bool locked) {
   mnuWinModes_.setEnabled(!locked);
   mnuWinModes_.setCaption(locked ? "Modes (equals to enable)" : "Modes");

@@ -4,8 +4,7 @@
 
 namespace engine {
 
-/// "Error:", the number of a run-time error and its description, in a message box; of an error that
-/// a fresh window would not have, the advice to open one.
+/// Shows the number and the description of a run-time error in a message box.
 void showError(controls::Desktop& desktop, int number);
 
 }  // namespace engine

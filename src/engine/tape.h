@@ -11,18 +11,18 @@
 
 namespace engine {
 
-/// The paper tape. Nothing is written on it while it is switched off.
+/// The paper tape. Nothing is printed while it is switched off.
 class Tape {
  public:
   Tape(controls::TextBox& paper, const controls::MenuItem& padded,
        const controls::ToggleButton& off, const Decimals& decimals)
       : paper_(paper), padded_(padded), off_(off), decimals_(decimals) {}
 
-  /// A total is followed by a separating line.
+  /// Prints a line; a total is followed by a separating line.
   void print(const TapeLine& line);
-  /// Why a calculation could not go on.
+  /// Prints why a calculation could not continue.
   void printFailure(std::string_view reason);
-  /// Only the header stays.
+  /// Clears the tape except for its header.
   void clear();
 
  private:

@@ -6,7 +6,7 @@
 
 namespace engine {
 
-/// What follows an amount on the tape: what was done with it.
+/// The mark after an amount on the tape: what was done with it.
 enum class Mark { First, Plus, Minus, Times, Divide, Root, Total };
 
 /// An amount on the tape, and its mark.
@@ -15,11 +15,11 @@ struct TapeLine {
   Mark mark = Mark::First;
 };
 
-/// How the amounts on the tape are written.
+/// How amounts are printed.
 struct TapeForm {
   /// Right-aligned in lines of kTapeWidth characters.
   bool padded = false;
-  /// As they were keyed; else with `places` decimals.
+  /// As keyed; otherwise with `places` decimals.
   bool floating = false;
   int places = 0;
 };
@@ -30,10 +30,10 @@ inline constexpr int kTapeWidth = 26;
 /// The tape's first line.
 std::string tapeHeader(bool padded);
 
-/// A line as it is on the tape; in a padded tape a longer one is written as it is.
+/// The text of a line. On a padded tape, a line that is too long is not padded.
 std::string tapeText(const TapeLine& line, const TapeForm& form);
 
-/// The line behind a total.
+/// The line after a total.
 std::string tapeSeparator(bool padded);
 
 }  // namespace engine

@@ -8,7 +8,7 @@ void AddingMachine::equals() {
   entry_.setFocus();
 }
 
-// The total key. False when it was refused or had nothing to do.
+// False if it was refused or had nothing to do.
 bool AddingMachine::total() {
   const std::string text = entry_.settle();
   if (isBlank(text)) {
@@ -39,16 +39,15 @@ void AddingMachine::askForPlusOrMinus(const std::string& text) {
   desktop_.beep();
 }
 
-// The zero that a total or C&Total leaves in the box was not typed, though it has not been posted
-// either.
+// The zero that a total or C&Total leaves in the box was neither typed nor posted.
 bool AddingMachine::entryIsTyped(const std::string& text) const {
   if (!entry_.isResult()) return true;
   const bool nothingTaken = !calculation_.isOpen();
   return !entry_.isPosted() && !(nothingTaken && common::tryNumber(text) == 0.0);
 }
 
-// Only in calculator mode: in add mode plus or minus has taken the entry, or was asked for. Behind
-// a failure there is nothing to print: it has printed a zero total already.
+// Only in calculator mode: in add mode, plus or minus has posted the entry. After a failure there
+// is nothing to print: it has printed a zero total already.
 bool AddingMachine::printEntryAndTotal(const std::string& text) {
   if (!takeEntry(text, Operator::Equals)) return false;
   if (calculation_.lastMark() == Mark::Total) return true;
@@ -56,7 +55,7 @@ bool AddingMachine::printEntryAndTotal(const std::string& text) {
   return printShownAsTotal();
 }
 
-// Right behind a total that is a zero.
+// After a total, prints a zero.
 bool AddingMachine::printShown() {
   if (calculation_.lastMark() == Mark::Total) {
     entry_.showValue("0");

@@ -25,12 +25,12 @@ int Desktop::showMessage(const controls::UserMessage& box) {
 
 controls::Clipping Desktop::clipboardText() {
   using Found = controls::Clipping::Found;
-  if (clipboardHeld) return {Found::HeldByAnother, ""};
+  if (clipboardLocked) return {Found::Locked, ""};
   return clipboard ? controls::Clipping{Found::Text, *clipboard} : controls::Clipping{};
 }
 
 bool Desktop::setClipboardText(std::string_view text) {
-  if (clipboardHeld) return false;
+  if (clipboardLocked) return false;
   clipboard = text;
   return true;
 }

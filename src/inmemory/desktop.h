@@ -10,16 +10,16 @@
 
 namespace inmemory {
 
-/// The screen's size, which a maximized window takes.
+/// The screen, which a maximized window fills.
 inline constexpr controls::Rect kScreen = {0, 0, 19200, 15360};
 
-/// A message box as it was shown, and its answer.
+/// A message box that was shown, and its answer.
 struct ShownBox {
   controls::UserMessage box;
   int answer;
 };
 
-/// A program as it was started; `keys` were sent to its window ("^V" is Ctrl+V), or it was given a
+/// A program that was started; `keys` were sent to its window ("^V" is Ctrl+V), or it was given a
 /// text to open.
 struct Launch {
   std::string program;
@@ -27,8 +27,8 @@ struct Launch {
   std::optional<std::string> text;
 };
 
-/// The desktop without a screen: it records what the program asks for, and answers as it was told
-/// to.
+/// A desktop without a screen: it records what the program asks for, and gives the prepared
+/// answers.
 class Desktop : public controls::Desktop {
  public:
   std::unique_ptr<controls::Window> createWindow(const controls::WindowLayout& layout) override;
@@ -55,20 +55,20 @@ class Desktop : public controls::Desktop {
   std::vector<Launch> launches;
   std::vector<controls::HelpRequest> helpRequests;
 
-  /// The answers of the next question boxes, and what the next colour pickers give.
+  /// The answers of the next question boxes, and the results of the next color pickers.
   std::deque<int> answers;
   std::deque<std::optional<std::uint32_t>> colors;
 
   std::string name = "Tallyrex";
   std::optional<std::string> clipboard;
-  /// Another program holds the clipboard, so that nothing can be had from it or put there.
-  bool clipboardHeld = false;
+  /// Another program keeps the clipboard locked.
+  bool clipboardLocked = false;
   std::set<std::string> programs = {"NotePad.exe"};
   std::set<std::string> files;
   std::map<std::pair<std::string, std::string>, std::string> registry;
   std::map<std::string, Settings> stores;
 
-  /// What happens while the next dialogs stand open, one for each, before they are answered.
+  /// Tasks to run while the next dialogs are open, one each, before they are answered.
   std::deque<std::function<void()>> meanwhile;
 
  private:

@@ -7,7 +7,7 @@
 
 namespace inmemory {
 
-/// Settings that last as long as the object.
+/// Settings that are kept in the object.
 class Settings : public common::SettingsStore {
  public:
   using Section = std::map<std::string, std::string, std::less<>>;

@@ -6,17 +6,17 @@
 
 namespace inmemory {
 
-/// The safe of a program without a disk: what it stores outlives the program, not the test.
+/// A safe without a disk: what it stores outlives the program, but not the test.
 class TapeSafe : public controls::TapeSafe {
  public:
   void forgetLostTapes() override { lost_.clear(); }
 
-  /// The run has ended, and nobody has cleared its tape.
+  /// The run has ended without clearing its tape, as in a crash.
   void lose() {
     if (!stored_.empty()) lost_.push_back(stored_);
     clear();
   }
-  /// The bytes that are stored of the tape of this run.
+  /// The number of bytes stored for this run.
   std::size_t size() const { return stored_.size(); }
 
  protected:

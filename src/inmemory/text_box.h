@@ -13,7 +13,7 @@ class TextBox : public controls::TextBox {
  public:
   using controls::TextBox::TextBox;
 
-  /// A key without a character: one that edits, or moves the caret.
+  /// A key without a character, which edits or moves the caret.
   void pressKey(const controls::KeyStroke& stroke);
 
  protected:
@@ -34,7 +34,7 @@ class TextBox : public controls::TextBox {
   int otherLine(int place, bool up) const;
 
   std::u16string text_;
-  // The selection is between the two; the caret is the end that the arrows move.
+  // The selection is between the two; the arrows move the caret.
   int anchor_ = 0;
   int caret_ = 0;
 };

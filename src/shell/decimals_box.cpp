@@ -73,13 +73,13 @@ void DecimalsBox::keyPress(controls::KeyAscii& key) {
   controls_.desktop.beep();
 }
 
-// One keystroke sets the places, and typing goes on in the entry box. The release of Tab, and of
-// the Shift held with it, belongs to the stroke that led here.
+// One keystroke sets the number of decimals and returns to the entry box. The release of Tab or
+// Shift belongs to the keystroke that moved the focus here.
 void DecimalsBox::keyUp(controls::KeyCode key) {
   if (key != controls::kKeyTab && key != kKeyShift) controls_.txtEntry.setFocus();
 }
 
-// A cell copied from a spreadsheet ends in a line end.
+// A cell copied from a spreadsheet ends in a line break.
 void DecimalsBox::paste(std::string& text) {
   text = controls::firstLineOf(text);
   if (accepts(text)) return;

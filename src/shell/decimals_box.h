@@ -8,8 +8,8 @@
 
 namespace shell {
 
-/// The box that holds the number of places, and the toggles for floating and stationary decimal
-/// with their items in the menu.
+/// The box with the number of decimals, and the toggles for floating and stationary decimal with
+/// their menu items.
 class DecimalsBox {
  public:
   DecimalsBox(const controls::Window& window, const engine::MachineControls& controls);
@@ -20,11 +20,11 @@ class DecimalsBox {
   /// The items of the menu.
   void toggleFloating();
   void toggleStationary();
-  /// What the toggles do, however they were pressed.
+  /// The toggles have changed, by whatever means.
   void floatingChanged();
   void stationaryChanged();
 
-  /// The box takes one digit; anything else beeps.
+  /// The box accepts one digit and beeps for anything else.
   void keyPress(controls::KeyAscii& key);
   void keyUp(controls::KeyCode key);
   void paste(std::string& text);

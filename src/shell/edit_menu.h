@@ -5,13 +5,13 @@
 
 namespace shell {
 
-/// Cut, Copy and Paste, in the text box that has the focus. Where there is none they do nothing.
+/// Cut, Copy and Paste in the focused text box. They do nothing without one.
 class EditMenu {
  public:
   EditMenu(const engine::MachineControls& controls, engine::Entry& entry)
       : controls_(controls), entry_(entry) {}
 
-  /// What is left of the entry is put in shape.
+  /// Also formats the rest of an entry.
   void cut();
   void copy();
   void paste();

@@ -37,7 +37,7 @@ void frmCalc::resize() {
   if (stage_ == Stage::Loaded) restoreSettings();
 }
 
-// Each size that is restored raises a resize of its own.
+// Restoring the size raises more resizes.
 void frmCalc::restoreSettings() {
   stage_ = Stage::Restored;
   place_.restore();

@@ -24,14 +24,14 @@ class frmCalc {
   frmCalc& operator=(const frmCalc&) = delete;
 
   controls::Window& window() { return *window_; }
-  /// It has been shown, and is not closing.
+  /// Whether it has been shown and is not closing.
   bool isUp() const { return stage_ == Stage::Up; }
   void show() { window_->show(); }
-  /// Saves the settings, unless the window is minimized, and goes.
+  /// Saves the settings, unless the window is minimized, and closes it.
   void unload();
 
-  /// Appends lines to the tape for another window; the entry box has the focus afterwards when the
-  /// user comes back here.
+  /// Appends lines to the tape for another window. The entry box gets the focus when the user
+  /// returns to this window.
   void printLines(const std::string& lines);
 
  private:

@@ -14,8 +14,8 @@ using controls::Twips;
 
 namespace {
 
-// The keys stand in five rows. The clear and the memory keys have columns of their own at the left;
-// the digits are where the fingers know them, the operators at their right.
+// Five rows of keys. The clear and memory keys form columns at the left; the digits are arranged as
+// on a keypad, with the operators at their right.
 constexpr Twips kKeyHeight = 450;
 constexpr Twips kRowPitch = 480;
 constexpr Twips kFirstRow = 420;
@@ -48,17 +48,16 @@ constexpr FontLayout kWordFont = {"MS Sans Serif", 83, false};
 constexpr FontLayout kToggleFont = {"MS Sans Serif", 68, false};
 constexpr FontLayout kDigitFont = {"MS Sans Serif", 120, false};
 constexpr FontLayout kOperatorFont = {"MS Sans Serif", 135, false};
-// High and narrow: the entry box is as wide as the micro window, and holds 19 characters at every
-// resolution, where a character's width is rounded to pixels.
+// High and narrow: the entry box is as wide as the micro window, and shows 19 characters at every
+// resolution, even where the width of a character is rounded up.
 constexpr FontLayout kEntryFont = {"Courier New", 120, true, 100};
-// The 26 characters of a padded line go into the window as it first opens.
+// The 26 characters of a padded line fit into the window as it first opens.
 constexpr FontLayout kTapeFont = {"Terminal", 72, false};
 
 constexpr ControlKind kButton = ControlKind::Button;
 constexpr ControlKind kToggle = ControlKind::ToggleButton;
 
-// The order of the Tab key: the entry box, the keys row by row, the toggles, the tape, the decimals
-// box.
+// In tab order: the entry box, the keys row by row, the toggles, the tape, the decimals box.
 constexpr auto kControls = std::to_array<ControlLayout>({
     {.kind = ControlKind::TextBox,
      .name = "txtEntry",

@@ -8,7 +8,7 @@ namespace shell {
 inline constexpr controls::Twips kMicroWidth = 2280;
 inline constexpr controls::Twips kMicroHeight = 1095;
 
-/// The main window as it is designed: its controls, their places in twips, and its menu.
+/// The design of the main window: its controls, their positions in twips, and its menu.
 const controls::WindowLayout& frmCalcLayout();
 
 }  // namespace shell

@@ -8,14 +8,14 @@
 
 namespace shell {
 
-/// The stored settings of the main window. What is not stored, or is stored as no number, is the
-/// fallback.
+/// The stored settings of the main window. A setting that is missing, or is not a number, has the
+/// fallback value.
 class Settings {
  public:
   explicit Settings(common::SettingsStore& store) : store_(store) {}
 
   double number(std::string_view key, double fallback) const;
-  /// Within what a window can have.
+  /// Limited to what a window can have.
   controls::Twips twips(std::string_view key, controls::Twips fallback) const;
   bool truth(std::string_view key) const;
   std::string text(std::string_view key, std::string_view fallback) const;

@@ -11,7 +11,7 @@ using controls::Twips;
 
 namespace {
 
-// Below these sizes of the window the tape stops shrinking.
+// In a window smaller than this, the tape stops shrinking.
 constexpr Twips kSmallestHeight = 1080;
 constexpr Twips kSmallestWidth = 5835;
 constexpr Twips kSmallestTapeHeight = 350;

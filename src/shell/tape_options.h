@@ -7,7 +7,7 @@
 
 namespace shell {
 
-/// How the tape is written, and its place in the window.
+/// How the tape is printed, and its size in the window.
 class TapeOptions {
  public:
   TapeOptions(const controls::Window& window, const engine::MachineControls& controls);
@@ -15,12 +15,12 @@ class TapeOptions {
   void restore(const Settings& settings);
   void save(Settings& settings) const;
 
-  /// The tape fills what the window has beside the keys.
+  /// Makes the tape fill the space beside the keys.
   void fitToWindow();
   void togglePadding();
-  /// As the mark in the menu says; a tape without figures gets the header that belongs to it.
+  /// Applies the check mark of the menu item; a tape without amounts gets the matching header.
   void applyPadding();
-  /// The menu's item, and what the toggle does however it was pressed.
+  /// The menu item; offChanged runs whenever the toggle has changed.
   void toggleOff() { controls_.chkTapeOff.setValue(1 - controls_.chkTapeOff.value()); }
   void offChanged();
 
@@ -28,7 +28,7 @@ class TapeOptions {
   const controls::Window& window_;
   const engine::MachineControls& controls_;
   controls::MenuItem& mnuWinTapeOff_;
-  /// The tape when its padding was changed last.
+  /// The tape when its padding was last changed.
   std::string tapeAtChange_;
 };
 

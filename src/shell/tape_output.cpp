@@ -2,7 +2,7 @@
 
 namespace shell {
 
-// Shows the selection once, and returns the user to typing.
+// Moving the focus to the tape and back shows its selection.
 bool TapeOutput::copyWholeTape() {
   controls_.txtTape.selectAll();
   const bool copied = controls_.desktop.setClipboardText(controls_.txtTape.selectedText());

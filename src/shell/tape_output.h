@@ -6,15 +6,15 @@
 
 namespace shell {
 
-/// The tape goes to the clipboard and from there to Notepad, which saves and prints it.
+/// Copies the tape to the clipboard and from there to Notepad, which can save and print it.
 class TapeOutput {
  public:
   explicit TapeOutput(const engine::MachineControls& controls) : controls_(controls) {}
 
   void copyTape();
-  /// Beeps while Notepad is still awaited.
+  /// Beeps while an earlier call still waits for Notepad.
   void openInNotepad();
-  /// Save and Print of the File menu ask whether Notepad is wanted.
+  /// Save and Print of the File menu ask before they use Notepad.
   void save();
   void print();
 
@@ -23,7 +23,7 @@ class TapeOutput {
   void offerNotepad(const std::string& title);
 
   const engine::MachineControls& controls_;
-  // Notepad is awaited, while the window goes on working.
+  // Waiting for Notepad; the window stays usable meanwhile.
   bool handingOver_ = false;
 };
 

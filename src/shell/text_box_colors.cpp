@@ -28,7 +28,7 @@ void TextBoxColors::choose() {
       {.text = "On the next screen choose the color you would like as the background color "
                "for the text boxes. Choose Cancel on the next screen to quit."});
   const auto color = controls_.desktop.chooseColor(program_.focusColor().value());
-  // 0, black, counts as no colour chosen.
+  // Black (0) counts as no color chosen.
   if (!color || *color == 0) return;
   program_.setFocusColor(Color::rgb(*color));
   settings_.writeNumber("glngTextBackColor", *color);

@@ -6,16 +6,16 @@
 
 namespace shell {
 
-/// The text box that has the focus has a colour of its own, which the user chooses.
+/// The color of the focused text box, which the user can choose.
 class TextBoxColors {
  public:
   TextBoxColors(const engine::MachineControls& controls, Program& program, Settings& settings)
       : controls_(controls), program_(program), settings_(settings) {}
 
   void restore();
-  /// The box gets the focus, which the entry box has shown until then.
+  /// The box has got the focus; the entry box loses the color.
   void mark(controls::TextBox& box);
-  /// Lets the user choose the colour.
+  /// Lets the user choose the color.
   void choose();
 
  private:

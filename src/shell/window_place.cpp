@@ -70,7 +70,7 @@ void WindowPlace::toggleOnTop() {
   applyOnTop();
 }
 
-// The system's call moves and shrinks the window, so the old geometry is put back at once.
+// The system's call moves and shrinks the window, so the bounds are restored at once.
 void WindowPlace::applyOnTop() {
   const Rect before = window_.bounds();
   window_.setOnTop(mnuWinAlwaysOnTop_.checked());

@@ -7,19 +7,19 @@
 
 namespace shell {
 
-/// The place and size of the main window: as it was left, as the micro window, on top.
+/// The position and size of the main window, the micro window, and Always on Top.
 class WindowPlace {
  public:
   WindowPlace(controls::Window& window, Settings& settings);
 
-  /// As the window was left; each size that changes raises a resize.
+  /// Restores the last position and size; each change of the size raises Resize.
   void restore();
   void save();
 
-  /// Between the micro window and the full one. Each is kept where it was left.
+  /// Switches between the micro window and the full one, each with its own position and size.
   void switchLayout();
   void toggleOnTop();
-  /// As the mark in the menu says.
+  /// Applies the check mark of the menu item.
   void applyOnTop();
   bool onTop() const { return mnuWinAlwaysOnTop_.checked(); }
 

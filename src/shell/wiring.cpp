@@ -42,7 +42,7 @@ void frmCalc::wireKeys() {
   controls_.chkTapeOff.onClick = [this] { tapeOptions_.offChanged(); };
 }
 
-// A key of the keypad types into the entry box, as the keyboard does.
+// A key of the keypad types into the entry box, like the keyboard.
 void frmCalc::typeKey(controls::KeyCode key, controls::KeyAscii character) {
   controls_.txtEntry.setFocus();
   window_->sendKey(key, character);
@@ -55,7 +55,7 @@ void frmCalc::wireFigures() {
   }
 }
 
-// A figure typed while a key or a toggle has the focus.
+// A digit or point typed while a key or a toggle has the focus goes to the entry box.
 void frmCalc::typeIntoEntry(controls::KeyAscii& key) {
   if (key != '.' && (key < '0' || key > '9')) return;
   controls_.txtEntry.setFocus();

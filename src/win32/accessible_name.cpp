@@ -13,7 +13,7 @@ namespace win32 {
 
 namespace {
 
-// CLSID_AccPropServices and IID_IAccPropServices, which some compilers have in a library only.
+// CLSID_AccPropServices and IID_IAccPropServices, which some compilers only have in a library.
 constexpr CLSID kAccPropServices = {
     0xb5f8350b, 0x0548, 0x48b1, {0xa6, 0xee, 0x88, 0xbd, 0x00, 0xb4, 0xa5, 0xe7}};
 constexpr IID kIAccPropServices = {
@@ -21,8 +21,8 @@ constexpr IID kIAccPropServices = {
 
 }  // namespace
 
-// Where names cannot be announced, a screen reader takes the label in front of the box, also a
-// hidden one. That goes with the window.
+// Where names cannot be announced, a screen reader uses the label before the box, even a hidden
+// one. The label is destroyed with the window.
 AccessibleName::AccessibleName(HWND box, std::string_view name) : box_(box), name_(wide(name)) {
   if (name_.empty()) return;
   const HWND label = CreateWindowExW(0, L"STATIC", name_.c_str(), WS_CHILD, 0, 0, 0, 0,

@@ -7,13 +7,13 @@
 
 namespace win32 {
 
-/// The name by which screen readers know a box that has no visible label in front of it.
+/// The name for screen readers of a box without a visible label.
 class AccessibleName {
  public:
-  /// An empty name leaves it to the label.
+  /// With an empty name, screen readers use the label.
   AccessibleName(HWND box, std::string_view name);
 
-  /// A screen reader asks for the box for the first time.
+  /// To be called when a screen reader asks for the box.
   void announce();
 
  private:

@@ -50,13 +50,12 @@ OptionButton::OptionButton(Window& frame, const controls::ControlLayout& layout)
 }
 
 void OptionButton::takeNotification(UINT code) {
-  // The second of two quick clicks, which is a click like another where the first chose something
-  // else.
+  // The second click of a double click counts like any other.
   const bool isClick = code == BN_CLICKED || code == BN_DOUBLECLICKED;
   if (isClick && !takingFocus_) click();
 }
 
-// A native option button reports a click when it just gets the focus.
+// A native radio button also reports a click when it gets the focus.
 std::optional<LRESULT> OptionButton::take(const Message& message) {
   if (message.id != WM_SETFOCUS) return Native::take(message);
   const bool before = std::exchange(takingFocus_, true);

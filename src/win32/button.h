@@ -6,7 +6,7 @@
 
 namespace win32 {
 
-/// A button that is pressed.
+/// A push button.
 class Button : public Native<controls::Button> {
  public:
   Button(Window& frame, const controls::ControlLayout& layout);
@@ -39,7 +39,7 @@ class ToggleButton : public Native<controls::ToggleButton> {
   KeyFace face_;
 };
 
-/// One choice of several.
+/// A radio button.
 class OptionButton : public Native<controls::OptionButton> {
  public:
   OptionButton(Window& frame, const controls::ControlLayout& layout);

@@ -9,7 +9,7 @@
 namespace win32 {
 namespace {
 
-/// The clipboard while it is open. Another program may hold it for a moment.
+/// Opens the clipboard, which another program may lock for a moment.
 class Clipboard {
  public:
   Clipboard() {
@@ -29,7 +29,7 @@ class Clipboard {
   bool isOpen() const { return open_; }
 
  private:
-  // A clipboard that is emptied without an owner takes nothing afterwards.
+  // Without an owner, a clipboard accepts nothing after it has been emptied.
   static HWND owner() {
     static const HWND window = CreateWindowExW(0, L"STATIC", nullptr, 0, 0, 0, 0, 0, HWND_MESSAGE,
                                                nullptr, GetModuleHandleW(nullptr), nullptr);
@@ -43,12 +43,12 @@ class Clipboard {
 
 controls::Clipping readClipboard() {
   const Clipboard clipboard;
-  if (!clipboard.isOpen()) return {controls::Clipping::Found::HeldByAnother, ""};
+  if (!clipboard.isOpen()) return {controls::Clipping::Found::Locked, ""};
   const HANDLE data = GetClipboardData(CF_UNICODETEXT);
   if (!data) return {};
   const auto* text = static_cast<const wchar_t*>(GlobalLock(data));
   if (!text) return {};
-  // A program may have left out the terminating zero.
+  // The terminating zero may be missing.
   std::wstring copy(text, wcsnlen(text, GlobalSize(data) / sizeof(wchar_t)));
   GlobalUnlock(data);
   return {controls::Clipping::Found::Text, narrow(copy)};
@@ -64,7 +64,7 @@ bool writeClipboard(std::string_view text) {
   if (void* place = GlobalLock(data)) {
     std::memcpy(place, units.c_str(), bytes);
     GlobalUnlock(data);
-    // What the clipboard has taken belongs to it.
+    // The clipboard now owns the memory.
     if (SetClipboardData(CF_UNICODETEXT, data)) return true;
   }
   GlobalFree(data);

@@ -7,7 +7,7 @@
 namespace win32 {
 
 controls::Clipping readClipboard();
-/// False when another program does not let go of the clipboard.
+/// False when another program keeps the clipboard locked.
 bool writeClipboard(std::string_view text);
 
 }  // namespace win32

@@ -22,7 +22,7 @@ COLORREF textColorOn(Color background) {
 }
 
 int brightnessOf(COLORREF color) {
-  // The eye sees green as brightest, then red.
+  // Weighted by the sensitivity of the eye.
   return (299 * GetRValue(color) + 587 * GetGValue(color) + 114 * GetBValue(color)) / 1000;
 }
 

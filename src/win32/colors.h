@@ -6,14 +6,14 @@
 
 namespace win32 {
 
-/// The colour as the system has it now.
+/// The present system value of a color.
 COLORREF colorOf(controls::Color color);
-/// A text colour that can be read on it.
+/// A text color that is readable on the background.
 COLORREF textColorOn(controls::Color background);
 
-/// How bright the eye sees it, from 0 to 255.
+/// The perceived brightness, from 0 to 255.
 int brightnessOf(COLORREF color);
-/// Whether light text is read better on it than dark.
+/// Whether light text is more readable on it than dark text.
 bool isDark(COLORREF color);
 
 }  // namespace win32

@@ -12,10 +12,10 @@ namespace win32 {
 
 class Window;
 
-/// The user's desktop.
+/// The desktop on Windows.
 class Desktop : public controls::Desktop {
  public:
-  /// Keeps the settings under the user's own registry root, in the folder of keys that is named.
+  /// Stores the settings in this key under the user's registry root.
   explicit Desktop(const std::string& settingsRoot = "Software\\Tallyrex");
 
   std::unique_ptr<controls::Window> createWindow(const controls::WindowLayout& layout) override;
@@ -43,7 +43,7 @@ class Desktop : public controls::Desktop {
  private:
   RegistrySettings settings_;
   TapeSafe tapeSafe_;
-  // The colours that the user has mixed in the colour picker; white where none is.
+  // The user's custom colors in the color picker, initially white.
   std::array<std::uint32_t, 16> mixedColors_;
 };
 

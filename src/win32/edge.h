@@ -6,11 +6,11 @@
 
 namespace win32 {
 
-/// Tells the user that the program cannot go on after the present exception, and ends it.
+/// Shows the message of the current exception and ends the program.
 [[noreturn]] void endAfterException() noexcept;
 
-/// What the system calls runs as one event of the program. No exception gets through to the system,
-/// which may swallow it and go on with half a handler done.
+/// Runs a call from the system as one event of the program. No exception reaches the system, which
+/// might swallow it and continue with a half-finished handler.
 template <class Body>
 LRESULT atTheEdge(controls::EventLoop& events, const Body& body) noexcept {
   try {

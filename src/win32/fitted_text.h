@@ -6,8 +6,8 @@
 
 namespace win32 {
 
-/// The font of a layout where the text is no wider in it than `room` pixels; else the same with
-/// letters so much narrower, down to a pixel each, that it is.
+/// The font of a layout, with letters made narrower, down to one pixel, until the text is at most
+/// `room` pixels wide.
 HFONT fittedFont(Fonts& fonts, const Scale& scale, const controls::FontLayout& layout,
                  const std::wstring& text, int room);
 

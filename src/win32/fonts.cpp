@@ -19,17 +19,16 @@ struct Face {
   BYTE pitchAndFamily;
 };
 
-// A layout names classic faces. Two of them are bitmaps, made for one resolution and blurred or too
-// small at any other, so that a scalable face of the same proportions takes their place: the first
-// that the system has. The pitch lets one that has none of them choose a face whose figures still
-// stand in columns.
+// Layouts use classic face names. Two of these are bitmap fonts, blurred or too small at other
+// resolutions, so the first available scalable face of similar proportions is used. If the system
+// has none of them, the pitch still makes it choose a face whose digits line up.
 constexpr std::array kFaces = {
     Face{"MS Sans Serif", {L"Tahoma", L"Segoe UI", L"Arial"}, VARIABLE_PITCH | FF_SWISS},
     Face{"Terminal", {L"Lucida Console", L"Consolas", L"Courier New"}, FIXED_PITCH | FF_MODERN},
     Face{"Courier New", {L"Courier New", L"Consolas", L"Lucida Console"}, FIXED_PITCH | FF_MODERN},
 };
 
-// Faces known for their symbols.
+// Faces that have the symbols of the keys.
 constexpr std::array<std::string_view, 4> kSymbolFaces = {"Segoe UI Symbol", "Segoe UI", "Arial",
                                                           "Courier New"};
 
@@ -47,7 +46,7 @@ bool canShow(HFONT font, const std::wstring& text) {
   return std::find(glyphs.begin(), glyphs.end(), 0xFFFF) == glyphs.end();
 }
 
-// A system without the face has made the font from another.
+// Without the face, the system substitutes another.
 bool isMadeFrom(HFONT font, const wchar_t* face) {
   const Ruler ruler(font);
   wchar_t name[LF_FACESIZE] = L"";

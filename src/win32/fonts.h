@@ -11,14 +11,14 @@
 
 namespace win32 {
 
-/// The fonts of a window at the resolution of its monitor.
+/// The fonts of a window at a resolution.
 class Fonts {
  public:
   explicit Fonts(const Scale& scale) : scale_(scale) {}
 
-  /// The font that a layout names; it lives as long as this object.
+  /// The font of a layout, owned by this object.
   HFONT font(const controls::FontLayout& layout) { return font(layout, layout.name); }
-  /// The same where it can show the text, else the first other face that can.
+  /// The same if it has the characters of the text, otherwise the first other face that has.
   HFONT fontShowing(const controls::FontLayout& layout, const std::wstring& text);
 
  private:

@@ -13,7 +13,7 @@
 namespace win32 {
 namespace {
 
-// Newer systems keep a small program of the viewer's name that only says that there is none.
+// Newer systems have a small program of this name that only says that the viewer is missing.
 bool hasViewer() {
   constexpr DWORD kSmallestViewer = 100'000;
   for (const auto folder : {GetSystemWindowsDirectoryW, GetSystemDirectoryW}) {
@@ -32,8 +32,7 @@ bool isAscii(std::wstring_view text) {
   return std::ranges::all_of(text, [](wchar_t unit) { return unit < 0x80; });
 }
 
-// The viewer takes a path byte by byte, and finds none with other letters in it. Their folders have
-// short names as well, where the disk keeps such.
+// The viewer only supports ASCII paths. Other folders may have a short name.
 std::string pathForViewer(const std::string& file) {
   std::wstring path = wide(file);
   if (!isAscii(path)) {
@@ -45,7 +44,7 @@ std::string pathForViewer(const std::string& file) {
   return isAscii(path) ? narrow(path) : std::string();
 }
 
-// The viewer blocks its caller over a file that is not there.
+// The viewer would block its caller if the file did not exist.
 bool openInViewer(const controls::HelpRequest& request, HWND owner) {
   if (!isFile(wide(request.file)) || !hasViewer()) return false;
   const std::string path = pathForViewer(request.file);
@@ -53,7 +52,7 @@ bool openInViewer(const controls::HelpRequest& request, HWND owner) {
                                    static_cast<ULONG_PTR>(request.data));
 }
 
-// The page lies beside the file of the viewer, or in the help folder.
+// The page is in the folder of the viewer's file, or in its help folder.
 std::wstring findPage(const std::wstring& file, const std::wstring& name) {
   const std::wstring folder = folderOf(file);
   for (const std::wstring& page : {folder + L"\\" + name, folder + L"\\help\\" + name})
@@ -65,7 +64,7 @@ bool openInBrowser(const controls::HelpRequest& request) {
   const std::wstring file = wide(request.file);
   const std::wstring name = baseNameOf(file);
   std::wstring page;
-  // The system drops what follows the "#" of a page's address: a topic has a page of its own.
+  // The system drops the "#" part of an address, so each topic has its own page.
   if (request.data != 0)
     page = findPage(file, name + L"-" + std::to_wstring(request.data) + L".html");
   if (page.empty()) page = findPage(file, name + L".html");
@@ -74,7 +73,7 @@ bool openInBrowser(const controls::HelpRequest& request) {
   if (!shellExecute) return false;
   const auto result = reinterpret_cast<INT_PTR>(
       shellExecute(nullptr, L"open", page.c_str(), nullptr, nullptr, SW_SHOWNORMAL));
-  // The numbers up to it are errors.
+  // Numbers up to this are errors.
   constexpr INT_PTR kLastError = 32;
   return result > kLastError;
 }

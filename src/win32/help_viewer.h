@@ -8,11 +8,10 @@
 
 namespace win32 {
 
-/// Opens the help in the viewer that the system has for it, or as a page in the browser. False when
-/// neither can be had.
+/// Opens the help in the system's help viewer, or as a page in the browser. False if neither works.
 bool openHelp(const controls::HelpRequest& request, HWND owner);
 
-/// What the user is told when it cannot be opened.
+/// The message for help that cannot be opened.
 std::string whereHelpIs(const std::string& file);
 
 }  // namespace win32

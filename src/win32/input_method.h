@@ -4,10 +4,10 @@
 
 namespace win32 {
 
-/// No text is composed in the window: what is typed there are the keys of a machine.
+/// Turns off text composition in the window, where keys are those of a machine.
 void switchOffComposition(HWND window);
 
-/// Text is composed at this place of the window, in this font.
+/// Places the composition of text in the window, with this font.
 void composeAt(HWND window, POINT place, HFONT font);
 
 }  // namespace win32

@@ -3,7 +3,7 @@
 namespace win32 {
 namespace {
 
-// One byte far behind everything that is ever written: a lock there keeps nobody from reading.
+// One byte far beyond everything that is ever written, so that the lock does not prevent reading.
 bool lock(HANDLE file) {
   OVERLAPPED place = {};
   place.OffsetHigh = 0x40000000;
@@ -12,7 +12,7 @@ bool lock(HANDLE file) {
 
 }  // namespace
 
-// Written through to the disk: a power cut takes nothing that has been written.
+// Written through to the disk, so that it survives a power failure.
 KeptFile KeptFile::open(const std::wstring& path, DWORD disposition) {
   KeptFile file;
   const HANDLE handle =

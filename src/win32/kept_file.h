@@ -7,22 +7,22 @@
 
 namespace win32 {
 
-/// A file that a run of the program writes, and leaves behind when it is ended by force. A lock,
-/// which ends with the run however that ends, tells other runs that it is still written.
+/// A file that a run of the program writes, and leaves behind if it is killed. A lock, which ends
+/// with the run in any case, tells other runs that it is in use.
 class KeptFile {
  public:
   /// No file.
   KeptFile() = default;
-  /// A new file; none where it cannot be made, or is there.
+  /// Creates a file; none if it cannot be created or exists.
   static KeptFile make(const std::wstring& path);
-  /// A file that another run has left behind; none where that run goes on, or the file cannot be
-  /// had.
+  /// Opens a file that another run has left behind; none if that run is still active, or the file
+  /// cannot be opened.
   static KeptFile claim(const std::wstring& path);
 
   explicit operator bool() const { return handle_ != nullptr; }
-  /// Writes behind what is there. False when the disk does not take all of it.
+  /// Appends to the file. False if not everything could be written.
   bool append(std::string_view bytes);
-  /// All that is there, from the start; less where the disk does not give it.
+  /// Reads the whole file, or as much of it as possible.
   std::string read() const;
   /// Deletes the file.
   void remove();

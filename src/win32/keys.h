@@ -8,7 +8,7 @@ inline bool isDown(int key) {
   return GetKeyState(key) < 0;
 }
 
-/// The keys that do nothing by themselves: pressing one is not a keystroke for the program.
+/// Keys that do nothing by themselves; the program ignores them.
 constexpr bool isModifier(WPARAM key) {
   switch (key) {
     case VK_SHIFT:

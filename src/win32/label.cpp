@@ -16,7 +16,7 @@ std::optional<LRESULT> Label::take(const Message& message) {
   return 0;
 }
 
-// Behind the controls that it surrounds; what it does not draw itself, the window does.
+// Behind the controls that it surrounds; the window draws its background.
 Frame::Frame(Window& frame, const controls::ControlLayout& layout)
     : Native(frame, layout, {L"BUTTON", BS_GROUPBOX, WS_EX_TRANSPARENT}) {
   SetWindowPos(handle(), HWND_BOTTOM, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);

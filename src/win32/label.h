@@ -4,7 +4,7 @@
 
 namespace win32 {
 
-/// A text beside a control, or across a window.
+/// A text in a window.
 class Label : public Native<controls::Control> {
  public:
   Label(Window& frame, const controls::ControlLayout& layout);
@@ -13,7 +13,7 @@ class Label : public Native<controls::Control> {
   std::optional<LRESULT> take(const Message& message) override;
 };
 
-/// A line around controls that belong together, with their title.
+/// A border with a title around related controls.
 class Frame : public Native<controls::Control> {
  public:
   Frame(Window& frame, const controls::ControlLayout& layout);

@@ -4,9 +4,8 @@
 
 namespace win32 {
 
-/// A function of one of the system's libraries that only a dialog needs: the library is loaded when
-/// the function is first asked for, and does not delay every start. Nothing when the system lacks
-/// it.
+/// A function of a system library that is loaded only when needed, so that it does not delay the
+/// start. Null if the system lacks it.
 template <class Function>
 Function lateFunction(const wchar_t* library, const char* name) {
   const HMODULE module = LoadLibraryExW(library, nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);

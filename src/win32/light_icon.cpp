@@ -8,7 +8,7 @@
 namespace win32 {
 namespace {
 
-// The parts of an icon, which the system hands out as copies.
+// Copies of the bitmaps of an icon.
 struct Parts {
   explicit Parts(HICON icon) { GetIconInfo(icon, &info); }
   ~Parts() {
@@ -33,7 +33,7 @@ BITMAPINFO formatOf(HBITMAP bitmap) {
   return format;
 }
 
-// The lines of a picture; what they enclose is brighter, and stays.
+// Brighter pixels are the areas between the lines, and stay unchanged.
 constexpr int kBrightestLine = 80;
 
 std::uint32_t lighter(std::uint32_t pixel) {

@@ -6,8 +6,8 @@
 
 namespace win32 {
 
-/// The same picture for a dark background: its dark lines are light. Without a picture of 32 bits
-/// it is a copy.
+/// A version of an icon for dark backgrounds, with light lines instead of dark ones. An icon
+/// without 32-bit colors is copied unchanged.
 OwnedIcon lightened(HICON icon);
 
 }  // namespace win32

@@ -5,14 +5,14 @@
 #include "win32/edge.h"
 #include "win32/message_loop.h"
 
-// Libraries and programs are never taken from the current folder.
+// Never loads libraries or programs from the current folder.
 static void trustSystemFoldersOnly() {
   SetDllDirectoryW(L"");
   SetDefaultDllDirectories(LOAD_LIBRARY_SEARCH_SYSTEM32);
   SetEnvironmentVariableW(L"NoDefaultCurrentDirectoryInExePath", L"1");
 }
 
-// How the one who starts the program wants its window: a shortcut may say so.
+// The initial state of the window as requested by the starter, such as a shortcut.
 static controls::WindowState wantedState(int show) {
   switch (show) {
     case SW_SHOWMAXIMIZED:

@@ -20,7 +20,7 @@ MenuItem::MenuItem(Window& window, HMENU bar, const controls::MenuItemLayout& la
   }
 }
 
-// An item becomes a menu with the first item that it holds.
+// An item becomes a menu when its first subitem is added.
 HMENU MenuItem::popup() {
   if (!popup_) {
     popup_ = CreatePopupMenu();
@@ -55,7 +55,7 @@ void MenuItem::showState() {
   showOnBar();
 }
 
-// What stands in the bar of a window is drawn again only on request.
+// The menu bar is redrawn only on request.
 void MenuItem::showOnBar() {
   if (!parent() && GetMenu(frame_.handle())) DrawMenuBar(frame_.handle());
 }

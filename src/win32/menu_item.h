@@ -11,13 +11,12 @@ namespace win32 {
 
 class Window;
 
-/// An item of a window's menu bar, or of a menu that drops down from it. The menus are the
-/// window's.
+/// An item of a window's menu bar, or of a drop-down menu. The window owns the menus.
 class MenuItem : public controls::MenuItem {
  public:
   MenuItem(Window& window, HMENU bar, const controls::MenuItemLayout& layout, MenuItem* parent);
 
-  /// The place among the window's items that a command stands for.
+  /// The index of the window's item with a command number.
   static std::size_t indexOf(WORD command) { return command - std::size_t{kFirstCommand}; }
 
  protected:
@@ -34,7 +33,7 @@ class MenuItem : public controls::MenuItem {
   void showOnBar();
 
   Window& frame_;
-  // The menu that it is in, its place there, and the menu that it opens.
+  // The menu that contains it, its index there, and the menu that it opens.
   HMENU menu_;
   UINT place_;
   HMENU popup_ = nullptr;

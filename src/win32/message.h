@@ -6,19 +6,20 @@
 
 namespace win32 {
 
-/// A message as the system sends it to a window.
+/// A window message.
 struct Message {
   UINT id;
   WPARAM wParam;
   LPARAM lParam;
 };
 
-/// What ends a window. The program ends its windows itself: from outside it is a mistake.
+/// Whether the message destroys a window. Only the program itself may do that.
 constexpr bool endsWindow(const Message& message) {
   return message.id == WM_DESTROY || message.id == WM_NCDESTROY;
 }
 
-/// Whether lParam is the address of a `Kind`, and not one that another program made up.
+/// Whether lParam is the address of readable memory with the size of a `Kind`, and not made up by
+/// another program.
 template <class Kind>
 bool pointsTo(const Message& message) {
   MEMORY_BASIC_INFORMATION memory = {};
@@ -31,7 +32,7 @@ bool pointsTo(const Message& message) {
          end - static_cast<std::uintptr_t>(message.lParam) >= sizeof(Kind);
 }
 
-/// The place of the mouse in a mouse message, in pixels of the window.
+/// The position of the mouse in a mouse message, in pixels of the window.
 inline POINT mousePlace(const Message& message) {
   return {static_cast<short>(LOWORD(message.lParam)), static_cast<short>(HIWORD(message.lParam))};
 }

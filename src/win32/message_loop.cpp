@@ -10,22 +10,22 @@
 namespace win32 {
 namespace {
 
-// The key stroke that the window in front may take before a control sees it.
+// The keystroke that the window in front may handle before its control.
 std::optional<controls::KeyStroke> strokeOf(const MSG& message) {
   if (message.message != WM_KEYDOWN && message.message != WM_SYSCHAR) return {};
   controls::KeyStroke stroke{.key = static_cast<controls::KeyCode>(message.wParam),
                              .shift = isDown(VK_SHIFT),
                              .control = isDown(VK_CONTROL),
                              .alt = isDown(VK_MENU)};
-  // Alt with a letter comes as the character, which is right for every keyboard layout, and means
-  // Alt also when that is up again by now.
+  // Alt with a letter arrives as a character, which is right for every keyboard layout, and counts
+  // as Alt even if that has been released already.
   if (message.message == WM_SYSCHAR) {
     stroke.alt = true;
     const auto upper = CharUpperW(reinterpret_cast<wchar_t*>(message.wParam));
     stroke.key = static_cast<controls::KeyCode>(reinterpret_cast<UINT_PTR>(upper));
     return stroke;
   }
-  // Ctrl with Alt types characters that have no key of their own.
+  // Ctrl+Alt types characters.
   if (stroke.alt || isModifier(message.wParam)) return {};
   return stroke;
 }
@@ -38,7 +38,7 @@ bool isTaken(Desktop& desktop, const MSG& message) {
          window->takeKey(*stroke);
 }
 
-// The decimal key types a point whatever the keyboard's layout makes of it.
+// The decimal key types a point in every keyboard layout.
 void translate(const MSG& message) {
   if (message.message == WM_KEYDOWN && message.wParam == VK_DECIMAL) {
     PostMessageW(message.hwnd, WM_CHAR, L'.', message.lParam);
@@ -47,7 +47,7 @@ void translate(const MSG& message) {
   }
 }
 
-// A key goes to the control with the focus also when its window is disabled.
+// The system sends keys to the focused control even if its window is disabled.
 bool isKeptBack(const MSG& message) {
   return message.message >= WM_KEYFIRST && message.message <= WM_KEYLAST &&
          !IsWindowEnabled(GetAncestor(message.hwnd, GA_ROOT));
@@ -63,9 +63,8 @@ void dispatch(Desktop& desktop, const MSG& message) {
 
 }  // namespace
 
-// A message that the system cannot hand over, as one with a text of a million characters from
-// another program, is no end of the program: it stays in front of the others until its sender gives
-// it up.
+// A message that the system cannot deliver, such as a text of a million characters from another
+// program, must not end the program. It blocks the others until its sender gives up.
 void runMessageLoop(Desktop& desktop) {
   constexpr DWORD kPause = 10;
   MSG message;

@@ -66,11 +66,11 @@ std::optional<LRESULT> NativeControl::take(const Message& message) {
       return result;
     }
     case WM_NCPAINT:
-      // The system asks and computes much to draw no edge at all.
+      // Without an edge there is nothing to draw, but the system would spend time on it.
       if (!(GetWindowLongW(handle_, GWL_EXSTYLE) & WS_EX_CLIENTEDGE)) return 0;
       return {};
     case WM_KEYDOWN:
-      // The native control does not act on keys by itself: their characters do.
+      // The native control does not act on keys by itself: their characters are handled.
       return 0;
     case WM_CHAR:
       takeCharacter(static_cast<wchar_t>(message.wParam));

@@ -13,7 +13,7 @@
 
 namespace win32 {
 
-/// What the system needs to know to make a control.
+/// What is needed to create a native control.
 struct NativeStyle {
   const wchar_t* windowClass;
   DWORD style = 0;
@@ -22,7 +22,7 @@ struct NativeStyle {
   std::wstring text = {};
 };
 
-/// The system's side of a control: its window handle, which lives as long as the control does.
+/// The native side of a control; owns its window handle.
 class NativeControl {
  public:
   NativeControl(Window& frame, controls::Control& control, const NativeStyle& style);
@@ -30,34 +30,34 @@ class NativeControl {
   NativeControl(const NativeControl&) = delete;
   NativeControl& operator=(const NativeControl&) = delete;
 
-  /// That of a control of a win32::Window.
+  /// The native side of a control of a win32::Window.
   static NativeControl& of(controls::Control& control);
-  /// The control of a window that has this handle; nothing for a handle of anything else.
+  /// The control of a window with this handle; null without one.
   static NativeControl* find(const Window& frame, HWND handle);
 
   HWND handle() const { return handle_; }
   controls::Control& control() const { return control_; }
 
-  /// The control tells its frame that something was done to it: BN_CLICKED and the like.
+  /// A notification from the native control, such as BN_CLICKED.
   virtual void takeNotification(UINT) {}
-  /// A button is about to be painted.
+  /// A button is about to be painted (NM_CUSTOMDRAW).
   virtual LRESULT customDraw(NMCUSTOMDRAW&) { return CDRF_DODEFAULT; }
-  /// The brush for its background; text colours go into the device context.
+  /// Returns the brush for its background, and sets the text colors of the device context.
   HBRUSH prepareColors(HDC context);
   /// The resolution or the system's colours have changed.
   virtual void refresh();
-  /// The window has another size.
+  /// The size of the window has changed.
   virtual void frameSized() {}
 
  protected:
-  /// What the control does with a message; nothing leaves it to the native control.
+  /// Handles a message; null passes it on to the native control.
   virtual std::optional<LRESULT> take(const Message& message);
   LRESULT passOn(const Message& message);
   LRESULT send(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const {
     return SendMessageW(handle_, message, wParam, lParam);
   }
 
-  /// What the system holds as the text of the control.
+  /// The window text of the native control.
   virtual std::wstring windowText() const;
   virtual HFONT font();
   Window& frame() const { return frame_; }
@@ -75,14 +75,14 @@ class NativeControl {
   Window& frame_;
   controls::Control& control_;
   HWND handle_ = nullptr;
-  // What the system made of it, which does what the program leaves to it.
+  // The original window procedure.
   WNDPROC native_ = nullptr;
   OwnedBrush background_;
-  // The first half of a character that comes in two.
+  // The first half of a surrogate pair.
   wchar_t highSurrogate_ = 0;
 };
 
-/// A control of the program, shown by a native one.
+/// A control shown by a native control.
 template <class Kind>
 class Native : public Kind, public NativeControl {
  public:

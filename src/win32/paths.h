@@ -7,15 +7,15 @@ namespace win32 {
 /// The full path of the running program.
 std::wstring programPath();
 
-/// The folder that a file is in; only a drive's root ends in a backslash.
+/// The folder of a file. Only a drive's root ends in a backslash.
 std::wstring folderOf(const std::wstring& path);
-/// The name of a file without its folder and extension.
+/// The name of a file without folder and extension.
 std::wstring baseNameOf(const std::wstring& path);
 
-/// A variable of the program's environment; empty without one.
+/// An environment variable; empty if it does not exist.
 std::wstring environmentText(const wchar_t* name);
 
-/// Whether there is such a file; a folder is none.
+/// Whether the file exists and is not a folder.
 bool isFile(const std::wstring& path);
 
 }  // namespace win32

@@ -7,7 +7,7 @@
 namespace win32 {
 namespace {
 
-/// The folders that a program of the system may be in.
+/// The folders to search for a system program.
 std::wstring searchPath() {
   std::wstring path;
   for (const auto folder : {GetSystemDirectoryW, GetSystemWindowsDirectoryW}) {
@@ -18,7 +18,7 @@ std::wstring searchPath() {
   return path + environmentText(L"PATH");
 }
 
-/// The full path of a program; empty when it is not found.
+/// The full path of a program; empty if it is not found.
 std::wstring findProgram(const std::wstring& name) {
   if (name.find_first_of(L"\\/:") != std::wstring::npos) return name;
   const std::wstring folders = searchPath();
@@ -29,7 +29,7 @@ std::wstring findProgram(const std::wstring& name) {
   return found;
 }
 
-// For a tape to be looked at: named by its time, since one that is looked at already stays.
+// A file name with the time, so that no earlier file is overwritten.
 std::wstring newTextFile() {
   wchar_t folder[MAX_PATH + 1] = {};
   GetTempPathW(static_cast<DWORD>(std::size(folder)), folder);
@@ -53,7 +53,7 @@ OwnedHandle startProgram(const std::string& program, const std::wstring& file) {
   PROCESS_INFORMATION started = {};
   std::wstring commandLine = L"\"" + path + L"\"";
   if (!file.empty()) commandLine += L" \"" + file + L"\"";
-  // Whatever process shows the window: the one that is started may be a mere starter.
+  // The started process may only be a launcher of the one that shows the window.
   AllowSetForegroundWindow(ASFW_ANY);
   if (!CreateProcessW(path.c_str(), commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr,
                       nullptr, &startup, &started))
@@ -67,7 +67,7 @@ bool openText(const std::string& program, std::string_view text) {
   const HANDLE file = CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS,
                                   FILE_ATTRIBUTE_NORMAL, nullptr);
   if (file == INVALID_HANDLE_VALUE) return false;
-  // The mark in front tells every editor that the text is UTF-8.
+  // The byte order mark tells every editor that the text is UTF-8.
   const std::string bytes = "\xEF\xBB\xBF" + std::string(text);
   DWORD written = 0;
   const BOOL whole = WriteFile(OwnedHandle(file).get(), bytes.data(),

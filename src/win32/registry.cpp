@@ -9,13 +9,13 @@
 namespace win32 {
 namespace {
 
-// The longest text that is read, with the zero behind it. No path of a program is longer.
+// The longest text that is read, including the zero. No program path is longer.
 constexpr std::size_t kLongestText = 1024;
 
 constexpr REGSAM kReadAndWrite = KEY_READ | KEY_WRITE | KEY_CREATE_LINK;
 static_assert(kReadAndWrite == 0x2003F);
 
-// Full access first; a user who is no administrator is given the value to read.
+// Full access first; a user who is not an administrator can only read.
 OwnedKey openMachineKey(const std::wstring& path) {
   HKEY key = nullptr;
   for (const REGSAM access : {kReadAndWrite, REGSAM{KEY_READ}}) {
@@ -42,9 +42,9 @@ std::optional<std::wstring> readText(HKEY key, const std::wstring& name) {
   for (DWORD size = 0; status == ERROR_MORE_DATA;) {
     text.resize(size / sizeof(wchar_t) + 1);
     size = static_cast<DWORD>(text.size() * sizeof(wchar_t));
-    // One of the expandable kind is expanded, and of this kind then.
+    // This also matches an expandable value, which is expanded.
     status = RegGetValueW(key, nullptr, name.c_str(), RRF_RT_REG_SZ, nullptr, text.data(), &size);
-    // The size that is said to be needed counts the text as it is stored, not as it is expanded.
+    // The size returned is that of the stored text, not of the expanded one.
     if (status == ERROR_MORE_DATA)
       size = std::max(size, static_cast<DWORD>(2 * text.size() * sizeof(wchar_t)));
   }
@@ -61,7 +61,7 @@ std::optional<std::string> readMachineValue(std::string_view key, std::string_vi
     if (text->size() >= kLongestText) return {};
     return narrow(*text);
   }
-  // Read as a signed number, as the hexadecimal text of its bytes would be.
+  // Read as a signed number.
   if (const auto number = readDoubleWord(open.get(), wideName))
     return std::to_string(static_cast<std::int32_t>(*number));
   return {};

@@ -21,7 +21,7 @@ std::optional<std::string> RegistrySettings::read(std::string_view section,
   return narrow(*text);
 }
 
-// A setting that cannot be kept is lost with the session, as the user's registry has decided.
+// Failures are ignored: the setting is then lost when the program ends.
 void RegistrySettings::write(std::string_view section, std::string_view key,
                              std::string_view text) {
   HKEY open = nullptr;

@@ -6,10 +6,11 @@
 
 namespace win32 {
 
-/// Settings in the user's own part of the registry: one key a section, one text value a setting.
+/// Settings in the user's part of the registry: a key for each section, a text value for each
+/// setting.
 class RegistrySettings : public common::SettingsStore {
  public:
-  /// `root` is the key that holds the sections, under the user's root.
+  /// `root` is the key that contains the sections, under the user's root.
   explicit RegistrySettings(std::string root) : root_(std::move(root)) {}
 
   std::optional<std::string> read(std::string_view section, std::string_view key) const override;

@@ -4,8 +4,8 @@
 
 namespace win32 {
 
-/// A device context with a font, to measure with what is written on the screen. It is one of the
-/// memory: that of the screen has to be asked for, each time.
+/// A device context with a font, to measure text. A memory context, since one of the screen would
+/// have to be requested each time.
 class Ruler {
  public:
   explicit Ruler(HFONT font) : before_(SelectObject(context_, font)) {}

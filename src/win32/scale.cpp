@@ -3,7 +3,7 @@
 namespace win32 {
 namespace {
 
-// Windows before 10 knows nothing of a monitor's own resolution.
+// Windows before 10 has no resolution per monitor.
 template <class Function>
 Function* userFunction(const char* name) {
   const FARPROC found = GetProcAddress(GetModuleHandleW(L"user32.dll"), name);

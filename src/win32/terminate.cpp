@@ -2,10 +2,9 @@
 
 #include "win32/edge.h"
 
-// What ends the program when an exception is caught by nobody.
+// Ends the program when an exception is not caught.
 #ifdef __GLIBCXX__
-// In the place of the library's own, which brings a decoder of names and the printing of text
-// along.
+// Replaces the library's own handler, which would link a name demangler and text output.
 void __gnu_cxx::__verbose_terminate_handler() {
   win32::endAfterException();
 }

@@ -5,7 +5,7 @@
 
 namespace win32 {
 
-/// The program's UTF-8 as the system's UTF-16, and back.
+/// UTF-8 of the program to UTF-16 of the system, and back.
 std::wstring wide(std::string_view text);
 std::string narrow(std::wstring_view text);
 

@@ -45,7 +45,7 @@ std::optional<LRESULT> TextBox::take(const Message& message) {
     case EM_SETLIMITTEXT:
     case EM_SETWORDBREAKPROC:
     case EM_SETHANDLE:
-      // What the box can hold, and how it works, is not for others to say.
+      // Other programs must not change the box.
       return 0;
     default:
       return Native::take(message);
@@ -67,7 +67,7 @@ std::string TextBox::loadPart(int start, int length) const {
       wideText().substr(static_cast<std::size_t>(start), static_cast<std::size_t>(length)));
 }
 
-// The answer of EM_GETSEL itself has room for 16 bits only.
+// The return value of EM_GETSEL is limited to 16 bits.
 TextBox::Selection TextBox::loadSelection() const {
   DWORD start = 0;
   DWORD end = 0;

@@ -7,7 +7,7 @@
 
 namespace win32 {
 
-/// A text of one line.
+/// A single-line text box.
 class TextBox : public Native<controls::TextBox> {
  public:
   TextBox(Window& frame, const controls::ControlLayout& layout);
@@ -17,7 +17,7 @@ class TextBox : public Native<controls::TextBox> {
 
  protected:
   std::optional<LRESULT> take(const Message& message) override;
-  // The window text of a box is what is typed into it.
+  // The window text of a box is its text, not a caption.
   void showCaption() override {}
   void showBounds() override;
   void showEnabled() override;
@@ -45,11 +45,11 @@ class TextBox : public Native<controls::TextBox> {
 
   TextInput input_;
   AccessibleName name_;
-  // What is within its edge, from the corner of the box.
+  // The area within its edge, relative to the corner of the box.
   RECT inside_ = {};
-  // How much of its right side is outside the window.
+  // How many pixels of its right side are outside the window.
   LONG cutOff_ = 0;
-  // The text that is being changed is the program's doing.
+  // Whether the program itself is changing the text.
   bool storing_ = false;
 };
 

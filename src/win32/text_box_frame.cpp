@@ -4,8 +4,8 @@
 #include "win32/ruler.h"
 #include "win32/text_box.h"
 
-// A native box of one line writes it at the upper edge, however high the box is. So the line alone
-// is the box's client area, and what is left above and below belongs to its frame.
+// A native single-line box writes its line at the top, however high the box is. So its client area
+// is made as high as the line, and the rest above and below belongs to its frame.
 namespace win32 {
 namespace {
 
@@ -34,7 +34,7 @@ std::optional<LRESULT> TextBox::takeFrame(const Message& message) {
   }
 }
 
-// Figures stand on the line of writing and have nothing below it: it is they that are centred.
+// Centers the digits, which have no descenders.
 LRESULT TextBox::placeLine(const Message& message) {
   if (!message.lParam) return 0;
   auto& area = *reinterpret_cast<RECT*>(message.lParam);
@@ -52,8 +52,8 @@ LRESULT TextBox::placeLine(const Message& message) {
   return result;
 }
 
-// The line's place depends on the font and on the window, of which the system does not tell the
-// frame.
+// The line's position depends on the font and the window, whose changes the frame does not notice
+// by itself.
 void TextBox::putLine() {
   cutOff_ = cutOff();
   SetWindowPos(handle(), nullptr, 0, 0, 0, 0,
@@ -77,7 +77,7 @@ void TextBox::repaint() const {
   RedrawWindow(handle(), nullptr, nullptr, RDW_INVALIDATE | RDW_FRAME);
 }
 
-// A box that lies outside altogether is cut off nowhere.
+// A box entirely outside the window is not cut off.
 LONG TextBox::cutOff() const {
   const RECT box = frame().scale().toPixels(bounds());
   RECT window;
@@ -85,7 +85,7 @@ LONG TextBox::cutOff() const {
   return box.left < window.right ? std::max(0L, box.right - window.right) : 0;
 }
 
-// Neither the sign nor the last digit of a number is ever out of sight.
+// Keeps the sign and the last digit of a number visible.
 void TextBox::fitText() {
   constexpr int kCaret = 1;
   RECT line;

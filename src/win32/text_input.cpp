@@ -55,10 +55,10 @@ std::optional<LRESULT> TextInput::take(const Message& message) {
     case WM_IME_COMPOSITION:
     case WM_IME_ENDCOMPOSITION:
     case WM_IME_CHAR:
-      // The native control would put a composed text in by itself. So it comes as characters.
+      // The native control would insert a composed text itself; this way it arrives as characters.
       return DefWindowProcW(native_.handle(), message.id, message.wParam, message.lParam);
     case WM_SYSCHAR:
-      // Alt+Backspace, which the native control takes for its own undo.
+      // Alt+Backspace, for which the native control would use its own undo.
       if (message.wParam != VK_BACK) return {};
       box_.undo();
       return 0;
@@ -72,20 +72,19 @@ std::optional<LRESULT> TextInput::takeKey(WPARAM key) {
                                    .shift = isDown(VK_SHIFT),
                                    .control = isDown(VK_CONTROL)};
   if (box_.takeEditKey(stroke)) return 0;
-  // The keys that only move the caret are the native control's.
+  // Keys that only move the caret go to the native control.
   const bool moves = (key >= VK_PRIOR && key <= VK_DOWN);
   return moves ? std::nullopt : std::optional<LRESULT>(0);
 }
 
 std::optional<LRESULT> TextInput::takeMouse(const Message& message) {
   if (message.id == WM_LBUTTONDOWN || message.id == WM_RBUTTONDOWN) {
-    // The focus comes first, so that the caret ends where the user has clicked whatever a handler
-    // does to it when the focus arrives.
+    // The focus moves first, so that the click places the caret even if a focus handler moves it.
     SetFocus(native_.handle());
     box_.mouseDown();
     return message.id == WM_RBUTTONDOWN ? std::optional<LRESULT>(0) : std::nullopt;
   }
-  // From the keyboard, the menu is to be understood as from the mouse.
+  // A menu opened by the keyboard counts like one opened by the mouse.
   if (message.id == WM_CONTEXTMENU) box_.mouseDown();
   showMenu(menuPlace(message));
   return 0;
@@ -110,7 +109,7 @@ void TextInput::showMenu(POINT screenPlace) {
   box_.closeMenu(static_cast<BoxCommand>(chosen));
 }
 
-// No text is an empty one.
+// A null text is empty.
 LRESULT TextInput::takeText(const Message& message) {
   const auto* text = reinterpret_cast<const wchar_t*>(message.lParam);
   if (message.id == WM_SETTEXT) box_.selectAll();

@@ -9,13 +9,13 @@ namespace win32 {
 
 class NativeControl;
 
-/// What a user does to a text by other means than characters: editing keys, the context menu, the
-/// mouse, and a screen reader on his behalf. All of it takes the way of the control's own edits.
+/// Translates edits other than typed characters, by editing keys, context menu, mouse, screen
+/// readers and other programs, into the control's own edits.
 class TextInput {
  public:
   TextInput(controls::TextBox& box, const NativeControl& native) : box_(box), native_(native) {}
 
-  /// Nothing when the message is to go on to the native control.
+  /// Null passes the message on to the native control.
   std::optional<LRESULT> take(const Message& message);
 
  private:

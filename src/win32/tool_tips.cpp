@@ -19,8 +19,7 @@ ToolTips::~ToolTips() {
   if (handle_) DestroyWindow(handle_);
 }
 
-// It has no owner: a window that owns another cannot be kept on top of other programs' windows by
-// every system.
+// Without an owner: not every system can keep a window that owns another one on top.
 void ToolTips::create() {
   handle_ = CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_ALWAYSTIP, 0, 0,
                             0, 0, nullptr, nullptr, GetModuleHandleW(nullptr), nullptr);

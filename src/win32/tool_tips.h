@@ -17,7 +17,7 @@ class ToolTips {
   ToolTips& operator=(const ToolTips&) = delete;
 
   void add(HWND control, const std::string& text);
-  /// To be told of each message of a control: the mouse over it brings up its tip.
+  /// Must receive each message of a control, to show its tip under the mouse.
   void relay(HWND control, const Message& message) const;
 
  private:

@@ -4,7 +4,7 @@
 
 namespace win32 {
 
-/// From the version information of the program that runs; empty where it has none.
+/// From the version information of the running program; empty without it.
 controls::VersionNotes readVersionNotes();
 
 }  // namespace win32

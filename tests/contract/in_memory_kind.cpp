@@ -22,10 +22,10 @@ class InMemoryKind : public Kind {
     });
   }
 
-  void whileClipboardIsHeld(const std::function<void()>& body) override {
-    desktop_.clipboardHeld = true;
+  void whileClipboardIsLocked(const std::function<void()>& body) override {
+    desktop_.clipboardLocked = true;
     body();
-    desktop_.clipboardHeld = false;
+    desktop_.clipboardLocked = false;
   }
 
   void settle() override {}

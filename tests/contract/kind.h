@@ -20,7 +20,7 @@ class Kind {
   /// A mouse click on a control of a window that is shown.
   virtual void click(controls::Control& control) = 0;
   /// Does something while another program has the clipboard open.
-  virtual void whileClipboardIsHeld(const std::function<void()>& body) = 0;
+  virtual void whileClipboardIsLocked(const std::function<void()>& body) = 0;
   /// Waits until the system has done what it was asked for.
   virtual void settle() = 0;
 };

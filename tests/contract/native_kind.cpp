@@ -107,7 +107,7 @@ class NativeKind : public Kind {
                  driver::mouseButton(driver::MouseButton::Left, true, 0)});
   }
 
-  void whileClipboardIsHeld(const std::function<void()>& body) override {
+  void whileClipboardIsLocked(const std::function<void()>& body) override {
     const ClipboardHolder holder;
     body();
   }

@@ -270,10 +270,10 @@ TEST(NativeServices, SettingsHoldLongTexts) {
 TEST_F(NativeWindow, LockedClipboardIsReportedSoon) {
   using Found = controls::Clipping::Found;
   ASSERT_TRUE(win32::writeClipboard("kept \xE2\x88\x9A"));
-  kind_->whileClipboardIsHeld([] {
+  kind_->whileClipboardIsLocked([] {
     const ULONGLONG start = GetTickCount64();
     EXPECT_FALSE(win32::writeClipboard("other"));
-    EXPECT_EQ(win32::readClipboard().found, Found::HeldByAnother);
+    EXPECT_EQ(win32::readClipboard().found, Found::Locked);
     EXPECT_LT(GetTickCount64() - start, 2000u);
   });
   EXPECT_EQ(win32::readClipboard(), (controls::Clipping{Found::Text, "kept \xE2\x88\x9A"}));

@@ -64,7 +64,7 @@ TEST_P(TextBoxContract, LockedClipboardChangesNothing) {
   box_.select(1, 2);
   box_.onPasteCommand = [this](const std::optional<std::string>&) { note("pasted"); };
   takeLog();
-  kind_->whileClipboardIsHeld([this] {
+  kind_->whileClipboardIsLocked([this] {
     box_.paste();
     box_.closeMenu(controls::BoxCommand::Paste);
     EXPECT_FALSE(box_.cut());

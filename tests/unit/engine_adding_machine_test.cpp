@@ -35,7 +35,7 @@ TEST(EntryPaste, LockedClipboardBeeps) {
   controls::TextBox& entry = window->textBox("txtEntry");
   entry.setText("12");
   desktop.clipboard = "7";
-  desktop.clipboardHeld = true;
+  desktop.clipboardLocked = true;
   entry.paste();
   entry.closeMenu(controls::BoxCommand::Paste);
   EXPECT_EQ(entry.text(), "12");
