@@ -14,7 +14,7 @@ using controls::Twips;
 namespace {
 
 // At the left, a column of five labeled fields, with the answer below like a sum. At the right, the
-// options, and below them the four picture buttons.
+// options, and below them the four picture buttons; the last is not always visible.
 constexpr Twips kMargin = 180;
 constexpr Twips kLabelWidth = 2040;
 constexpr Twips kFieldColumn = 2310;
@@ -161,6 +161,7 @@ constexpr auto kControls = std::to_array<ControlLayout>({
      .place = {kMargin, 3780, kColumnWidth, 930},
      .tabIndex = 16,
      .font = kAnswerFont,
+     .spoken = true,
      .alignment = Alignment::Right},
 
     {.kind = kOption,
@@ -213,7 +214,7 @@ constexpr auto kControls = std::to_array<ControlLayout>({
     {.kind = kButton,
      .name = "cmdPrintToTape",
      .toolTip = "Send Info to Tape.",
-     .place = picture(1),
+     .place = picture(3),
      .tabIndex = 22,
      .font = kFont,
      .accessibleName = "Print to tape",
@@ -221,7 +222,7 @@ constexpr auto kControls = std::to_array<ControlLayout>({
     {.kind = kButton,
      .name = "cmdClearAll",
      .toolTip = "Clear all boxes.",
-     .place = picture(2),
+     .place = picture(1),
      .tabIndex = 23,
      .font = kFont,
      .accessibleName = "Clear all boxes",
@@ -229,7 +230,7 @@ constexpr auto kControls = std::to_array<ControlLayout>({
     {.kind = kButton,
      .name = "cmdHelp",
      .toolTip = "Pulls up help.",
-     .place = picture(3),
+     .place = picture(2),
      .tabIndex = 24,
      .font = kFont,
      .accessibleName = "Help",

@@ -15,6 +15,8 @@ inline Twips clampedTwips(double stored) {
   return static_cast<Twips>(std::lround(std::clamp(stored, -kFarthest, kFarthest)));
 }
 
+inline constexpr Twips kTwipsPerPixel = 15;
+
 /// A position and a size, in twips.
 struct Rect {
   Twips left = 0;

@@ -10,6 +10,9 @@ namespace controls {
 enum class ControlKind { Label, Frame, TextBox, Button, ToggleButton, OptionButton };
 enum class Alignment { Left, Right };
 
+/// What a key does; shown by its color.
+enum class KeyKind { Plain, Operator, Strong, Clear, Memory, Toggle };
+
 /// A font by its name in the design; the size is in tenths of a point.
 struct FontLayout {
   std::string_view name = "MS Sans Serif";
@@ -34,10 +37,18 @@ struct ControlLayout {
   /// The name for screen readers where caption and face are not enough. If there is a caption, it
   /// has its & before the same letter.
   std::string_view accessibleName = "";
+  /// The accessible name while the key has a color of its own; empty if the color means nothing.
+  std::string_view litName = "";
+  KeyKind keyKind = KeyKind::Plain;
+  /// A label that a screen reader reads out whenever its text changes.
+  bool spoken = false;
   /// The icon of a picture button.
   std::string_view icon = "";
   Alignment alignment = Alignment::Left;
   bool multiLine = false;
+  /// The font of a multi-line box grows until this many characters fill its width, up to three
+  /// times the designed size; 0 keeps the designed size.
+  int columns = 0;
   /// Option buttons with the same number are mutually exclusive.
   int optionGroup = 0;
   /// The option button of its group that is chosen initially.

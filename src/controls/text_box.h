@@ -24,6 +24,9 @@ inline constexpr std::size_t kLongestEdit = 32767;
 /// A text without one trailing line break, such as a cell copied from a spreadsheet has.
 std::string withoutLineEnd(std::string text);
 
+/// How a line of a text is drawn. It tells nothing that the text of the line does not.
+enum class LineLook { Amount, TakenOff, Total, NegativeTotal, Note };
+
 /// The part of a pasted text that goes into a single-line box.
 std::string firstLineOf(std::string_view text);
 
@@ -47,6 +50,11 @@ class TextBox : public Control {
   /// The mouse button goes down in the box, and has come up, after any command of the context menu.
   std::function<void()> onMouseDown;
   std::function<void(MouseEdit)> onMouseUp;
+
+  /// How a line of a multi-line text is drawn; without it all lines are amounts.
+  std::function<LineLook(std::string_view)> lookOfLine;
+  /// What a screen reader reads out when a line is appended; empty for nothing.
+  std::function<std::string(std::string_view)> spokenLine;
 
   std::string text() const { return loadText(); }
   /// Moves the caret to 0, clears the selection, and always raises Change.

@@ -2,56 +2,64 @@
 
 #include <array>
 
+#include "engine/tape_line.h"
+
 namespace shell {
 
 using controls::Alignment;
 using controls::ControlKind;
 using controls::ControlLayout;
 using controls::FontLayout;
+using controls::KeyKind;
 using controls::MenuItemLayout;
 using controls::Rect;
 using controls::Twips;
 
 namespace {
 
-// Five rows of keys. The clear and memory keys form columns at the left; the digits are arranged as
-// on a keypad, with the operators at their right.
+// Five rows of keys, with a little space below the row of the toggles. The clear and memory keys
+// form columns at the left; the digits are arranged as on a keypad, with the operators at their
+// right.
 constexpr Twips kKeyHeight = 450;
+constexpr Twips kFirstRow = 400;
+constexpr Twips kDigitRow = 905;
 constexpr Twips kRowPitch = 480;
-constexpr Twips kFirstRow = 420;
-constexpr Twips kClearColumn = 40;
-constexpr Twips kClearWidth = 690;
-constexpr Twips kMemoryColumn = 760;
-constexpr Twips kMemoryWidth = 510;
-constexpr Twips kDigitColumn = 1350;
-constexpr Twips kDigitWidth = 495;
-constexpr Twips kDigitPitch = 525;
+constexpr Twips kDigitColumn = 1330;
+constexpr Twips kDigitWidth = 480;
+constexpr Twips kDigitPitch = 510;
+constexpr Twips kOperatorColumn = 2915;
+constexpr Twips kOperatorWidth = 500;
+constexpr Twips kOperatorPitch = 530;
 
 constexpr Twips row(int index) {
-  return kFirstRow + index * kRowPitch;
+  return index == 0 ? kFirstRow : kDigitRow + (index - 1) * kRowPitch;
 }
 
 constexpr Rect clearKey(int r) {
-  return {kClearColumn, row(r), kClearWidth, kKeyHeight};
+  return {40, row(r), 690, kKeyHeight};
 }
 
 constexpr Rect memoryKey(int r, int rows = 1) {
-  return {kMemoryColumn, row(r), kMemoryWidth, kKeyHeight + (rows - 1) * kRowPitch};
+  return {760, row(r), 500, kKeyHeight + (rows - 1) * kRowPitch};
 }
 
-constexpr Rect key(int column, int r, int columns = 1, int rows = 1) {
+constexpr Rect digitKey(int column, int r, int columns = 1) {
   return {kDigitColumn + column * kDigitPitch, row(r), kDigitWidth + (columns - 1) * kDigitPitch,
+          kKeyHeight};
+}
+
+constexpr Rect operatorKey(int column, int r, int rows = 1) {
+  return {kOperatorColumn + column * kOperatorPitch, row(r), kOperatorWidth,
           kKeyHeight + (rows - 1) * kRowPitch};
 }
 
 constexpr FontLayout kWordFont = {"MS Sans Serif", 83, false};
-constexpr FontLayout kToggleFont = {"MS Sans Serif", 68, false};
-constexpr FontLayout kDigitFont = {"MS Sans Serif", 120, false};
-constexpr FontLayout kOperatorFont = {"MS Sans Serif", 135, false};
+constexpr FontLayout kKeyFont = {"MS Sans Serif", 135, false};
+constexpr FontLayout kStrongFont = {"MS Sans Serif", 150, true};
 // High and narrow: the entry box is as wide as the micro window, and shows 19 characters at every
 // resolution, even where the width of a character is rounded up.
 constexpr FontLayout kEntryFont = {"Courier New", 120, true, 100};
-// The 26 characters of a padded line fit into the window as it first opens.
+// The smallest size: the 26 characters of a padded line fit into the window as it first opens.
 constexpr FontLayout kTapeFont = {"Terminal", 72, false};
 
 constexpr ControlKind kButton = ControlKind::Button;
@@ -74,7 +82,8 @@ constexpr auto kControls = std::to_array<ControlLayout>({
      .place = clearKey(0),
      .tabIndex = 1,
      .font = kWordFont,
-     .accessibleName = "Clear e&ntry"},
+     .accessibleName = "Clear e&ntry",
+     .keyKind = KeyKind::Clear},
     {.kind = kButton,
      .name = "cmdMemClear",
      .toolTip = "Clear memory total only.",
@@ -82,21 +91,24 @@ constexpr auto kControls = std::to_array<ControlLayout>({
      .tabIndex = 2,
      .font = kWordFont,
      .face = "MC",
-     .accessibleName = "Memory clear"},
+     .accessibleName = "Memory clear",
+     .keyKind = KeyKind::Memory},
     {.kind = kButton,
      .name = "cmdDivide",
-     .place = key(3, 0),
+     .place = operatorKey(0, 0),
      .tabIndex = 3,
-     .font = kOperatorFont,
+     .font = kKeyFont,
      .face = "\u00F7",
-     .accessibleName = "Divide"},
+     .accessibleName = "Divide",
+     .keyKind = KeyKind::Operator},
     {.kind = kButton,
      .name = "cmdArrow",
-     .place = key(4, 0),
+     .place = operatorKey(1, 0),
      .tabIndex = 4,
-     .font = kOperatorFont,
+     .font = kKeyFont,
      .face = "\u2190",
-     .accessibleName = "Backspace"},
+     .accessibleName = "Backspace",
+     .keyKind = KeyKind::Operator},
 
     {.kind = kButton,
      .name = "cmdClearCalc",
@@ -105,7 +117,8 @@ constexpr auto kControls = std::to_array<ControlLayout>({
      .place = clearKey(1),
      .tabIndex = 5,
      .font = kWordFont,
-     .accessibleName = "Clear &total"},
+     .accessibleName = "Clear &total",
+     .keyKind = KeyKind::Clear},
     {.kind = kButton,
      .name = "cmdMemRecall",
      .toolTip = "Recall memory total.",
@@ -113,39 +126,42 @@ constexpr auto kControls = std::to_array<ControlLayout>({
      .tabIndex = 6,
      .font = kWordFont,
      .face = "MR",
-     .accessibleName = "Memory recall"},
+     .accessibleName = "Memory recall",
+     .keyKind = KeyKind::Memory},
     {.kind = kButton,
      .name = "cmdNumber(7)",
-     .place = key(0, 1),
+     .place = digitKey(0, 1),
      .tabIndex = 7,
-     .font = kDigitFont,
+     .font = kKeyFont,
      .face = "7"},
     {.kind = kButton,
      .name = "cmdNumber(8)",
-     .place = key(1, 1),
+     .place = digitKey(1, 1),
      .tabIndex = 8,
-     .font = kDigitFont,
+     .font = kKeyFont,
      .face = "8"},
     {.kind = kButton,
      .name = "cmdNumber(9)",
-     .place = key(2, 1),
+     .place = digitKey(2, 1),
      .tabIndex = 9,
-     .font = kDigitFont,
+     .font = kKeyFont,
      .face = "9"},
     {.kind = kButton,
      .name = "cmdTimes",
-     .place = key(3, 1),
+     .place = operatorKey(0, 1),
      .tabIndex = 10,
-     .font = kOperatorFont,
+     .font = kKeyFont,
      .face = "\u00D7",
-     .accessibleName = "Multiply"},
+     .accessibleName = "Multiply",
+     .keyKind = KeyKind::Operator},
     {.kind = kButton,
      .name = "cmdPercent",
-     .place = key(4, 1),
+     .place = operatorKey(1, 1),
      .tabIndex = 11,
-     .font = kDigitFont,
+     .font = kKeyFont,
      .face = "%",
-     .accessibleName = "Percent"},
+     .accessibleName = "Percent",
+     .keyKind = KeyKind::Operator},
 
     {.kind = kButton,
      .name = "cmdClearTape",
@@ -154,7 +170,8 @@ constexpr auto kControls = std::to_array<ControlLayout>({
      .place = clearKey(2),
      .tabIndex = 12,
      .font = kWordFont,
-     .accessibleName = "Clear ta&pe"},
+     .accessibleName = "Clear ta&pe",
+     .keyKind = KeyKind::Clear},
     {.kind = kButton,
      .name = "cmdMemStore",
      .toolTip = "Replace memory total with entry.",
@@ -162,40 +179,43 @@ constexpr auto kControls = std::to_array<ControlLayout>({
      .tabIndex = 13,
      .font = kWordFont,
      .face = "MS",
-     .accessibleName = "Memory store"},
+     .accessibleName = "Memory store",
+     .keyKind = KeyKind::Memory},
     {.kind = kButton,
      .name = "cmdNumber(4)",
-     .place = key(0, 2),
+     .place = digitKey(0, 2),
      .tabIndex = 14,
-     .font = kDigitFont,
+     .font = kKeyFont,
      .face = "4"},
     {.kind = kButton,
      .name = "cmdNumber(5)",
-     .place = key(1, 2),
+     .place = digitKey(1, 2),
      .tabIndex = 15,
-     .font = kDigitFont,
+     .font = kKeyFont,
      .face = "5"},
     {.kind = kButton,
      .name = "cmdNumber(6)",
-     .place = key(2, 2),
+     .place = digitKey(2, 2),
      .tabIndex = 16,
-     .font = kDigitFont,
+     .font = kKeyFont,
      .face = "6"},
     {.kind = kButton,
      .name = "cmdMinus",
-     .place = key(3, 2),
+     .place = operatorKey(0, 2),
      .tabIndex = 17,
-     .font = kOperatorFont,
+     .font = kKeyFont,
      .face = "\u2212",
-     .accessibleName = "Minus"},
+     .accessibleName = "Minus",
+     .keyKind = KeyKind::Operator},
     {.kind = kButton,
      .name = "cmdChangeSign",
      .toolTip = "Change Sign",
-     .place = key(4, 2),
+     .place = operatorKey(1, 2),
      .tabIndex = 18,
-     .font = kDigitFont,
+     .font = kKeyFont,
      .face = "\u00B1",
-     .accessibleName = "Change sign"},
+     .accessibleName = "Change sign",
+     .keyKind = KeyKind::Operator},
 
     {.kind = kButton,
      .name = "cmdClearAll",
@@ -205,7 +225,8 @@ constexpr auto kControls = std::to_array<ControlLayout>({
      .place = clearKey(3),
      .tabIndex = 19,
      .font = kWordFont,
-     .accessibleName = "Clear &all"},
+     .accessibleName = "Clear &all",
+     .keyKind = KeyKind::Clear},
     {.kind = kButton,
      .name = "cmdMemPlus",
      .caption = "&M +",
@@ -213,39 +234,43 @@ constexpr auto kControls = std::to_array<ControlLayout>({
      .place = memoryKey(3, 2),
      .tabIndex = 20,
      .font = kWordFont,
-     .accessibleName = "&Memory plus"},
+     .accessibleName = "&Memory plus",
+     .litName = "&Memory plus, memory in use",
+     .keyKind = KeyKind::Memory},
     {.kind = kButton,
      .name = "cmdNumber(1)",
-     .place = key(0, 3),
+     .place = digitKey(0, 3),
      .tabIndex = 21,
-     .font = kDigitFont,
+     .font = kKeyFont,
      .face = "1"},
     {.kind = kButton,
      .name = "cmdNumber(2)",
-     .place = key(1, 3),
+     .place = digitKey(1, 3),
      .tabIndex = 22,
-     .font = kDigitFont,
+     .font = kKeyFont,
      .face = "2"},
     {.kind = kButton,
      .name = "cmdNumber(3)",
-     .place = key(2, 3),
+     .place = digitKey(2, 3),
      .tabIndex = 23,
-     .font = kDigitFont,
+     .font = kKeyFont,
      .face = "3"},
     {.kind = kButton,
      .name = "cmdPlus",
-     .place = key(3, 3, 1, 2),
+     .place = operatorKey(0, 3, 2),
      .tabIndex = 24,
-     .font = kOperatorFont,
+     .font = kStrongFont,
      .face = "+",
-     .accessibleName = "Plus"},
+     .accessibleName = "Plus",
+     .keyKind = KeyKind::Strong},
     {.kind = kButton,
      .name = "cmdEquals",
-     .place = key(4, 3, 1, 2),
+     .place = operatorKey(1, 3, 2),
      .tabIndex = 25,
-     .font = kOperatorFont,
+     .font = kStrongFont,
      .face = "=",
-     .accessibleName = "Equals"},
+     .accessibleName = "Equals",
+     .keyKind = KeyKind::Strong},
 
     {.kind = kButton,
      .name = "cmdSquareRoot",
@@ -254,45 +279,49 @@ constexpr auto kControls = std::to_array<ControlLayout>({
      .place = clearKey(4),
      .tabIndex = 26,
      .font = kWordFont,
-     .accessibleName = "Square root"},
+     .accessibleName = "Square root",
+     .keyKind = KeyKind::Operator},
     {.kind = kButton,
      .name = "cmdNumber(0)",
-     .place = key(0, 4, 2),
+     .place = digitKey(0, 4, 2),
      .tabIndex = 27,
-     .font = kDigitFont,
+     .font = kKeyFont,
      .face = "0"},
     {.kind = kButton,
      .name = "cmdPeriod",
-     .place = key(2, 4),
+     .place = digitKey(2, 4),
      .tabIndex = 28,
-     .font = kDigitFont,
+     .font = kKeyFont,
      .face = ".",
      .accessibleName = "Decimal point"},
 
     {.kind = kToggle,
      .name = "chkFloatingDec",
      .toolTip = "Floating decimal is on when pressed down.",
-     .place = key(0, 0),
+     .place = digitKey(0, 0),
      .tabIndex = 29,
-     .font = kToggleFont,
+     .font = kWordFont,
      .face = "Float\ndec.",
-     .accessibleName = "Floating decimal"},
+     .accessibleName = "Floating decimal",
+     .keyKind = KeyKind::Toggle},
     {.kind = kToggle,
      .name = "chkShiftDec",
      .toolTip = "The decimal is stationary until keyed when pressed down.",
-     .place = key(1, 0),
+     .place = digitKey(1, 0),
      .tabIndex = 30,
-     .font = kToggleFont,
+     .font = kWordFont,
      .face = "Stat.\ndec.",
-     .accessibleName = "Stationary decimal"},
+     .accessibleName = "Stationary decimal",
+     .keyKind = KeyKind::Toggle},
     {.kind = kToggle,
      .name = "chkTapeOff",
      .toolTip = "Tape is off when pressed down.",
-     .place = key(2, 0),
+     .place = digitKey(2, 0),
      .tabIndex = 31,
-     .font = kToggleFont,
+     .font = kWordFont,
      .face = "Tape\noff",
-     .accessibleName = "Tape off"},
+     .accessibleName = "Tape off",
+     .keyKind = KeyKind::Toggle},
 
     {.kind = ControlKind::TextBox,
      .name = "txtTape",
@@ -301,10 +330,11 @@ constexpr auto kControls = std::to_array<ControlLayout>({
      .font = kTapeFont,
      .accessibleName = "Tape",
      .alignment = Alignment::Right,
-     .multiLine = true},
+     .multiLine = true,
+     .columns = engine::kTapeWidth},
     {.kind = ControlKind::Label,
      .name = "Label1",
-     .caption = "Decimals:",
+     .caption = "&Decimals:",
      .place = {2400, 75, 1005, 240},
      .tabIndex = 33,
      .font = kWordFont,
@@ -312,7 +342,7 @@ constexpr auto kControls = std::to_array<ControlLayout>({
     {.kind = ControlKind::TextBox,
      .name = "txtDec",
      .toolTip = "Number of decimal places allowed.",
-     .place = {3450, 0, 495, 375},
+     .place = {3445, 0, 500, 375},
      .tabIndex = 34,
      .font = kEntryFont,
      .accessibleName = "Decimal places"},

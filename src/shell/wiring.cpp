@@ -1,6 +1,7 @@
 // Which control does what: one line for each.
 #include <utility>
 
+#include "engine/tape_line_look.h"
 #include "shell/frm_calc.h"
 
 namespace shell {
@@ -81,6 +82,8 @@ void frmCalc::wireOtherBoxes() {
   txtTape.onEdit = [this](const common::TextEdit& edit) {
     controls_.desktop.tapeSafe().record(edit);
   };
+  txtTape.lookOfLine = engine::tapeLineLook;
+  txtTape.spokenLine = engine::spokenTapeLine;
   txtTape.onGotFocus = [this, &txtTape] {
     txtTape.moveCaretToEnd();
     colors_.mark(txtTape);

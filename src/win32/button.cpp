@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "win32/text.h"
+
 namespace win32 {
 
 Button::Button(Window& frame, const controls::ControlLayout& layout)
@@ -19,6 +21,18 @@ LRESULT Button::customDraw(NMCUSTOMDRAW& draw) {
 void Button::refresh() {
   face_.refresh();
   Native::refresh();
+}
+
+std::wstring Button::windowText() const {
+  const bool lit = backColor() != controls::Color::buttonFace();
+  if (lit && !Native::layout().litName.empty()) return wide(Native::layout().litName);
+  return keyName(Native::layout(), caption());
+}
+
+// A colour that means something is part of the name, too.
+void Button::showBackColor() {
+  Native::showBackColor();
+  if (!Native::layout().litName.empty()) putText();
 }
 
 ToggleButton::ToggleButton(Window& frame, const controls::ControlLayout& layout)

@@ -16,7 +16,8 @@ class Button : public Native<controls::Button> {
   void refresh() override;
 
  protected:
-  std::wstring windowText() const override { return keyName(Native::layout(), caption()); }
+  std::wstring windowText() const override;
+  void showBackColor() override;
 
  private:
   KeyFace face_;

@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "win32/clipboard.h"
+#include "win32/dialog_place.h"
 #include "win32/editor_paste.h"
 #include "win32/help_viewer.h"
 #include "win32/late_function.h"
@@ -52,6 +53,7 @@ int Desktop::showMessage(const controls::UserMessage& box) {
   UINT style = MB_TASKMODAL | static_cast<UINT>(question ? MB_YESNO : MB_OK);
   if (box.icon == controls::Icon::Question) style |= MB_ICONQUESTION;
   const controls::SystemDialog dialog(*this);
+  const DialogPlace place(handleOf(dialog.owner()));
   const int answer =
       MessageBoxW(handleOf(dialog.owner()), wide(box.text).c_str(), wide(box.title).c_str(), style);
   dialog.noteAnswered();
@@ -94,6 +96,7 @@ void Desktop::showHelp(const controls::HelpRequest& request) {
 
 std::optional<std::uint32_t> Desktop::chooseColor(std::uint32_t present) {
   const controls::SystemDialog dialog(*this);
+  const DialogPlace place(handleOf(dialog.owner()));
   static_assert(sizeof(COLORREF) == sizeof(std::uint32_t));
   CHOOSECOLORW choice = {};
   choice.lStructSize = sizeof choice;

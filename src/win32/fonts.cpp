@@ -59,20 +59,22 @@ bool isMadeFrom(HFONT font, const wchar_t* face) {
 HFONT Fonts::font(const FontLayout& layout, std::string_view face) {
   OwnedFont& font =
       fonts_[{std::string(face), layout.tenthsOfPoint, layout.bold, layout.characterWidth}];
-  if (font) return font.get();
-  const int height = scale_.fontHeight(layout.tenthsOfPoint);
-  const int width = scale_.toPixels(layout.characterWidth);
+  if (!font)
+    font = make(face, heightOf(layout), scale_.toPixels(layout.characterWidth), layout.bold);
+  return font.get();
+}
+
+OwnedFont Fonts::make(std::string_view face, int height, int width, bool bold) {
   const auto known = std::find_if(kFaces.begin(), kFaces.end(),
                                   [face](const Face& entry) { return entry.name == face; });
-  if (known == kFaces.end()) {
-    font.reset(createFont(height, width, layout.bold, wide(face).c_str(), DEFAULT_PITCH));
-    return font.get();
-  }
+  if (known == kFaces.end())
+    return OwnedFont(createFont(-height, width, bold, wide(face).c_str(), DEFAULT_PITCH));
+  OwnedFont font;
   for (const wchar_t* used : known->used) {
-    font.reset(createFont(height, width, layout.bold, used, known->pitchAndFamily));
+    font.reset(createFont(-height, width, bold, used, known->pitchAndFamily));
     if (isMadeFrom(font.get(), used)) break;
   }
-  return font.get();
+  return font;
 }
 
 HFONT Fonts::fontShowing(const FontLayout& layout, const std::wstring& text) {

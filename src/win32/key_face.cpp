@@ -2,9 +2,6 @@
 
 #include <windows.h>
 
-#include <uxtheme.h>
-#include <vssym32.h>
-
 #include <algorithm>
 
 #include "win32/colors.h"
@@ -22,27 +19,12 @@ bool has(const NMCUSTOMDRAW& draw, UINT state) {
   return (draw.uItemState & state) != 0;
 }
 
-int themeState(const NMCUSTOMDRAW& draw, bool down) {
-  if (has(draw, CDIS_DISABLED)) return PBS_DISABLED;
-  if (down || has(draw, CDIS_SELECTED)) return PBS_PRESSED;
-  return has(draw, CDIS_HOT) ? PBS_HOT : PBS_NORMAL;
-}
-
-UINT classicState(const NMCUSTOMDRAW& draw, bool down) {
-  UINT state = DFCS_BUTTONPUSH;
-  if (has(draw, CDIS_DISABLED)) state |= DFCS_INACTIVE;
-  if (down || has(draw, CDIS_SELECTED)) state |= DFCS_PUSHED;
-  return state;
-}
-
-// The system would fill a key that is down with a pattern on which, in high contrast, nobody can
-// read. What is selected can be read in every scheme.
-void drawClassicKey(const NMCUSTOMDRAW& draw, bool down) {
-  RECT area = draw.rc;
-  DrawFrameControl(draw.hdc, &area, DFC_BUTTON, classicState(draw, down));
-  if (!down) return;
-  InflateRect(&area, -GetSystemMetrics(SM_CXEDGE), -GetSystemMetrics(SM_CYEDGE));
-  FillRect(draw.hdc, &area, GetSysColorBrush(COLOR_HIGHLIGHT));
+KeyState stateOf(const NMCUSTOMDRAW& draw, bool down) {
+  return {.disabled = has(draw, CDIS_DISABLED),
+          .hot = has(draw, CDIS_HOT),
+          .pressed = has(draw, CDIS_SELECTED),
+          .down = down,
+          .focused = has(draw, CDIS_FOCUS)};
 }
 
 }  // namespace
@@ -52,15 +34,13 @@ std::wstring keyName(const controls::ControlLayout& layout, std::string_view cap
   return wide(layout.face.empty() ? caption : layout.face);
 }
 
-// A caption that is the name of its key is drawn by the system.
 KeyFace::KeyFace(Window& frame, const controls::Control& key)
     : frame_(frame), key_(key), face_(wide(key.layout().face)) {
-  if (face_.empty() && !key.layout().accessibleName.empty()) face_ = wide(key.caption());
   refresh();
 }
 
 void KeyFace::refresh() {
-  if (!face_.empty()) font_ = frame_.fonts().fontShowing(key_.layout().font, face_);
+  font_ = frame_.fonts().fontShowing(key_.layout().font, text());
   if (key_.layout().icon.empty()) return;
   const int size = iconSize();
   const std::wstring picture = L"KEY_" + wide(key_.layout().icon);
@@ -73,45 +53,40 @@ int KeyFace::iconSize() const {
   return MulDiv(kIconSize, frame_.scale().dpi(), 96);
 }
 
-LRESULT KeyFace::draw(const NMCUSTOMDRAW& draw, bool down) {
-  if (draw.dwDrawStage == CDDS_PREPAINT) {
-    if (!hasOwnFace()) return CDRF_NOTIFYPOSTPAINT;
-    drawKey(draw, down);
-    return CDRF_SKIPDEFAULT;
-  }
-  if (draw.dwDrawStage == CDDS_POSTPAINT) tint(draw);
-  return CDRF_DODEFAULT;
+// A caption may have changed since.
+std::wstring KeyFace::text() const {
+  return face_.empty() ? wide(key_.caption()) : face_;
 }
 
-void KeyFace::drawKey(const NMCUSTOMDRAW& draw, bool down) const {
-  HTHEME theme = frame_.buttonTheme();
-  const int state = themeState(draw, down);
-  COLORREF textColor = theme ? textColorOn(key_.backColor()) : classicTextColor();
-  if (has(draw, CDIS_DISABLED)) textColor = GetSysColor(COLOR_GRAYTEXT);
-  RECT area = draw.rc;
-  if (theme) {
-    // A key has round corners, behind which the window is seen.
-    FillRect(draw.hdc, &area, GetSysColorBrush(COLOR_BTNFACE));
-    drawThemeBackground(theme, draw.hdc, BP_PUSHBUTTON, state, area);
-    if (!isTinted()) getThemeColor(theme, BP_PUSHBUTTON, state, TMT_TEXTCOLOR, textColor);
-  } else {
-    drawClassicKey(draw, down);
-    if (down) textColor = GetSysColor(COLOR_HIGHLIGHTTEXT);
-  }
-  tint(draw);
+LRESULT KeyFace::draw(const NMCUSTOMDRAW& draw, bool down) const {
+  if (draw.dwDrawStage != CDDS_PREPAINT) return CDRF_DODEFAULT;
+  const KeyState state = stateOf(draw, down);
+  const KeyColors colors = keyColors(key_.layout().keyKind, key_.backColor(), state);
+  drawShape(draw, state, colors);
   if (icon_) {
     drawIcon(draw);
   } else {
-    drawText(draw, textColor);
+    drawText(draw, colors.text);
   }
-  if (has(draw, CDIS_FOCUS)) drawFocus(draw);
+  return CDRF_SKIPDEFAULT;
 }
 
-void KeyFace::drawFocus(const NMCUSTOMDRAW& draw) {
-  constexpr int kInset = 3;
-  RECT inside = draw.rc;
-  InflateRect(&inside, -kInset, -kInset);
-  DrawFocusRect(draw.hdc, &inside);
+// The key with the focus has a frame of two pixels in the colour of what is selected, which a line
+// parts from a face of any colour.
+void KeyFace::drawShape(const NMCUSTOMDRAW& draw, const KeyState& state,
+                        const KeyColors& colors) const {
+  constexpr controls::Twips kRadius = 60;
+  const int line = std::max(1, frame_.scale().toPixels(controls::kTwipsPerPixel));
+  std::vector<KeyLayer> layers;
+  if (state.focused) {
+    const COLORREF around = GetSysColor(COLOR_BTNFACE);
+    layers = {{0, legibleOn(around, GetSysColor(COLOR_HIGHLIGHT), kFrameContrast)},
+              {2 * line, around},
+              {3 * line, colors.face}};
+  } else {
+    layers = {{0, colors.frame}, {line, colors.face}};
+  }
+  drawKeyShape(draw.hdc, draw.rc, frame_.scale().toPixels(kRadius), layers);
 }
 
 // A face that is no caption shows each of its characters.
@@ -127,10 +102,11 @@ void KeyFace::drawText(const NMCUSTOMDRAW& draw, COLORREF color) const {
   SetTextColor(draw.hdc, color);
   const UINT format = textFormat(draw.hdr.hwndFrom);
   RECT needed = {0, 0, draw.rc.right - draw.rc.left, 0};
-  DrawTextW(draw.hdc, face_.c_str(), -1, &needed, format | DT_CALCRECT);
+  const std::wstring shown = text();
+  DrawTextW(draw.hdc, shown.c_str(), -1, &needed, format | DT_CALCRECT);
   RECT area = draw.rc;
   area.top += std::max(0L, (area.bottom - area.top - needed.bottom) / 2);
-  DrawTextW(draw.hdc, face_.c_str(), -1, &area, format);
+  DrawTextW(draw.hdc, shown.c_str(), -1, &area, format);
   SelectObject(draw.hdc, before);
 }
 
@@ -144,31 +120,6 @@ void KeyFace::drawIcon(const NMCUSTOMDRAW& draw) const {
   } else {
     DrawIconEx(draw.hdc, left, top, icon_.get(), size, size, 0, nullptr, DI_NORMAL);
   }
-}
-
-bool KeyFace::isTinted() const {
-  return key_.backColor() != controls::Color::buttonFace();
-}
-
-// A dark key stays dark under its colour; then its caption shows it.
-COLORREF KeyFace::classicTextColor() const {
-  if (!isTinted()) return textColorOn(key_.backColor());
-  const COLORREF tinted = GetSysColor(COLOR_BTNFACE) & colorOf(key_.backColor());
-  return isDark(tinted) ? colorOf(key_.backColor()) : RGB(0, 0, 0);
-}
-
-// The colour shines through what is drawn already: the style of the button stays, hot and pressed
-// included.
-void KeyFace::tint(const NMCUSTOMDRAW& draw) const {
-  if (!isTinted()) return;
-  constexpr DWORD kDestinationAndPattern = 0x00A000C9;
-  RECT area = draw.rc;
-  InflateRect(&area, -1, -1);
-  const OwnedBrush brush(CreateSolidBrush(colorOf(key_.backColor())));
-  const HGDIOBJ before = SelectObject(draw.hdc, brush.get());
-  PatBlt(draw.hdc, area.left, area.top, area.right - area.left, area.bottom - area.top,
-         kDestinationAndPattern);
-  SelectObject(draw.hdc, before);
 }
 
 }  // namespace win32

@@ -8,6 +8,7 @@
 
 #include "controls/control.h"
 #include "win32/handles.h"
+#include "win32/key_style.h"
 
 namespace win32 {
 
@@ -17,28 +18,24 @@ class Window;
 /// symbol or picture does not say what it does.
 std::wstring keyName(const controls::ControlLayout& layout, std::string_view caption);
 
-/// What is seen on a button that shows a short caption, a symbol or a picture in the place of its
-/// name, or that has a colour. It is drawn in the system's own style.
+/// What is seen of a button: its shape in the colours of its kind, and on it the caption, a symbol
+/// or a picture.
 class KeyFace {
  public:
   KeyFace(Window& frame, const controls::Control& key);
 
   /// The resolution or the system's colours have changed.
   void refresh();
-  /// Draws what the native button does not; `down` is a toggle's.
-  LRESULT draw(const NMCUSTOMDRAW& draw, bool down);
+  /// Draws it in the place of the native button; `down` is a toggle's.
+  LRESULT draw(const NMCUSTOMDRAW& draw, bool down) const;
 
  private:
-  bool hasOwnFace() const { return !face_.empty() || icon_; }
-  void drawKey(const NMCUSTOMDRAW& draw, bool down) const;
+  std::wstring text() const;
+  void drawShape(const NMCUSTOMDRAW& draw, const KeyState& state, const KeyColors& colors) const;
   UINT textFormat(HWND button) const;
   void drawText(const NMCUSTOMDRAW& draw, COLORREF color) const;
   void drawIcon(const NMCUSTOMDRAW& draw) const;
-  static void drawFocus(const NMCUSTOMDRAW& draw);
-  bool isTinted() const;
-  COLORREF classicTextColor() const;
   int iconSize() const;
-  void tint(const NMCUSTOMDRAW& draw) const;
 
   Window& frame_;
   const controls::Control& key_;

@@ -1,5 +1,9 @@
 #include "win32/label.h"
 
+#include <utility>
+
+#include "win32/live_region.h"
+
 namespace win32 {
 
 using controls::Alignment;
@@ -10,7 +14,14 @@ Label::Label(Window& frame, const controls::ControlLayout& layout)
               static_cast<DWORD>(layout.alignment == Alignment::Right ? SS_RIGHT : SS_LEFT) |
                   SS_NOTIFY}) {}
 
+void Label::showCaption() {
+  Native::showCaption();
+  if (layout().spoken && !caption().empty()) speak(handle());
+}
+
 std::optional<LRESULT> Label::take(const Message& message) {
+  if (message.id == WM_GETOBJECT && layout().spoken && !std::exchange(announced_, true))
+    announceSpoken(handle());
   if (message.id != WM_LBUTTONDBLCLK) return Native::take(message);
   doubleClick();
   return 0;

@@ -1,5 +1,7 @@
 #include "win32/scale.h"
 
+#include <algorithm>
+
 namespace win32 {
 namespace {
 
@@ -8,6 +10,20 @@ template <class Function>
 Function* userFunction(const char* name) {
   const FARPROC found = GetProcAddress(GetModuleHandleW(L"user32.dll"), name);
   return reinterpret_cast<Function*>(reinterpret_cast<void*>(found));
+}
+
+constexpr int kPlainText = 100;
+
+// What the user has chosen for the text of all programs, in hundredths.
+int textPercent() {
+  constexpr DWORD kLargest = 225;
+  DWORD percent = kPlainText;
+  DWORD size = sizeof percent;
+  const LSTATUS found =
+      RegGetValueW(HKEY_CURRENT_USER, L"Software\\Microsoft\\Accessibility", L"TextScaleFactor",
+                   RRF_RT_REG_DWORD, nullptr, &percent, &size);
+  if (found != ERROR_SUCCESS) return kPlainText;
+  return static_cast<int>(std::clamp<DWORD>(percent, kPlainText, kLargest));
 }
 
 }  // namespace
@@ -25,16 +41,37 @@ Scale Scale::ofScreen() {
   return Scale(static_cast<UINT>(dpi));
 }
 
+Scale Scale::at(UINT monitorDpi, HWND window, const controls::Rect& designed) {
+  const Scale plain(monitorDpi);
+  int percent = textPercent();
+  if (percent == kPlainText) return plain;
+  MONITORINFO monitor = {};
+  monitor.cbSize = sizeof monitor;
+  GetMonitorInfoW(MonitorFromWindow(window, MONITOR_DEFAULTTONEAREST), &monitor);
+  const RECT& room = monitor.rcWork;
+  const auto fitting = [](LONG pixels, int wanted) {
+    return static_cast<int>(pixels) * 100 / wanted;
+  };
+  percent = std::min(percent, fitting(room.right - room.left, plain.toPixels(designed.width)));
+  percent = std::min(percent, fitting(room.bottom - room.top, plain.toPixels(designed.height)));
+  return Scale(monitorDpi, std::max(percent, kPlainText));
+}
+
 RECT Scale::toPixels(const controls::Rect& rect) const {
   return {toPixels(rect.left), toPixels(rect.top), toPixels(rect.left + rect.width),
           toPixels(rect.top + rect.height)};
+}
+
+int Scale::metric(int index) const {
+  static const auto metricForDpi = userFunction<int WINAPI(int, UINT)>("GetSystemMetricsForDpi");
+  return metricForDpi ? metricForDpi(index, monitorDpi_) : GetSystemMetrics(index);
 }
 
 void Scale::growByFrame(RECT& client, DWORD style, DWORD exStyle, bool menu) const {
   static const auto adjustForDpi =
       userFunction<BOOL WINAPI(RECT*, DWORD, BOOL, DWORD, UINT)>("AdjustWindowRectExForDpi");
   if (adjustForDpi) {
-    adjustForDpi(&client, style, menu, exStyle, static_cast<UINT>(dpi_));
+    adjustForDpi(&client, style, menu, exStyle, monitorDpi_);
   } else {
     AdjustWindowRectEx(&client, style, menu, exStyle);
   }

@@ -2,21 +2,19 @@
 
 #include <windows.h>
 
-#include <windowsx.h>
-
 #include <algorithm>
 
 #include "win32/colors.h"
 #include "win32/input_method.h"
-#include "win32/keys.h"
 #include "win32/text.h"
 
 namespace win32 {
 namespace {
 
 constexpr wchar_t kClassName[] = L"TallyrexTape";
-constexpr UINT_PTR kDragTimer = 1;
-constexpr UINT kDragInterval = 50;
+// What the system and a screen reader ask a box of many lines for.
+constexpr DWORD kStyle =
+    WS_VSCROLL | ES_MULTILINE | ES_AUTOVSCROLL | ES_AUTOHSCROLL | ES_WANTRETURN;
 
 const wchar_t* tapeClass() {
   static const ATOM registered = [] {
@@ -35,18 +33,33 @@ const wchar_t* tapeClass() {
 }  // namespace
 
 TapeBox::TapeBox(Window& frame, const controls::ControlLayout& layout)
-    : Native(frame, layout, {tapeClass(), WS_VSCROLL, WS_EX_CLIENTEDGE}),
-      view_(handle()),
+    : Native(frame, layout, {tapeClass(), kStyle, WS_EX_CLIENTEDGE}),
+      view_(handle(), [this](std::wstring_view line) { return lookOf(line); }),
       input_(*this, *this),
-      name_(handle(), layout.accessibleName) {
+      name_(handle(), layout.accessibleName),
+      region_(frame.handle()) {
   view_.setAlignment(layout.alignment);
-  view_.setFont(font());
+  fitLetters();
   putColors();
 }
 
 void TapeBox::refresh() {
   Native::refresh();
+  fitLetters();
   putColors();
+}
+
+controls::LineLook TapeBox::lookOf(std::wstring_view line) const {
+  return lookOfLine ? lookOfLine(narrow(line)) : controls::LineLook::Amount;
+}
+
+// The letters are as large beside a bar as without one, which comes and goes.
+void TapeBox::fitLetters() {
+  RECT box;
+  GetWindowRect(handle(), &box);
+  const int besides = 2 * GetSystemMetrics(SM_CXEDGE) + frame().scale().metric(SM_CXVSCROLL);
+  const int width = static_cast<int>(box.right - box.left) - besides;
+  view_.fitLetters(frame().fonts(), layout().font, layout().columns, width);
 }
 
 void TapeBox::putColors() {
@@ -62,6 +75,9 @@ std::optional<LRESULT> TapeBox::take(const Message& message) {
     case WM_KEYDOWN:
       moveCaret(message.wParam);
       return 0;
+    case WM_SETFONT:
+      // The box makes its own, as large as there is room for.
+      return 0;
     case WM_SETFOCUS:
       view_.showCaret();
       return Native::take(message);
@@ -74,7 +90,9 @@ std::optional<LRESULT> TapeBox::take(const Message& message) {
     case WM_SIZE:
       return takePainting(message);
     case WM_VSCROLL:
+    case WM_HSCROLL:
     case WM_MOUSEWHEEL:
+    case WM_MOUSEHWHEEL:
     case WM_TIMER:
       return takeScrolling(message);
     default:
@@ -92,7 +110,7 @@ std::optional<LRESULT> TapeBox::takePainting(const Message& message) {
       // Every point of it is painted.
       return TRUE;
     case WM_SIZE:
-      view_.resize();
+      fitLetters();
       return 0;
     default:
       passOn(message);
@@ -111,115 +129,6 @@ LRESULT TapeBox::paint() {
   return 0;
 }
 
-std::optional<LRESULT> TapeBox::takeScrolling(const Message& message) {
-  if (message.id == WM_VSCROLL) {
-    view_.takeScrollBar(LOWORD(message.wParam));
-  } else if (message.id == WM_MOUSEWHEEL) {
-    turnWheel(GET_WHEEL_DELTA_WPARAM(message.wParam));
-  } else if (dragging_) {
-    POINT mouse;
-    GetCursorPos(&mouse);
-    ScreenToClient(handle(), &mouse);
-    dragTo(mouse);
-  }
-  return 0;
-}
-
-void TapeBox::turnWheel(int delta) {
-  UINT lines = 3;
-  SystemParametersInfoW(SPI_GETWHEELSCROLLLINES, 0, &lines, 0);
-  const int step = lines == WHEEL_PAGESCROLL ? view_.linesInView() : static_cast<int>(lines);
-  wheelRest_ += delta * step;
-  view_.scrollTo(view_.firstLine() - wheelRest_ / WHEEL_DELTA);
-  wheelRest_ %= WHEEL_DELTA;
-}
-
-std::optional<LRESULT> TapeBox::takeMouse(const Message& message) {
-  switch (message.id) {
-    case WM_LBUTTONDOWN:
-      pressMouse(message);
-      return 0;
-    case WM_MOUSEMOVE:
-      if (dragging_) dragTo(mousePlace(message));
-      return 0;
-    case WM_LBUTTONUP:
-      if (dragging_) ReleaseCapture();
-      mouseUp();
-      return 0;
-    case WM_CAPTURECHANGED:
-      dragging_ = false;
-      KillTimer(handle(), kDragTimer);
-      return 0;
-    case WM_LBUTTONDBLCLK: {
-      const int end = view_.lines().nextWord(view_.caret());
-      view_.select(view_.lines().previousWord(end), end);
-      doubleClick();
-      return 0;
-    }
-    default:
-      return {};
-  }
-}
-
-// The place is that which the user has seen under the mouse: what a handler does when the focus
-// arrives may scroll the tape.
-void TapeBox::pressMouse(const Message& message) {
-  const int place = view_.placeAt(mousePlace(message));
-  const int firstLine = view_.firstLine();
-  const int anchor = isDown(VK_SHIFT) ? view_.anchor() : place;
-  SetFocus(handle());
-  mouseDown();
-  view_.scrollTo(firstLine);
-  view_.select(anchor, place);
-  SetCapture(handle());
-  SetTimer(handle(), kDragTimer, kDragInterval, nullptr);
-  dragging_ = true;
-}
-
-void TapeBox::dragTo(POINT point) {
-  const int place = view_.placeAt(point);
-  if (place != view_.caret()) view_.select(view_.anchor(), place);
-}
-
-void TapeBox::moveCaret(WPARAM key) {
-  const int caret = caretAfter(key, isDown(VK_CONTROL));
-  view_.select(isDown(VK_SHIFT) ? view_.anchor() : caret, caret);
-}
-
-int TapeBox::caretAfter(WPARAM key, bool control) const {
-  const TapeLines& lines = view_.lines();
-  const int caret = view_.caret();
-  const int line = lines.lineOf(caret);
-  switch (key) {
-    case VK_LEFT:
-      return control ? lines.previousWord(caret) : lines.previous(caret);
-    case VK_RIGHT:
-      return control ? lines.nextWord(caret) : lines.next(caret);
-    case VK_HOME:
-      return control ? 0 : lines.start(line);
-    case VK_END:
-      return control ? lines.length() : lines.end(line);
-    case VK_UP:
-      return otherLine(-1);
-    case VK_DOWN:
-      return otherLine(1);
-    case VK_PRIOR:
-      return otherLine(-view_.linesInView());
-    default:
-      return otherLine(view_.linesInView());
-  }
-}
-
-// The same column some lines further down.
-int TapeBox::otherLine(int lines) const {
-  const TapeLines& all = view_.lines();
-  const int line = all.lineOf(view_.caret());
-  const int column = view_.caret() - all.start(line);
-  const int wanted = std::clamp(line + lines, 0, all.count() - 1);
-  if (wanted == line) return view_.caret();
-  return std::min(all.start(wanted) + column, all.end(wanted));
-}
-
 std::string TapeBox::loadText() const {
   return narrow(view_.lines().text());
 }
@@ -234,10 +143,13 @@ TapeBox::Selection TapeBox::loadSelection() const {
 
 void TapeBox::storeText(std::string_view text) {
   view_.replace(0, view_.lines().length(), wide(text));
+  noteText();
 }
 
 void TapeBox::storeAppended(std::string_view text) {
   view_.replace(view_.lines().length(), 0, wide(text));
+  noteText();
+  sayLines(text);
 }
 
 void TapeBox::storeSelection(int start, int length) {
@@ -246,6 +158,24 @@ void TapeBox::storeSelection(int start, int length) {
 
 void TapeBox::storePart(int start, int length, std::string_view text) {
   view_.replace(start, length, wide(text));
+  noteText();
+}
+
+// As the system's own box tells.
+void TapeBox::noteText() const {
+  NotifyWinEvent(EVENT_OBJECT_VALUECHANGE, handle(), OBJID_CLIENT, CHILDID_SELF);
+}
+
+void TapeBox::sayLines(std::string_view text) {
+  if (!spokenLine) return;
+  std::string said;
+  while (!text.empty()) {
+    const std::size_t end = std::min(text.find("\r\n"), text.size());
+    const std::string line = spokenLine(text.substr(0, end));
+    if (!line.empty()) said += (said.empty() ? "" : ", ") + line;
+    text.remove_prefix(std::min(end + 2, text.size()));
+  }
+  if (!said.empty()) region_.say(said);
 }
 
 }  // namespace win32

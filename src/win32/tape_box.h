@@ -2,6 +2,7 @@
 
 #include "controls/text_box.h"
 #include "win32/accessible_name.h"
+#include "win32/live_region.h"
 #include "win32/native_control.h"
 #include "win32/tape_view.h"
 #include "win32/text_input.h"
@@ -31,27 +32,58 @@ class TapeBox : public Native<controls::TextBox> {
   void showAlignment() override { view_.setAlignment(alignment()); }
 
  private:
+  // What a click, a double click and a triple click select, and what dragging then goes on by.
+  enum class Unit { Character, Word, Line };
+  struct Span {
+    int start;
+    int end;
+  };
+  // Where the caret would be if the lines were long enough: a way up or down leads there again.
+  struct Goal {
+    int caret;
+    int x;
+  };
+
+  controls::LineLook lookOf(std::wstring_view line) const;
+  void sayLines(std::string_view text);
+  void noteText() const;
+  void fitLetters();
   void putColors();
   std::optional<LRESULT> takePainting(const Message& message);
   std::optional<LRESULT> takeMouse(const Message& message);
   std::optional<LRESULT> takeScrolling(const Message& message);
   std::optional<LRESULT> takeEditMessage(const Message& message);
   std::optional<LRESULT> takeTextMessage(const Message& message);
+  std::optional<LRESULT> takeViewMessage(const Message& message);
+  void scrollBy(LPARAM columns, LPARAM lines);
+  LRESULT takeScrollAction(WPARAM action);
   LRESULT paint();
   void paintFrame();
   void moveCaret(WPARAM key);
   int caretAfter(WPARAM key, bool control) const;
-  int otherLine(int lines) const;
+  void moveByLines(int lines);
+  int goalX() const;
   void pressMouse(const Message& message);
+  void pressAgain(const Message& message);
+  bool isThirdClick(POINT point) const;
+  void startDrag(Unit unit, Span span);
+  Span spanAt(int place, Unit unit) const;
   void dragTo(POINT point);
-  void turnWheel(int delta);
+  void turnWheel(int delta, bool sideways);
 
   TapeView view_;
   TextInput input_;
   AccessibleName name_;
+  LiveRegion region_;
   // What the wheel has turned short of a line.
   int wheelRest_ = 0;
+  std::optional<Goal> goal_;
   bool dragging_ = false;
+  Unit dragUnit_ = Unit::Character;
+  Span dragFrom_ = {0, 0};
+  // When and where the last double click was.
+  DWORD doubleClickTime_ = 0;
+  POINT doubleClickPlace_ = {};
 };
 
 }  // namespace win32

@@ -22,13 +22,11 @@ std::optional<LRESULT> TapeBox::takeEditMessage(const Message& message) {
   switch (message.id) {
     case WM_GETOBJECT:
       name_.announce();
+      region_.announce();
       if (static_cast<LONG>(message.lParam) != OBJID_QUERYCLASSNAMEIDX) return {};
       return kEditClass;
     case WM_GETFONT:
       return reinterpret_cast<LRESULT>(view_.font());
-    case WM_SETFONT:
-      view_.setFont(reinterpret_cast<HFONT>(message.wParam));
-      return 0;
     case EM_GETLINECOUNT:
       return lines.count();
     case EM_GETFIRSTVISIBLELINE:
@@ -52,8 +50,42 @@ std::optional<LRESULT> TapeBox::takeEditMessage(const Message& message) {
       return MAKELRESULT(hit, lines.lineOf(hit));
     }
     default:
+      if (const auto taken = takeViewMessage(message)) return taken;
       return takeTextMessage(message);
   }
+}
+
+std::optional<LRESULT> TapeBox::takeViewMessage(const Message& message) {
+  switch (message.id) {
+    case EM_LINESCROLL:
+      scrollBy(static_cast<LPARAM>(message.wParam), message.lParam);
+      return TRUE;
+    case EM_SCROLL:
+      return takeScrollAction(message.wParam);
+    case EM_SCROLLCARET:
+      view_.select(view_.anchor(), view_.caret());
+      return TRUE;
+    case EM_GETRECT:
+      if (message.lParam) *reinterpret_cast<RECT*>(message.lParam) = view_.textArea();
+      return 0;
+    default:
+      return {};
+  }
+}
+
+// No further than the text goes, whatever is asked.
+void TapeBox::scrollBy(LPARAM columns, LPARAM lines) {
+  const LPARAM most = view_.lines().length();
+  view_.scrollSideways(static_cast<int>(std::clamp(columns, -most, most)));
+  view_.scrollTo(view_.firstLine() + static_cast<int>(std::clamp(lines, -most, most)));
+}
+
+// How many lines it was is answered, in 16 bits.
+LRESULT TapeBox::takeScrollAction(WPARAM action) {
+  if (action > SB_PAGEDOWN) return FALSE;
+  const int before = view_.firstLine();
+  view_.takeScrollBar(SB_VERT, static_cast<int>(action));
+  return MAKELRESULT(view_.firstLine() - before, TRUE);
 }
 
 namespace {

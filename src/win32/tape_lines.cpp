@@ -63,7 +63,37 @@ int TapeLines::previousWord(int place) const {
   return place;
 }
 
+int TapeLines::wordStart(int place) const {
+  const int first = start(lineOf(place));
+  while (place > first && std::iswspace(at(place - 1))) --place;
+  while (place > first && !std::iswspace(at(place - 1))) --place;
+  return place;
+}
+
+int TapeLines::wordEnd(int place) const {
+  return std::min(nextWord(place), end(lineOf(place)));
+}
+
+int TapeLines::columnsOf(int line) const {
+  constexpr int kTabStop = 8;
+  constexpr wchar_t kFirstWide = 0x1100;
+  int columns = 0;
+  for (const wchar_t unit : this->line(line))
+    columns += unit == L'\t' ? kTabStop : unit < kFirstWide ? 1 : 2;
+  return columns;
+}
+
+void TapeLines::count(int firstLine, int lastLine, int by) {
+  for (int line = firstLine; line <= lastLine; ++line) {
+    const auto entry = columns_.try_emplace(columnsOf(line)).first;
+    entry->second += by;
+    if (entry->second == 0) columns_.erase(entry);
+  }
+}
+
 void TapeLines::replace(int start, int length, std::wstring_view text) {
+  const int firstLine = lineOf(start);
+  count(firstLine, lineOf(start + length), -1);
   const auto first = std::upper_bound(starts_.begin(), starts_.end(), start);
   const auto last = std::upper_bound(first, starts_.end(), start + length);
   const int growth = static_cast<int>(text.size()) - length;
@@ -73,6 +103,7 @@ void TapeLines::replace(int start, int length, std::wstring_view text) {
     if (text[at] == L'\n') added.push_back(start + static_cast<int>(at) + 1);
   starts_.insert(starts_.erase(first, last), added.begin(), added.end());
   text_.replace(static_cast<std::size_t>(start), static_cast<std::size_t>(length), text);
+  count(firstLine, firstLine + static_cast<int>(added.size()), 1);
 }
 
 }  // namespace win32

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <map>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -22,6 +23,11 @@ class TapeLines {
   /// The line that a place in the text is on.
   int lineOf(int place) const;
 
+  /// How many columns the longest line takes at most, a tab and a wide character counted in full.
+  int columns() const { return columns_.empty() ? 0 : columns_.rbegin()->first; }
+
+  /// The place itself, or the one behind the character that it is inside of.
+  int whole(int place) const { return isInside(place) ? place + 1 : place; }
   /// The place one character further on or back: a line end is one character, and so is one that
   /// takes two units.
   int next(int place) const;
@@ -29,15 +35,23 @@ class TapeLines {
   /// The start of the word behind a place, or in front of it.
   int nextWord(int place) const;
   int previousWord(int place) const;
+  /// Where the word begins that a place is in, and where it ends, with the blanks behind it; both
+  /// are on the line of the place.
+  int wordStart(int place) const;
+  int wordEnd(int place) const;
 
   void replace(int start, int length, std::wstring_view text);
 
  private:
   wchar_t at(int place) const { return text_[static_cast<std::size_t>(place)]; }
   bool isInside(int place) const;
+  int columnsOf(int line) const;
+  void count(int firstLine, int lastLine, int by);
 
   std::wstring text_;
   std::vector<int> starts_ = {0};
+  // How many lines take so many columns.
+  std::map<int, int> columns_ = {{0, 1}};
 };
 
 }  // namespace win32

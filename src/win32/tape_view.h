@@ -2,7 +2,12 @@
 
 #include <windows.h>
 
-#include "controls/layout.h"
+#include <functional>
+#include <string_view>
+
+#include "controls/text_box.h"
+#include "win32/tape_ink.h"
+#include "win32/tape_letters.h"
 #include "win32/tape_lines.h"
 
 namespace win32 {
@@ -15,7 +20,10 @@ namespace win32 {
 /// character, takes seconds to minutes for a long text, and costs a library at every start.
 class TapeView {
  public:
-  explicit TapeView(HWND window) : window_(window) {}
+  using LookOfLine = std::function<controls::LineLook(std::wstring_view)>;
+
+  TapeView(HWND window, LookOfLine lookOfLine)
+      : window_(window), lookOfLine_(std::move(lookOfLine)) {}
 
   const TapeLines& lines() const { return lines_; }
   int caret() const { return caret_; }
@@ -23,24 +31,33 @@ class TapeView {
   int selectionStart() const { return caret_ < anchor_ ? caret_ : anchor_; }
   int selectionEnd() const { return caret_ < anchor_ ? anchor_ : caret_; }
   int firstLine() const { return firstLine_; }
+  /// How far, in pixels, the lines are drawn to the left of their place.
+  int shift() const { return shift_; }
 
   void replace(int start, int length, std::wstring_view text);
   /// Selects from the anchor to the caret and brings the caret into view.
   void select(int anchor, int caret);
   void setAlignment(controls::Alignment alignment);
-  void setFont(HFONT font);
-  HFONT font() const { return font_; }
   void setColors(COLORREF background, COLORREF text);
+  /// Makes the letters so large that `columns` of them fill the width, beside the scroll bar.
+  void fitLetters(const Fonts& fonts, const controls::FontLayout& font, int columns, int width);
+  HFONT font() const { return letters_.font(); }
 
   /// The window has another size.
   void resize();
   void scrollTo(int firstLine);
-  void takeScrollBar(int action);
+  /// Scrolls by so many columns, to the right when it is positive.
+  void scrollSideways(int columns);
+  /// What the user does with one of the bars.
+  void takeScrollBar(int bar, int action);
   int linesInView() const;
+  void bringCaretIntoView();
 
   /// The place in the text at a place of the window, and back.
   int placeAt(POINT point) const;
   POINT pointOf(int place) const;
+  /// Where the text is seen: within the margins.
+  RECT textArea() const;
 
   void paint(HDC context, const RECT& damaged) const;
   void showCaret();
@@ -48,9 +65,9 @@ class TapeView {
   bool hasCaret() const { return hasCaret_; }
 
  private:
-  // What the scroll bar shows.
+  // What a scroll bar shows.
   struct ScrollBar {
-    bool always = true;
+    bool always = false;
     int last = -1;
     int page = 0;
     int position = 0;
@@ -59,29 +76,40 @@ class TapeView {
   };
 
   void refresh();
-  void bringCaretIntoView();
-  void updateScrollBar();
+  void keepInView();
+  int lastFirstLine() const;
+  int overflow() const;
+  bool needsSidewaysBar() const;
+  void shiftTo(int shift);
+  void updateScrollBars();
+  void updateScrollBar(int bar, ScrollBar& shown, const ScrollBar& wanted);
   void placeCaret() const;
-  int widthOf(std::wstring_view text) const;
   int leftOf(int line) const;
   RECT clientArea() const;
+  controls::LineLook lookOf(int line) const;
   void paintLine(HDC context, int line, const RECT& area) const;
+  void paintSelection(HDC context, int line, const RECT& area) const;
+  void paintRule(HDC context, int line, const RECT& area) const;
 
   HWND window_;
+  LookOfLine lookOfLine_;
   TapeLines lines_;
+  TapeLetters letters_;
+  TapeInk ink_;
   // The selection lies between the two; the caret is the end that moves.
   int anchor_ = 0;
   int caret_ = 0;
   int firstLine_ = 0;
-  // How far the lines are drawn to the left of their place, so that the caret is in view.
+  // Of the window as it was before its size changed.
+  int linesBefore_ = 0;
   int shift_ = 0;
+  int margin_ = 1;
+  // What fills a line; a longer one can be scrolled sideways.
+  int columns_ = 0;
   controls::Alignment alignment_ = controls::Alignment::Left;
-  HFONT font_ = nullptr;
-  int lineHeight_ = 1;
-  COLORREF background_ = 0;
-  COLORREF textColor_ = 0;
   bool hasCaret_ = false;
-  ScrollBar scrollBar_;
+  ScrollBar downBar_ = {.always = true};
+  ScrollBar sidewaysBar_;
 };
 
 }  // namespace win32

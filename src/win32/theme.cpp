@@ -27,9 +27,4 @@ void drawThemeBackground(HTHEME theme, HDC context, int part, int state, const R
   if (draw) draw(theme, context, part, state, &area, nullptr);
 }
 
-void getThemeColor(HTHEME theme, int part, int state, int property, COLORREF& color) {
-  static const auto get = themeFunction<decltype(&GetThemeColor)>("GetThemeColor");
-  if (get) get(theme, part, state, property, &color);
-}
-
 }  // namespace win32

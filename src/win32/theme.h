@@ -11,7 +11,5 @@ namespace win32 {
 HTHEME openTheme(HWND window, const wchar_t* classes);
 void closeTheme(HTHEME theme) noexcept;
 void drawThemeBackground(HTHEME theme, HDC context, int part, int state, const RECT& area);
-/// Leaves the color unchanged if the theme has none.
-void getThemeColor(HTHEME theme, int part, int state, int property, COLORREF& color);
 
 }  // namespace win32

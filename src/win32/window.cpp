@@ -1,7 +1,5 @@
 #include "win32/window.h"
 
-#include <vssym32.h>
-
 #include <algorithm>
 
 #include "win32/button.h"
@@ -56,7 +54,7 @@ Window::Window(Desktop& desktop, const controls::WindowLayout& layout)
     : controls::Window(desktop, layout),
       screen_(desktop),
       handle_(createHandle()),
-      scale_(Scale::of(handle_)),
+      scale_(Scale::at(Scale::of(handle_).monitorDpi(), handle_, layout.place)),
       fonts_(scale_) {
   if (!layout.menu.empty()) menu_.reset(CreateMenu());
   build();
@@ -146,13 +144,7 @@ void Window::focusNative() {
   if (focusedControl()) showFocus(*focusedControl());
 }
 
-HTHEME Window::buttonTheme() {
-  if (!buttonTheme_) buttonTheme_.reset(openTheme(handle_, VSCLASS_BUTTON));
-  return buttonTheme_.get();
-}
-
 void Window::refreshControls() {
-  buttonTheme_.reset();
   for (const auto& control : controls()) NativeControl::of(*control).refresh();
   RedrawWindow(handle_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
 }

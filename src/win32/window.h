@@ -25,8 +25,6 @@ class Window : public controls::Window {
   const Scale& scale() const { return scale_; }
   Fonts& fonts() { return fonts_; }
   const ToolTips& toolTips() const { return toolTips_; }
-  /// How the system draws buttons; nothing where it draws them in the classic way.
-  HTHEME buttonTheme();
   bool isInFront() const { return GetForegroundWindow() == handle_; }
 
  protected:
@@ -84,6 +82,8 @@ class Window : public controls::Window {
   void notePlacement(const Placed& before);
   void noteShownState();
   void takeResolution(const Message& message);
+  void takeTextSize();
+  void rescale(const Scale& scale, const RECT& suggested);
   void refreshControls();
 
   Desktop& screen_;
@@ -94,7 +94,6 @@ class Window : public controls::Window {
   Scale screenScale_ = Scale::ofScreen();
   Fonts fonts_;
   ToolTips toolTips_;
-  OwnedTheme buttonTheme_;
   OwnedMenu menu_;
   // As it was last placed or seen.
   Placement placed_;

@@ -153,11 +153,24 @@ void Window::notePlacement(const Placed& before) {
 // The window keeps its size in twips on the new monitor, and everything in it with it; a maximized
 // one goes on filling its screen, and one that is an icon is put right when it is restored.
 void Window::takeResolution(const Message& message) {
-  scale_ = Scale(LOWORD(message.wParam));
+  rescale(Scale::at(LOWORD(message.wParam), handle_, layout().place),
+          *reinterpret_cast<const RECT*>(message.lParam));
+}
+
+// The user has chosen another size of text, perhaps.
+void Window::takeTextSize() {
+  const Scale now = Scale::at(scale_.monitorDpi(), handle_, layout().place);
+  if (now.dpi() == scale_.dpi()) return;
+  RECT place;
+  GetWindowRect(handle_, &place);
+  rescale(now, place);
+}
+
+void Window::rescale(const Scale& scale, const RECT& suggested) {
+  scale_ = scale;
   const Fonts before = std::exchange(fonts_, Fonts(scale_));
   refreshControls();
   if (placing_ || IsIconic(handle_)) return;
-  const auto& suggested = *reinterpret_cast<const RECT*>(message.lParam);
   if (IsZoomed(handle_)) {
     SetWindowPos(handle_, nullptr, suggested.left, suggested.top, suggested.right - suggested.left,
                  suggested.bottom - suggested.top, SWP_NOZORDER | SWP_NOACTIVATE);
@@ -165,8 +178,8 @@ void Window::takeResolution(const Message& message) {
     return;
   }
   controls::Rect seen = bounds();
-  seen.left = screenScale_.toTwips(suggested.left);
-  seen.top = screenScale_.toTwips(suggested.top);
+  if (suggested.left != placed_.left) seen.left = screenScale_.toTwips(suggested.left);
+  if (suggested.top != placed_.top) seen.top = screenScale_.toTwips(suggested.top);
   noteBounds(seen);
   showBounds();
 }

@@ -36,6 +36,9 @@ std::optional<LRESULT> Window::take(const Message& message) {
     case WM_COMMAND:
     case WM_NOTIFY:
       return takeControl(message);
+    case WM_SETTINGCHANGE:
+      takeTextSize();
+      return {};
     case WM_CTLCOLOREDIT:
     case WM_CTLCOLORSTATIC:
     case WM_CTLCOLORBTN:
@@ -55,7 +58,10 @@ std::optional<LRESULT> Window::takeFocus(const Message& message) {
     focusNative();
     return 0;
   }
-  if (LOWORD(message.wParam) != WA_INACTIVE) noteActivated();
+  if (LOWORD(message.wParam) != WA_INACTIVE) {
+    takeTextSize();
+    noteActivated();
+  }
   return {};
 }
 

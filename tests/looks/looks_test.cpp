@@ -2,6 +2,7 @@
 
 #include "driver/native_handles.h"
 #include "looks/looks_test_base.h"
+#include "looks/picture.h"
 #include "win32/light_icon.h"
 #include "win32/text.h"
 
@@ -165,21 +166,6 @@ class Looks : public LooksTest {
     }
     return seen;
   }
-};
-
-/// A colour of the system that is another until the end of the test.
-class OtherSystemColor {
- public:
-  OtherSystemColor(int index, COLORREF color) : index_(index), before_(GetSysColor(index)) {
-    SetSysColors(1, &index_, &color);
-  }
-  ~OtherSystemColor() { SetSysColors(1, &index_, &before_); }
-  OtherSystemColor(const OtherSystemColor&) = delete;
-  OtherSystemColor& operator=(const OtherSystemColor&) = delete;
-
- private:
-  int index_;
-  COLORREF before_;
 };
 
 TEST_F(Looks, BoxesTakeTheSystemsNewColorsAtOnce) {

@@ -28,7 +28,7 @@ TEST(FrmAnnuityLayout, FieldsFormAColumnBesideTheirLabels) {
 
 TEST(FrmAnnuityLayout, ButtonsAndOptionsFormRows) {
   const auto& layout = frmAnnuityLayout();
-  expectRow(layout, {"cmdRotateLabels", "cmdPrintToTape", "cmdClearAll", "cmdHelp"});
+  expectRow(layout, {"cmdRotateLabels", "cmdClearAll", "cmdHelp", "cmdPrintToTape"});
   expectRow(layout, {"optNper(0)", "optNper(1)"});
   EXPECT_EQ(placeOf(layout, "optNper(0)").top, placeOf(layout, "txtNper").top);
   const auto& frame = placeOf(layout, "fraDueBy");

@@ -13,23 +13,54 @@ TEST(FrmCalcLayout, ControlsFitAndDoNotOverlap) {
 
 TEST(FrmCalcLayout, DigitsAndOperatorsFormAKeypad) {
   const auto& layout = frmCalcLayout();
-  expectRow(layout, {"cmdNumber(7)", "cmdNumber(8)", "cmdNumber(9)", "cmdTimes", "cmdPercent"});
-  expectRow(layout, {"cmdNumber(4)", "cmdNumber(5)", "cmdNumber(6)", "cmdMinus", "cmdChangeSign"});
-  expectRow(layout, {"cmdNumber(1)", "cmdNumber(2)", "cmdNumber(3)", "cmdPlus", "cmdEquals"});
-  expectRow(layout, {"chkFloatingDec", "chkShiftDec", "chkTapeOff", "cmdDivide", "cmdArrow"});
+  expectRow(layout, {"cmdNumber(7)", "cmdNumber(8)", "cmdNumber(9)"});
+  expectRow(layout, {"cmdNumber(4)", "cmdNumber(5)", "cmdNumber(6)"});
+  expectRow(layout, {"cmdNumber(1)", "cmdNumber(2)", "cmdNumber(3)"});
   expectRow(layout, {"cmdNumber(0)", "cmdPeriod"});
-  expectColumn(layout, {"chkFloatingDec", "cmdNumber(7)", "cmdNumber(4)", "cmdNumber(1)"});
-  expectColumn(layout, {"chkShiftDec", "cmdNumber(8)", "cmdNumber(5)", "cmdNumber(2)"});
-  expectColumn(layout, {"chkTapeOff", "cmdNumber(9)", "cmdNumber(6)", "cmdNumber(3)", "cmdPeriod"});
-  expectColumn(layout, {"cmdDivide", "cmdTimes", "cmdMinus", "cmdPlus"});
-  expectColumn(layout, {"cmdArrow", "cmdPercent", "cmdChangeSign", "cmdEquals"});
+  expectColumn(layout, {"cmdNumber(7)", "cmdNumber(4)", "cmdNumber(1)"});
+  expectColumn(layout, {"cmdNumber(8)", "cmdNumber(5)", "cmdNumber(2)"});
+  expectColumn(layout, {"cmdNumber(9)", "cmdNumber(6)", "cmdNumber(3)", "cmdPeriod"});
+}
+
+TEST(FrmCalcLayout, OperatorsAreSetApartFromTheDigits) {
+  const auto& layout = frmCalcLayout();
+  expectRow(layout, {"cmdDivide", "cmdArrow"});
+  expectRow(layout, {"cmdTimes", "cmdPercent"});
+  expectRow(layout, {"cmdMinus", "cmdChangeSign"});
+  expectRow(layout, {"cmdPlus", "cmdEquals"});
+  expectColumn(layout, {"cmdTimes", "cmdMinus", "cmdPlus"});
+  expectColumn(layout, {"cmdPercent", "cmdChangeSign", "cmdEquals"});
+  // On the digits' lines, whatever the gap.
+  expectRow(layout, {"cmdNumber(9)", "cmdTimes"});
+  expectRow(layout, {"cmdNumber(6)", "cmdMinus"});
+  expectRow(layout, {"cmdNumber(3)", "cmdPlus"});
+  expectRow(layout, {"chkTapeOff", "cmdDivide"});
+  const auto gap = [&](std::string_view before, std::string_view behind) {
+    return placeOf(layout, behind).left - right(placeOf(layout, before));
+  };
+  EXPECT_GT(gap("cmdNumber(9)", "cmdTimes"), gap("cmdNumber(8)", "cmdNumber(9)"));
+}
+
+TEST(FrmCalcLayout, TogglesAreSetApartFromTheDigits) {
+  const auto& layout = frmCalcLayout();
+  expectRow(layout, {"chkFloatingDec", "chkShiftDec", "chkTapeOff"});
+  expectColumn(layout, {"chkFloatingDec", "cmdNumber(7)"});
+  expectColumn(layout, {"chkShiftDec", "cmdNumber(8)"});
+  expectColumn(layout, {"chkTapeOff", "cmdNumber(9)"});
+  expectColumn(layout, {"cmdDivide", "cmdTimes"});
+  expectColumn(layout, {"cmdArrow", "cmdPercent"});
+  const auto gap = [&](std::string_view above, std::string_view below) {
+    return placeOf(layout, below).top - bottom(placeOf(layout, above));
+  };
+  EXPECT_GT(gap("chkFloatingDec", "cmdNumber(7)"), gap("cmdNumber(7)", "cmdNumber(4)"));
 }
 
 TEST(FrmCalcLayout, ClearAndMemoryKeysFormColumnsBesideTheDigits) {
   const auto& layout = frmCalcLayout();
-  expectColumn(layout,
-               {"cmdClearCurrent", "cmdClearCalc", "cmdClearTape", "cmdClearAll", "cmdSquareRoot"});
-  expectColumn(layout, {"cmdMemClear", "cmdMemRecall", "cmdMemStore", "cmdMemPlus"});
+  expectColumn(layout, {"cmdClearCalc", "cmdClearTape", "cmdClearAll", "cmdSquareRoot"});
+  expectColumn(layout, {"cmdClearCurrent", "cmdClearCalc"});
+  expectColumn(layout, {"cmdMemRecall", "cmdMemStore", "cmdMemPlus"});
+  expectColumn(layout, {"cmdMemClear", "cmdMemRecall"});
   expectRow(layout, {"cmdClearCurrent", "cmdMemClear"});
   expectRow(layout, {"cmdMemRecall", "cmdNumber(7)"});
   for (const auto name : {"cmdMemPlus", "cmdPlus", "cmdEquals"})
@@ -59,40 +90,40 @@ constexpr Seen kListed[] = {
     {5, "cmdClearCalc", kButton, "C&Total", "", "Clear &total",
      "Clears only the total and sets it to zero.", kSans, 83},
     {6, "cmdMemRecall", kButton, "", "MR", "Memory recall", "Recall memory total.", kSans, 83},
-    {7, "cmdNumber(7)", kButton, "", "7", "", "", kSans, 120},
-    {8, "cmdNumber(8)", kButton, "", "8", "", "", kSans, 120},
-    {9, "cmdNumber(9)", kButton, "", "9", "", "", kSans, 120},
+    {7, "cmdNumber(7)", kButton, "", "7", "", "", kSans, 135},
+    {8, "cmdNumber(8)", kButton, "", "8", "", "", kSans, 135},
+    {9, "cmdNumber(9)", kButton, "", "9", "", "", kSans, 135},
     {10, "cmdTimes", kButton, "", "\u00D7", "Multiply", "", kSans, 135},
-    {11, "cmdPercent", kButton, "", "%", "Percent", "", kSans, 120},
+    {11, "cmdPercent", kButton, "", "%", "Percent", "", kSans, 135},
     {12, "cmdClearTape", kButton, "CTa&pe", "", "Clear ta&pe", "Clears only the tape.", kSans, 83},
     {13, "cmdMemStore", kButton, "", "MS", "Memory store", "Replace memory total with entry.",
      kSans, 83},
-    {14, "cmdNumber(4)", kButton, "", "4", "", "", kSans, 120},
-    {15, "cmdNumber(5)", kButton, "", "5", "", "", kSans, 120},
-    {16, "cmdNumber(6)", kButton, "", "6", "", "", kSans, 120},
+    {14, "cmdNumber(4)", kButton, "", "4", "", "", kSans, 135},
+    {15, "cmdNumber(5)", kButton, "", "5", "", "", kSans, 135},
+    {16, "cmdNumber(6)", kButton, "", "6", "", "", kSans, 135},
     {17, "cmdMinus", kButton, "", "\u2212", "Minus", "", kSans, 135},
-    {18, "cmdChangeSign", kButton, "", "\u00B1", "Change sign", "Change Sign", kSans, 120},
+    {18, "cmdChangeSign", kButton, "", "\u00B1", "Change sign", "Change Sign", kSans, 135},
     {19, "cmdClearAll", kButton, "C&All", "", "Clear &all",
      "Clears the entry box, the tape and resets the total to zero but does not clear the memory.",
      kSans, 83},
     {20, "cmdMemPlus", kButton, "&M +", "", "&Memory plus", "Add entry to memory total.", kSans,
      83},
-    {21, "cmdNumber(1)", kButton, "", "1", "", "", kSans, 120},
-    {22, "cmdNumber(2)", kButton, "", "2", "", "", kSans, 120},
-    {23, "cmdNumber(3)", kButton, "", "3", "", "", kSans, 120},
-    {24, "cmdPlus", kButton, "", "+", "Plus", "", kSans, 135},
-    {25, "cmdEquals", kButton, "", "=", "Equals", "", kSans, 135},
+    {21, "cmdNumber(1)", kButton, "", "1", "", "", kSans, 135},
+    {22, "cmdNumber(2)", kButton, "", "2", "", "", kSans, 135},
+    {23, "cmdNumber(3)", kButton, "", "3", "", "", kSans, 135},
+    {24, "cmdPlus", kButton, "", "+", "Plus", "", kSans, 150, true},
+    {25, "cmdEquals", kButton, "", "=", "Equals", "", kSans, 150, true},
     {26, "cmdSquareRoot", kButton, "sqrt", "", "Square root", "Square Root", kSans, 83},
-    {27, "cmdNumber(0)", kButton, "", "0", "", "", kSans, 120},
-    {28, "cmdPeriod", kButton, "", ".", "Decimal point", "", kSans, 120},
+    {27, "cmdNumber(0)", kButton, "", "0", "", "", kSans, 135},
+    {28, "cmdPeriod", kButton, "", ".", "Decimal point", "", kSans, 135},
     {29, "chkFloatingDec", kToggle, "", "Float\ndec.", "Floating decimal",
-     "Floating decimal is on when pressed down.", kSans, 68},
+     "Floating decimal is on when pressed down.", kSans, 83},
     {30, "chkShiftDec", kToggle, "", "Stat.\ndec.", "Stationary decimal",
-     "The decimal is stationary until keyed when pressed down.", kSans, 68},
+     "The decimal is stationary until keyed when pressed down.", kSans, 83},
     {31, "chkTapeOff", kToggle, "", "Tape\noff", "Tape off", "Tape is off when pressed down.",
-     kSans, 68},
+     kSans, 83},
     {32, "txtTape", kBox, "", "", "Tape", "", kTerminal, 72, false, Alignment::Right},
-    {33, "Label1", kLabel, "Decimals:", "", "", "", kSans, 83, false, Alignment::Right},
+    {33, "Label1", kLabel, "&Decimals:", "", "", "", kSans, 83, false, Alignment::Right},
     {34, "txtDec", kBox, "", "", "Decimal places", "Number of decimal places allowed.", kCourier,
      120, true},
 };

@@ -22,7 +22,7 @@ class ColorTest : public ProgramTest {
   HWND openPicker() {
     HWND label = nullptr;
     for (HWND child : shownChildren(program().mainWindow()))
-      if (textOf(child) == L"Decimals:") label = child;
+      if (textOf(child) == L"&Decimals:") label = child;
     doubleClick(middleOf(label));
     expectMessage(kMessage);
     answer(VK_RETURN);

@@ -1,0 +1,77 @@
+#include "engine/tape_line_look.h"
+
+#include <optional>
+
+#include "common/number_text.h"
+
+namespace engine {
+
+using controls::LineLook;
+
+namespace {
+
+constexpr std::string_view kSymbols = "+-X/S* ";
+
+// An amount as the tape prints it; one with a currency sign belongs to a record.
+bool isAmount(std::string_view text) {
+  const bool plain = text.find_first_not_of("-0123456789,.E+") == std::string_view::npos;
+  return plain && common::tryNumber(text).has_value();
+}
+
+struct Posting {
+  std::string_view amount;
+  char symbol;
+};
+
+// The amount and the symbol of a line that has both.
+std::optional<Posting> postingOf(std::string_view line) {
+  const std::size_t start = line.find_first_not_of(' ');
+  if (start == std::string_view::npos) return {};
+  line.remove_prefix(start);
+  const std::size_t end = line.find(' ');
+  if (end == std::string_view::npos || end + 1 >= line.size()) return {};
+  const Posting posting = {line.substr(0, end), line[end + 1]};
+  const bool alone = end + 2 == line.size() || line[end + 2] == ' ';
+  if (!alone || kSymbols.find(posting.symbol) == std::string_view::npos) return {};
+  if (!isAmount(posting.amount)) return {};
+  return posting;
+}
+
+std::string_view wordFor(char symbol) {
+  switch (symbol) {
+    case '+':
+      return " plus";
+    case '-':
+      return " minus";
+    case 'X':
+      return " times";
+    case '/':
+      return " divided by";
+    case 'S':
+      return " square root";
+    default:
+      return "";
+  }
+}
+
+}  // namespace
+
+LineLook tapeLineLook(std::string_view line) {
+  const auto posting = postingOf(line);
+  if (!posting) return LineLook::Note;
+  const bool negative = posting->amount.front() == '-';
+  if (posting->symbol == '*') return negative ? LineLook::NegativeTotal : LineLook::Total;
+  // A negative amount that is subtracted adds.
+  return negative != (posting->symbol == '-') ? LineLook::TakenOff : LineLook::Amount;
+}
+
+std::string spokenTapeLine(std::string_view line) {
+  if (line.starts_with("Error:")) return std::string(line);
+  const auto posting = postingOf(line);
+  if (!posting) return "";
+  const std::string amount(posting->amount);
+  return posting->symbol == '*' ? "total " + amount
+                                : amount + std::string(wordFor(posting->symbol));
+}
+
+}  // namespace engine

@@ -1,0 +1,147 @@
+#include <windows.h>
+
+#include <windowsx.h>
+
+#include <algorithm>
+#include <cstdlib>
+
+#include "win32/keys.h"
+#include "win32/tape_box.h"
+
+// The mouse on the tape.
+namespace win32 {
+namespace {
+
+constexpr UINT_PTR kDragTimer = 1;
+constexpr UINT kDragInterval = 50;
+
+}  // namespace
+
+std::optional<LRESULT> TapeBox::takeScrolling(const Message& message) {
+  switch (message.id) {
+    case WM_VSCROLL:
+      view_.takeScrollBar(SB_VERT, LOWORD(message.wParam));
+      return 0;
+    case WM_HSCROLL:
+      view_.takeScrollBar(SB_HORZ, LOWORD(message.wParam));
+      return 0;
+    case WM_MOUSEWHEEL:
+      turnWheel(GET_WHEEL_DELTA_WPARAM(message.wParam),
+                (GET_KEYSTATE_WPARAM(message.wParam) & MK_SHIFT) != 0);
+      return 0;
+    case WM_MOUSEHWHEEL:
+      turnWheel(-GET_WHEEL_DELTA_WPARAM(message.wParam), true);
+      return 0;
+    default: {
+      if (!dragging_) return 0;
+      POINT mouse;
+      GetCursorPos(&mouse);
+      ScreenToClient(handle(), &mouse);
+      dragTo(mouse);
+      return 0;
+    }
+  }
+}
+
+void TapeBox::turnWheel(int delta, bool sideways) {
+  UINT lines = 3;
+  SystemParametersInfoW(SPI_GETWHEELSCROLLLINES, 0, &lines, 0);
+  const int step = lines == WHEEL_PAGESCROLL ? view_.linesInView() : static_cast<int>(lines);
+  wheelRest_ += delta * step;
+  const int turned = wheelRest_ / WHEEL_DELTA;
+  wheelRest_ %= WHEEL_DELTA;
+  if (sideways) {
+    view_.scrollSideways(-turned);
+  } else {
+    view_.scrollTo(view_.firstLine() - turned);
+  }
+}
+
+std::optional<LRESULT> TapeBox::takeMouse(const Message& message) {
+  switch (message.id) {
+    case WM_LBUTTONDOWN:
+      pressMouse(message);
+      return 0;
+    case WM_MOUSEMOVE:
+      if (dragging_) dragTo(mousePlace(message));
+      return 0;
+    case WM_LBUTTONUP:
+      if (dragging_) ReleaseCapture();
+      mouseUp();
+      return 0;
+    case WM_CAPTURECHANGED:
+      dragging_ = false;
+      KillTimer(handle(), kDragTimer);
+      return 0;
+    case WM_LBUTTONDBLCLK:
+      pressAgain(message);
+      return 0;
+    default:
+      return {};
+  }
+}
+
+// The place is that which the user has seen under the mouse: what a handler does when the focus
+// arrives may scroll the tape.
+void TapeBox::pressMouse(const Message& message) {
+  const POINT point = mousePlace(message);
+  const int place = view_.placeAt(point);
+  const int firstLine = view_.firstLine();
+  const int anchor = isDown(VK_SHIFT) ? view_.anchor() : place;
+  SetFocus(handle());
+  mouseDown();
+  view_.scrollTo(firstLine);
+  if (isThirdClick(point)) return startDrag(Unit::Line, spanAt(place, Unit::Line));
+  doubleClickTime_ = 0;
+  view_.select(anchor, place);
+  startDrag(Unit::Character, {anchor, anchor});
+}
+
+void TapeBox::pressAgain(const Message& message) {
+  doubleClickTime_ = static_cast<DWORD>(GetMessageTime());
+  doubleClickPlace_ = mousePlace(message);
+  startDrag(Unit::Word, spanAt(view_.caret(), Unit::Word));
+  doubleClick();
+}
+
+bool TapeBox::isThirdClick(POINT point) const {
+  const DWORD now = static_cast<DWORD>(GetMessageTime());
+  return doubleClickTime_ != 0 && now - doubleClickTime_ <= GetDoubleClickTime() &&
+         std::abs(point.x - doubleClickPlace_.x) <= GetSystemMetrics(SM_CXDOUBLECLK) &&
+         std::abs(point.y - doubleClickPlace_.y) <= GetSystemMetrics(SM_CYDOUBLECLK);
+}
+
+void TapeBox::startDrag(Unit unit, Span span) {
+  dragUnit_ = unit;
+  dragFrom_ = span;
+  if (unit != Unit::Character) view_.select(span.start, span.end);
+  SetCapture(handle());
+  SetTimer(handle(), kDragTimer, kDragInterval, nullptr);
+  dragging_ = true;
+}
+
+TapeBox::Span TapeBox::spanAt(int place, Unit unit) const {
+  const TapeLines& lines = view_.lines();
+  switch (unit) {
+    case Unit::Word:
+      return {lines.wordStart(place), lines.wordEnd(place)};
+    case Unit::Line: {
+      // With its line end, where it has one.
+      const int line = lines.lineOf(place);
+      return {lines.start(line), line + 1 < lines.count() ? lines.start(line + 1) : lines.length()};
+    }
+    default:
+      return {place, place};
+  }
+}
+
+// Whole words, or lines, from the one where the drag began to the one under the mouse.
+void TapeBox::dragTo(POINT point) {
+  const Span reached = spanAt(view_.placeAt(point), dragUnit_);
+  const bool back = reached.start < dragFrom_.start;
+  const int anchor = back ? dragFrom_.end : dragFrom_.start;
+  const int caret = back ? reached.start : std::max(reached.end, dragFrom_.end);
+  if (caret != view_.caret() || anchor != view_.anchor()) view_.select(anchor, caret);
+}
+
+}  // namespace win32

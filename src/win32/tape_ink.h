@@ -1,0 +1,30 @@
+#pragma once
+
+#include <windows.h>
+
+#include "controls/text_box.h"
+#include "win32/colors.h"
+
+namespace win32 {
+
+/// The colours that the lines of the tape are written in. Each can be read on the background,
+/// whichever the user has chosen; where the user's system has colours of its own for who sees
+/// little, all lines have one.
+struct TapeInk {
+  COLORREF background = 0;
+  COLORREF plain = 0;
+  COLORREF takenOff = 0;
+  COLORREF note = 0;
+  /// Whether a line stands above a total.
+  bool rules = false;
+
+  static TapeInk on(COLORREF background, COLORREF text);
+  COLORREF of(controls::LineLook look) const;
+};
+
+/// Whether a line is written in bold letters, with a rule above it.
+inline bool isTotal(controls::LineLook look) {
+  return look == controls::LineLook::Total || look == controls::LineLook::NegativeTotal;
+}
+
+}  // namespace win32

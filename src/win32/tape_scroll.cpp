@@ -1,0 +1,117 @@
+#include <algorithm>
+
+#include "win32/tape_view.h"
+
+// How the text of the tape moves in its window, and what its scroll bars show.
+namespace win32 {
+
+using controls::Alignment;
+
+namespace {
+
+// A bar below fewer lines would take the place of one that is wanted more.
+constexpr int kLeastLinesAboveBar = 4;
+
+}  // namespace
+
+void TapeView::scrollTo(int firstLine) {
+  firstLine_ = std::clamp(firstLine, 0, lastFirstLine());
+  refresh();
+}
+
+void TapeView::scrollSideways(int columns) {
+  shiftTo(shift_ + columns * letters_.cell());
+}
+
+void TapeView::shiftTo(int shift) {
+  shift_ = shift;
+  refresh();
+}
+
+// What the longest line is wider than the window.
+int TapeView::overflow() const {
+  constexpr int kCaret = 1;
+  const RECT area = textArea();
+  const int room = static_cast<int>(area.right - area.left) - kCaret;
+  return std::max(0, lines_.columns() * letters_.cell() - room);
+}
+
+void TapeView::keepInView() {
+  const int most = overflow();
+  shift_ =
+      alignment_ == Alignment::Left ? std::clamp(shift_, 0, most) : std::clamp(shift_, -most, 0);
+}
+
+// The lines that the machine prints fit in beside a bar, or nearly so.
+bool TapeView::needsSidewaysBar() const {
+  if (lines_.columns() <= columns_ || overflow() == 0) return false;
+  const int bar = sidewaysBar_.last > 0 ? GetSystemMetrics(SM_CYHSCROLL) : 0;
+  const int height = static_cast<int>(clientArea().bottom) + bar;
+  return height >= kLeastLinesAboveBar * letters_.lineHeight() + GetSystemMetrics(SM_CYHSCROLL);
+}
+
+// A padded line needs the place of the bar, which comes when there is something to scroll; figures
+// that stand at the right would jump then, and always have it beside them.
+void TapeView::updateScrollBars() {
+  ScrollBar sideways;
+  if (needsSidewaysBar()) {
+    const RECT area = textArea();
+    const int most = overflow();
+    sideways.page = std::max(1L, area.right - area.left);
+    sideways.last = most + sideways.page - 1;
+    sideways.position = alignment_ == Alignment::Left ? shift_ : most + shift_;
+  }
+  updateScrollBar(SB_HORZ, sidewaysBar_, sideways);
+  const int page = linesInView();
+  updateScrollBar(SB_VERT, downBar_,
+                  {alignment_ == Alignment::Right, lines_.count() - 1, page, firstLine_});
+}
+
+// The system paints the whole scroll bar for each call, also when it says nothing new.
+void TapeView::updateScrollBar(int bar, ScrollBar& shown, const ScrollBar& wanted) {
+  if (shown == wanted) return;
+  const bool comesBack = wanted.always && !shown.always;
+  shown = wanted;
+  if (comesBack) ShowScrollBar(window_, bar, TRUE);
+  SCROLLINFO info = {};
+  info.cbSize = sizeof info;
+  info.fMask = SIF_RANGE | SIF_PAGE | SIF_POS;
+  if (wanted.always) info.fMask |= SIF_DISABLENOSCROLL;
+  info.nMax = std::max(0, wanted.last);
+  info.nPage = static_cast<UINT>(wanted.page);
+  info.nPos = wanted.position;
+  SetScrollInfo(window_, bar, &info, TRUE);
+}
+
+void TapeView::takeScrollBar(int bar, int action) {
+  SCROLLINFO info = {};
+  info.cbSize = sizeof info;
+  info.fMask = SIF_ALL;
+  GetScrollInfo(window_, bar, &info);
+  const int step = bar == SB_VERT ? 1 : letters_.cell();
+  const int page = bar == SB_VERT ? linesInView() : static_cast<int>(info.nPage);
+  const int present = bar == SB_VERT ? firstLine_ : shift_;
+  const int start = bar == SB_VERT || alignment_ == Alignment::Left ? 0 : -overflow();
+  const auto go = [&](int place) { bar == SB_VERT ? scrollTo(place) : shiftTo(place); };
+  switch (action) {
+    case SB_LINEUP:
+      return go(present - step);
+    case SB_LINEDOWN:
+      return go(present + step);
+    case SB_PAGEUP:
+      return go(present - page);
+    case SB_PAGEDOWN:
+      return go(present + page);
+    case SB_TOP:
+      return go(start);
+    case SB_BOTTOM:
+      return go(start + info.nMax);
+    case SB_THUMBTRACK:
+    case SB_THUMBPOSITION:
+      return go(start + info.nTrackPos);
+    default:
+      return;
+  }
+}
+
+}  // namespace win32

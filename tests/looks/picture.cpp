@@ -1,0 +1,57 @@
+#include "looks/picture.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdint>
+
+namespace looks {
+namespace {
+
+double light(int part) {
+  const double share = part / 255.0;
+  return share <= 0.04045 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
+}
+
+double light(COLORREF color) {
+  return 0.2126 * light(GetRValue(color)) + 0.7152 * light(GetGValue(color)) +
+         0.0722 * light(GetBValue(color));
+}
+
+}  // namespace
+
+Picture::Picture(HWND window) {
+  RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
+  RECT client;
+  GetClientRect(window, &client);
+  width_ = client.right;
+  height_ = client.bottom;
+  points_.resize(static_cast<std::size_t>(width_) * static_cast<std::size_t>(height_));
+  const HDC context = GetDC(window);
+  const HDC memory = CreateCompatibleDC(context);
+  const HBITMAP bitmap = CreateCompatibleBitmap(context, width_, height_);
+  const HGDIOBJ before = SelectObject(memory, bitmap);
+  BitBlt(memory, 0, 0, width_, height_, context, 0, 0, SRCCOPY);
+  SelectObject(memory, before);
+  BITMAPINFO format = {};
+  format.bmiHeader.biSize = sizeof format.bmiHeader;
+  format.bmiHeader.biWidth = width_;
+  format.bmiHeader.biHeight = -height_;
+  format.bmiHeader.biPlanes = 1;
+  format.bmiHeader.biBitCount = 32;
+  std::vector<std::uint32_t> pixels(points_.size());
+  GetDIBits(memory, bitmap, 0, static_cast<UINT>(height_), pixels.data(), &format, DIB_RGB_COLORS);
+  DeleteObject(bitmap);
+  DeleteDC(memory);
+  ReleaseDC(window, context);
+  std::transform(pixels.begin(), pixels.end(), points_.begin(), [](std::uint32_t pixel) {
+    return RGB(pixel >> 16 & 0xFF, pixel >> 8 & 0xFF, pixel & 0xFF);
+  });
+}
+
+double contrast(COLORREF one, COLORREF other) {
+  const double a = light(one);
+  const double b = light(other);
+  return (std::max(a, b) + 0.05) / (std::min(a, b) + 0.05);
+}
+
+}  // namespace looks

@@ -1,0 +1,56 @@
+#pragma once
+
+#include <windows.h>
+
+#include <cstddef>
+#include <vector>
+
+namespace looks {
+
+/// What is seen of a window's client area.
+class Picture {
+ public:
+  explicit Picture(HWND window);
+
+  int width() const { return width_; }
+  int height() const { return height_; }
+  /// An exception beyond the window.
+  COLORREF at(int x, int y) const {
+    return points_.at(static_cast<std::size_t>(y) * static_cast<std::size_t>(width_) +
+                      static_cast<std::size_t>(x));
+  }
+  /// How many points of a part have a colour that the test tells.
+  template <class Wanted>
+  int count(const RECT& part, const Wanted& wanted) const {
+    int found = 0;
+    for (int y = part.top; y < part.bottom; ++y)
+      for (int x = part.left; x < part.right; ++x)
+        if (wanted(at(x, y))) ++found;
+    return found;
+  }
+
+ private:
+  int width_ = 0;
+  int height_ = 0;
+  std::vector<COLORREF> points_;
+};
+
+/// The contrast of two colours by the guidelines of the web, reckoned apart from the program.
+double contrast(COLORREF one, COLORREF other);
+
+/// A colour of the system that is another until the end of the test.
+class OtherSystemColor {
+ public:
+  OtherSystemColor(int index, COLORREF color) : index_(index), before_(GetSysColor(index)) {
+    SetSysColors(1, &index_, &color);
+  }
+  ~OtherSystemColor() { SetSysColors(1, &index_, &before_); }
+  OtherSystemColor(const OtherSystemColor&) = delete;
+  OtherSystemColor& operator=(const OtherSystemColor&) = delete;
+
+ private:
+  int index_;
+  COLORREF before_;
+};
+
+}  // namespace looks

@@ -1,0 +1,96 @@
+#include <algorithm>
+#include <string>
+#include <vector>
+
+#include "looks/looks_test_base.h"
+
+// What a screen reader hears of the program: a client that listens to the system's events.
+namespace looks {
+namespace {
+
+struct Heard {
+  DWORD event;
+  HWND window;
+  std::wstring name;
+};
+
+std::vector<Heard> heard;
+
+void CALLBACK listen(HWINEVENTHOOK, DWORD event, HWND window, LONG, LONG, DWORD, DWORD) {
+  wchar_t name[256] = L"";
+  GetWindowTextW(window, name, 256);
+  heard.push_back({event, window, name});
+}
+
+class Speech : public LooksTest {
+ protected:
+  void SetUp() override {
+    LooksTest::SetUp();
+    hook_ = SetWinEventHook(EVENT_OBJECT_NAMECHANGE, EVENT_OBJECT_LIVEREGIONCHANGED, nullptr,
+                            listen, GetCurrentProcessId(), 0, WINEVENT_OUTOFCONTEXT);
+    ASSERT_NE(hook_, nullptr);
+    heard.clear();
+  }
+  void TearDown() override {
+    UnhookWinEvent(hook_);
+    LooksTest::TearDown();
+  }
+
+  /// Waits until something is heard that the test tells.
+  template <class Wanted>
+  static bool hears(const Wanted& wanted) {
+    constexpr ULONGLONG kPatience = 5000;
+    const ULONGLONG until = GetTickCount64() + kPatience;
+    while (GetTickCount64() < until) {
+      MSG message;
+      while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) DispatchMessageW(&message);
+      if (std::any_of(heard.begin(), heard.end(), wanted)) return true;
+      MsgWaitForMultipleObjects(0, nullptr, FALSE, 50, QS_ALLINPUT);
+    }
+    return false;
+  }
+  static bool hearsSaid(const std::wstring& text) {
+    return hears([&](const Heard& each) {
+      return each.event == EVENT_OBJECT_LIVEREGIONCHANGED && each.name == text;
+    });
+  }
+  static bool hearsOf(HWND window, DWORD event) {
+    return hears([&](const Heard& each) { return each.event == event && each.window == window; });
+  }
+
+ private:
+  HWINEVENTHOOK hook_ = nullptr;
+};
+
+TEST_F(Speech, PostingsAreSaidAsTheyHappen) {
+  tell("type \"12.5+\"");
+  EXPECT_TRUE(hearsSaid(L"12.50 plus"));
+  tell("type \"1580-\"");
+  EXPECT_TRUE(hearsSaid(L"1,580.00 minus"));
+  tell("type \"\\r\"");
+  EXPECT_TRUE(hearsSaid(L"total -1,567.50"));
+}
+
+TEST_F(Speech, AnswersOfTheFinancialCalculatorAreSaid) {
+  tell("menu mnuWinFinCalcLoan");
+  for (const char* keys : {"\"30\\r\"", "\"7.5\\r\""}) tell(std::string("type ") + keys);
+  tell("focus frmAnnuity.txtPV");
+  tell("type \"100000\"");
+  tell("focus frmAnnuity.txtFV");
+  tell("type \"0\"");
+  tell("click frmAnnuity.cmdCalculate");
+  const std::string answer = tell("get frmAnnuity.lblAnswer Caption")["value"];
+  ASSERT_FALSE(answer.empty());
+  EXPECT_TRUE(hearsSaid(std::wstring(answer.begin(), answer.end())));
+}
+
+TEST_F(Speech, TapeTellsOfItsTextAndItsSelection) {
+  const HWND tape = control("frmCalc", "txtTape");
+  tell("focus txtTape");
+  tell("type \"a\"");
+  EXPECT_TRUE(hearsOf(tape, EVENT_OBJECT_VALUECHANGE));
+  EXPECT_TRUE(hearsOf(tape, EVENT_OBJECT_TEXTSELECTIONCHANGED));
+}
+
+}  // namespace
+}  // namespace looks
