@@ -25,7 +25,7 @@ inline constexpr std::size_t kLongestEdit = 32767;
 std::string withoutLineEnd(std::string text);
 
 /// How a line of a text is drawn. It tells nothing that the text of the line does not.
-enum class LineLook { Amount, TakenOff, Total, NegativeTotal, Note };
+enum class LineStyle { Amount, TakenOff, Total, NegativeTotal, Note };
 
 /// The part of a pasted text that goes into a single-line box.
 std::string firstLineOf(std::string_view text);
@@ -52,7 +52,7 @@ class TextBox : public Control {
   std::function<void(MouseEdit)> onMouseUp;
 
   /// How a line of a multi-line text is drawn; without it all lines are amounts.
-  std::function<LineLook(std::string_view)> lookOfLine;
+  std::function<LineStyle(std::string_view)> styleOfLine;
   /// What a screen reader reads out when a line is appended; empty for nothing.
   std::function<std::string(std::string_view)> spokenLine;
 

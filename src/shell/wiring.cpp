@@ -1,7 +1,7 @@
 // Which control does what: one line for each.
 #include <utility>
 
-#include "engine/tape_line_look.h"
+#include "engine/tape_line_style.h"
 #include "shell/frm_calc.h"
 
 namespace shell {
@@ -82,7 +82,7 @@ void frmCalc::wireOtherBoxes() {
   txtTape.onEdit = [this](const common::TextEdit& edit) {
     controls_.desktop.tapeSafe().record(edit);
   };
-  txtTape.lookOfLine = engine::tapeLineLook;
+  txtTape.styleOfLine = engine::tapeLineStyle;
   txtTape.spokenLine = engine::spokenTapeLine;
   txtTape.onGotFocus = [this, &txtTape] {
     txtTape.moveCaretToEnd();

@@ -34,7 +34,7 @@ const wchar_t* tapeClass() {
 
 TapeBox::TapeBox(Window& frame, const controls::ControlLayout& layout)
     : Native(frame, layout, {tapeClass(), kStyle, WS_EX_CLIENTEDGE}),
-      view_(handle(), [this](std::wstring_view line) { return lookOf(line); }),
+      view_(handle(), [this](std::wstring_view line) { return styleOf(line); }),
       input_(*this, *this),
       name_(handle(), layout.accessibleName),
       region_(frame.handle()) {
@@ -49,8 +49,8 @@ void TapeBox::refresh() {
   putColors();
 }
 
-controls::LineLook TapeBox::lookOf(std::wstring_view line) const {
-  return lookOfLine ? lookOfLine(narrow(line)) : controls::LineLook::Amount;
+controls::LineStyle TapeBox::styleOf(std::wstring_view line) const {
+  return styleOfLine ? styleOfLine(narrow(line)) : controls::LineStyle::Amount;
 }
 
 // The letters are as large beside a bar as without one, which comes and goes.

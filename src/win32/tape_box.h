@@ -44,7 +44,7 @@ class TapeBox : public Native<controls::TextBox> {
     int x;
   };
 
-  controls::LineLook lookOf(std::wstring_view line) const;
+  controls::LineStyle styleOf(std::wstring_view line) const;
   void sayLines(std::string_view text);
   void noteText() const;
   void fitLetters();

@@ -2,7 +2,7 @@
 
 namespace win32 {
 
-using controls::LineLook;
+using controls::LineStyle;
 
 TapeInk TapeInk::on(COLORREF background, COLORREF text) {
   constexpr COLORREF kRed = RGB(0xC0, 0x14, 0x14);
@@ -11,12 +11,12 @@ TapeInk TapeInk::on(COLORREF background, COLORREF text) {
   return {background, text, legibleOn(background, kRed), legibleOn(background, kGrey), true};
 }
 
-COLORREF TapeInk::of(LineLook look) const {
-  switch (look) {
-    case LineLook::TakenOff:
-    case LineLook::NegativeTotal:
+COLORREF TapeInk::of(LineStyle style) const {
+  switch (style) {
+    case LineStyle::TakenOff:
+    case LineStyle::NegativeTotal:
       return takenOff;
-    case LineLook::Note:
+    case LineStyle::Note:
       return note;
     default:
       return plain;

@@ -19,12 +19,12 @@ struct TapeInk {
   bool rules = false;
 
   static TapeInk on(COLORREF background, COLORREF text);
-  COLORREF of(controls::LineLook look) const;
+  COLORREF of(controls::LineStyle style) const;
 };
 
 /// Whether a line is written in bold letters, with a rule above it.
-inline bool isTotal(controls::LineLook look) {
-  return look == controls::LineLook::Total || look == controls::LineLook::NegativeTotal;
+inline bool isTotal(controls::LineStyle style) {
+  return style == controls::LineStyle::Total || style == controls::LineStyle::NegativeTotal;
 }
 
 }  // namespace win32

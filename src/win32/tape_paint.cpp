@@ -5,7 +5,7 @@
 // How the text of the tape is drawn.
 namespace win32 {
 
-using controls::LineLook;
+using controls::LineStyle;
 
 namespace {
 
@@ -31,18 +31,18 @@ void TapeView::paint(HDC context, const RECT& damaged) const {
 }
 
 // The machine's own lines are short.
-LineLook TapeView::lookOf(int line) const {
+LineStyle TapeView::styleOf(int line) const {
   constexpr std::size_t kLongest = 64;
-  return lookOfLine_(lines_.line(line).substr(0, kLongest));
+  return styleOfLine_(lines_.line(line).substr(0, kLongest));
 }
 
 void TapeView::paintLine(HDC context, int line, const RECT& area) const {
   fill(context, area, ink_.background);
-  const LineLook look = lookOf(line);
-  SetTextColor(context, ink_.of(look));
+  const LineStyle style = styleOf(line);
+  SetTextColor(context, ink_.of(style));
   letters_.draw(context, {leftOf(line), area.top + letters_.spaceAbove()}, area, lines_.line(line),
-                isTotal(look));
-  if (ink_.rules && isTotal(look)) paintRule(context, line, area);
+                isTotal(style));
+  if (ink_.rules && isTotal(style)) paintRule(context, line, area);
   paintSelection(context, line, area);
 }
 
@@ -55,7 +55,7 @@ void TapeView::paintRule(HDC context, int line, const RECT& area) const {
   const LONG thickness = (letters_.spaceAbove() + 1) / 2;
   const RECT rule = {left + letters_.leftOf(text, start), area.top,
                      left + letters_.leftOf(text, end), area.top + thickness};
-  fill(context, rule, ink_.of(lookOf(line)));
+  fill(context, rule, ink_.of(styleOf(line)));
 }
 
 void TapeView::paintSelection(HDC context, int line, const RECT& area) const {
@@ -66,7 +66,7 @@ void TapeView::paintSelection(HDC context, int line, const RECT& area) const {
   fill(context, marked, GetSysColor(COLOR_HIGHLIGHT));
   SetTextColor(context, GetSysColor(COLOR_HIGHLIGHTTEXT));
   letters_.draw(context, {leftOf(line), area.top + letters_.spaceAbove()}, marked,
-                lines_.line(line), isTotal(lookOf(line)));
+                lines_.line(line), isTotal(styleOf(line)));
 }
 
 }  // namespace win32

@@ -20,10 +20,10 @@ namespace win32 {
 /// character, takes seconds to minutes for a long text, and costs a library at every start.
 class TapeView {
  public:
-  using LookOfLine = std::function<controls::LineLook(std::wstring_view)>;
+  using StyleOfLine = std::function<controls::LineStyle(std::wstring_view)>;
 
-  TapeView(HWND window, LookOfLine lookOfLine)
-      : window_(window), lookOfLine_(std::move(lookOfLine)) {}
+  TapeView(HWND window, StyleOfLine styleOfLine)
+      : window_(window), styleOfLine_(std::move(styleOfLine)) {}
 
   const TapeLines& lines() const { return lines_; }
   int caret() const { return caret_; }
@@ -86,13 +86,13 @@ class TapeView {
   void placeCaret() const;
   int leftOf(int line) const;
   RECT clientArea() const;
-  controls::LineLook lookOf(int line) const;
+  controls::LineStyle styleOf(int line) const;
   void paintLine(HDC context, int line, const RECT& area) const;
   void paintSelection(HDC context, int line, const RECT& area) const;
   void paintRule(HDC context, int line, const RECT& area) const;
 
   HWND window_;
-  LookOfLine lookOfLine_;
+  StyleOfLine styleOfLine_;
   TapeLines lines_;
   TapeLetters letters_;
   TapeInk ink_;

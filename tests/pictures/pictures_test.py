@@ -6,7 +6,7 @@ import unittest
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 PICTURES = ROOT / "docs" / "pictures"
-LOOKS = ROOT / "tests" / "pictures" / "looks"
+APPEARANCES = ROOT / "tests" / "pictures" / "appearance"
 SHOWN = re.compile(r"!\[([^\]]*)\]\(([^)]+)\)")
 
 
@@ -47,14 +47,14 @@ class Pictures(unittest.TestCase):
                 self.assertTrue(100 < width < 700 and 60 < height < 500, (width, height))
 
     def test_each_recipe_says_what_it_shows_and_starts_the_program(self):
-        for path in [*PICTURES.glob("*.txt"), *LOOKS.glob("*.txt")]:
+        for path in [*PICTURES.glob("*.txt"), *APPEARANCES.glob("*.txt")]:
             lines = path.read_text(encoding="utf-8").splitlines()
             with self.subTest(recipe=path.name):
                 self.assertRegex(lines[0], r"^# \w")
                 self.assertIn("start", lines)
 
     def test_no_two_recipes_have_the_same_name(self):
-        names = [path.stem for folder in (PICTURES, LOOKS) for path in folder.glob("*.txt")]
+        names = [path.stem for folder in (PICTURES, APPEARANCES) for path in folder.glob("*.txt")]
         self.assertEqual(len(names), len(set(names)))
 
 

@@ -1,8 +1,8 @@
-#include "looks/tape_test.h"
+#include "appearance/tape_test.h"
 #include "win32/tape_ink.h"
 
 // How the lines of the tape look, and how large their letters are.
-namespace looks {
+namespace appearance {
 namespace {
 
 constexpr int kColumns = 26;
@@ -18,7 +18,7 @@ COLORREF background() {
   return GetSysColor(COLOR_WINDOW);
 }
 
-class TapeLooks : public TapeLooksTest {
+class TapeAppearance : public TapeAppearanceTest {
  protected:
   /// The letters' colour is the one that differs most from the background.
   COLORREF inkOf(const Picture& picture, int line) {
@@ -48,7 +48,7 @@ class TapeLooks : public TapeLooksTest {
   }
 };
 
-TEST_F(TapeLooks, PaddedLineFillsTheTapeFromTheDesignedSizeToThreeTimesThat) {
+TEST_F(TapeAppearance, PaddedLineFillsTheTapeFromTheDesignedSizeToThreeTimesThat) {
   const int designed = cell();
   const int least = designed * kColumns;
   int before = 0;
@@ -66,7 +66,7 @@ TEST_F(TapeLooks, PaddedLineFillsTheTapeFromTheDesignedSizeToThreeTimesThat) {
   EXPECT_EQ(cell(), 3 * designed);
 }
 
-TEST_F(TapeLooks, EveryCharacterIsHitWhereItStandsAtEverySize) {
+TEST_F(TapeAppearance, EveryCharacterIsHitWhereItStandsAtEverySize) {
   for (const int width : {6690, 8000, 11000, 16000}) {
     SCOPED_TRACE(width);
     resizeWindow(width);
@@ -79,7 +79,7 @@ TEST_F(TapeLooks, EveryCharacterIsHitWhereItStandsAtEverySize) {
   }
 }
 
-TEST_F(TapeLooks, FiguresOfTotalsStandUnderThoseOfAmounts) {
+TEST_F(TapeAppearance, FiguresOfTotalsStandUnderThoseOfAmounts) {
   for (const int width : {6690, 9000, 16000}) {
     resizeWindow(width);
     write(L"12.00 + \r\n13.00 + \r\n25.00 * \r\n");
@@ -88,7 +88,7 @@ TEST_F(TapeLooks, FiguresOfTotalsStandUnderThoseOfAmounts) {
   }
 }
 
-TEST_F(TapeLooks, WhatTakesOffIsRed) {
+TEST_F(TapeAppearance, WhatTakesOffIsRed) {
   write(kLines);
   const Picture picture(paper());
   for (const int line : {kTakenOff, kOther, kNegativeTotal})
@@ -97,7 +97,7 @@ TEST_F(TapeLooks, WhatTakesOffIsRed) {
     EXPECT_EQ(picture.count(areaOf(line), isRed), 0) << line;
 }
 
-TEST_F(TapeLooks, TotalsAreBoldBelowARule) {
+TEST_F(TapeAppearance, TotalsAreBoldBelowARule) {
   resizeWindow(12000, 7000);
   write(L"Top\r\n1,250.00 + \r\n1,250.00 * \r\n");
   const Picture picture(paper());
@@ -108,7 +108,7 @@ TEST_F(TapeLooks, TotalsAreBoldBelowARule) {
   EXPECT_LT(longestRow(picture, 1), cell());
 }
 
-TEST_F(TapeLooks, NotesAreQuieterAndStillRead) {
+TEST_F(TapeAppearance, NotesAreQuieterAndStillRead) {
   resizeWindow(12000, 7000);
   write(kLines);
   const Picture picture(paper());
@@ -118,7 +118,7 @@ TEST_F(TapeLooks, NotesAreQuieterAndStillRead) {
     EXPECT_GE(contrast(inkOf(picture, line), background()), 4.5) << line;
 }
 
-TEST_F(TapeLooks, InkIsReadOnEveryBackground) {
+TEST_F(TapeAppearance, InkIsReadOnEveryBackground) {
   for (int part = 0; part < 6 * 6 * 6; ++part) {
     const COLORREF paper = RGB(part % 6 * 51, part / 6 % 6 * 51, part / 36 * 51);
     const COLORREF text = win32::textColorOn(controls::Color::rgb(paper));
@@ -128,7 +128,7 @@ TEST_F(TapeLooks, InkIsReadOnEveryBackground) {
   }
 }
 
-TEST_F(TapeLooks, ColorsForWhoSeesLittleAreTheSystemsAlone) {
+TEST_F(TapeAppearance, ColorsForWhoSeesLittleAreTheSystemsAlone) {
   resizeWindow(12000, 7000);
   const OtherSystemColor face(COLOR_BTNFACE, RGB(0, 0, 0));
   write(kLines);
@@ -138,7 +138,7 @@ TEST_F(TapeLooks, ColorsForWhoSeesLittleAreTheSystemsAlone) {
   EXPECT_LT(longestRow(picture, kTotal), 2 * cell());
 }
 
-TEST_F(TapeLooks, ThousandSizesTakeNoMoreOfTheSystem) {
+TEST_F(TapeAppearance, ThousandSizesTakeNoMoreOfTheSystem) {
   const auto resizeTimes = [this](int times) {
     for (int i = 0; i < times; ++i)
       SetWindowPos(paper(), nullptr, 0, 0, 150 + i % 40 * 12, 180, SWP_NOMOVE | SWP_NOZORDER);
@@ -149,7 +149,7 @@ TEST_F(TapeLooks, ThousandSizesTakeNoMoreOfTheSystem) {
   EXPECT_EQ(GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS), before);
 }
 
-TEST_F(TapeLooks, LastLineStaysInViewWhenTheWindowChanges) {
+TEST_F(TapeAppearance, LastLineStaysInViewWhenTheWindowChanges) {
   for (int line = 0; line < 40; ++line) tell("type \"1+\"");
   for (const int width : {9000, 16000, 6690}) {
     resizeWindow(width, width / 3);
@@ -159,7 +159,7 @@ TEST_F(TapeLooks, LastLineStaysInViewWhenTheWindowChanges) {
   }
 }
 
-TEST_F(TapeLooks, LineBeyondWhatTheSystemDrawsAtOnceIsDrawnToItsEnd) {
+TEST_F(TapeAppearance, LineBeyondWhatTheSystemDrawsAtOnceIsDrawnToItsEnd) {
   constexpr int kLength = 20000;
   tell("focus txtTape");
   write(std::wstring(kLength, L'8') + L"\r\n");
@@ -174,4 +174,4 @@ TEST_F(TapeLooks, LineBeyondWhatTheSystemDrawsAtOnceIsDrawnToItsEnd) {
 }
 
 }  // namespace
-}  // namespace looks
+}  // namespace appearance

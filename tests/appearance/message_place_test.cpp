@@ -1,12 +1,12 @@
 #include <thread>
 
-#include "looks/looks_test_base.h"
+#include "appearance/appearance_test_base.h"
 
 // A message stands where the user looks: over its window.
-namespace looks {
+namespace appearance {
 namespace {
 
-class MessagePlace : public LooksTest {};
+class MessagePlace : public AppearanceTest {};
 
 TEST_F(MessagePlace, MessageStandsOverTheMiddleOfItsWindow) {
   tell("move frmCalc 600 900");
@@ -32,4 +32,4 @@ TEST_F(MessagePlace, MessageStandsOverTheMiddleOfItsWindow) {
 }
 
 }  // namespace
-}  // namespace looks
+}  // namespace appearance

@@ -1,17 +1,17 @@
-#include "looks/looks_test_base.h"
+#include "appearance/appearance_test_base.h"
 
 // The size of text that the user has chosen for all programs.
-namespace looks {
+namespace appearance {
 namespace {
 
 constexpr wchar_t kKey[] = L"Software\\Microsoft\\Accessibility";
 constexpr wchar_t kName[] = L"TextScaleFactor";
 
-class TextSize : public LooksTest {
+class TextSize : public AppearanceTest {
  protected:
   void TearDown() override {
     RegDeleteKeyValueW(HKEY_CURRENT_USER, kKey, kName);
-    LooksTest::TearDown();
+    AppearanceTest::TearDown();
   }
   static void choose(DWORD percent) {
     RegSetKeyValueW(HKEY_CURRENT_USER, kKey, kName, REG_DWORD, &percent, sizeof percent);
@@ -70,4 +70,4 @@ TEST_F(TextSize, NoWindowIsLargerThanTheScreen) {
 }
 
 }  // namespace
-}  // namespace looks
+}  // namespace appearance

@@ -1,13 +1,13 @@
-#include "looks/looks_test_base.h"
+#include "appearance/appearance_test_base.h"
 
 // The screen changes while the window is maximized or minimized.
-namespace looks {
+namespace appearance {
 namespace {
 
-class MaximizedTest : public LooksTest {
+class MaximizedTest : public AppearanceTest {
  protected:
   void SetUp() override {
-    LooksTest::SetUp();
+    AppearanceTest::SetUp();
     tell("move frmCalc 1500 900");
     window_ = window("frmCalc");
     normal_ = placeOf(window_);
@@ -140,4 +140,4 @@ TEST_F(MaximizedTest, AScreenThatChangesLeavesAWindowInItsPlace) {
 }
 
 }  // namespace
-}  // namespace looks
+}  // namespace appearance

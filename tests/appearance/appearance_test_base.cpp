@@ -1,8 +1,8 @@
-#include "looks/looks_test_base.h"
+#include "appearance/appearance_test_base.h"
 
 #include "driver/native_handles.h"
 
-namespace looks {
+namespace appearance {
 namespace {
 
 /// The screen's device context with the font of a control.
@@ -29,61 +29,61 @@ class Ruler {
 }  // namespace
 
 // The program runs until its last window is closed.
-void LooksTest::TearDown() {
+void AppearanceTest::TearDown() {
   if (tell("get frmAnnuity Loaded")["value"] == true) tell("close frmAnnuity");
   DesktopTest::TearDown();
 }
 
-HWND LooksTest::window(const std::string& name) {
+HWND AppearanceTest::window(const std::string& name) {
   HWND handle = nullptr;
   stage().inspect([&] { handle = driver::handleOf(*stage().findWindow(name)); });
   return handle;
 }
 
-HWND LooksTest::control(const std::string& window, const std::string& name) {
+HWND AppearanceTest::control(const std::string& window, const std::string& name) {
   HWND handle = nullptr;
   stage().inspect([&] { handle = driver::handleOf(stage().findWindow(window)->control(name)); });
   return handle;
 }
 
-void LooksTest::setResolution(HWND window, int dpi) {
+void AppearanceTest::setResolution(HWND window, int dpi) {
   setResolution(window, dpi, placeOf(window));
 }
 
-void LooksTest::setResolution(HWND window, int dpi, const RECT& suggested) {
+void AppearanceTest::setResolution(HWND window, int dpi, const RECT& suggested) {
   RECT place = suggested;
   SendMessageW(window, WM_DPICHANGED, MAKEWPARAM(dpi, dpi), reinterpret_cast<LPARAM>(&place));
 }
 
-RECT LooksTest::placeOf(HWND window) {
+RECT AppearanceTest::placeOf(HWND window) {
   RECT place;
   GetWindowRect(window, &place);
   return place;
 }
 
-SIZE LooksTest::clientSize(HWND window) {
+SIZE AppearanceTest::clientSize(HWND window) {
   RECT client;
   GetClientRect(window, &client);
   return {client.right, client.bottom};
 }
 
-LOGFONTW LooksTest::fontOf(HWND control) {
+LOGFONTW AppearanceTest::fontOf(HWND control) {
   LOGFONTW font = {};
   GetObjectW(reinterpret_cast<HFONT>(SendMessageW(control, WM_GETFONT, 0, 0)), sizeof font, &font);
   return font;
 }
 
-TEXTMETRICW LooksTest::metricsOf(HWND control) {
+TEXTMETRICW AppearanceTest::metricsOf(HWND control) {
   TEXTMETRICW metrics = {};
   GetTextMetricsW(Ruler(control).context(), &metrics);
   return metrics;
 }
 
-SIZE LooksTest::sizeOf(HWND control, const std::wstring& text, int width) {
+SIZE AppearanceTest::sizeOf(HWND control, const std::wstring& text, int width) {
   RECT needed = {0, 0, width, 0};
   DrawTextW(Ruler(control).context(), text.c_str(), -1, &needed,
             static_cast<UINT>(DT_CALCRECT | (width > 0 ? DT_WORDBREAK : 0)));
   return {needed.right, needed.bottom};
 }
 
-}  // namespace looks
+}  // namespace appearance

@@ -1,4 +1,4 @@
-#include "engine/tape_line_look.h"
+#include "engine/tape_line_style.h"
 
 #include <optional>
 
@@ -6,7 +6,7 @@
 
 namespace engine {
 
-using controls::LineLook;
+using controls::LineStyle;
 
 namespace {
 
@@ -56,13 +56,13 @@ std::string_view wordFor(char symbol) {
 
 }  // namespace
 
-LineLook tapeLineLook(std::string_view line) {
+LineStyle tapeLineStyle(std::string_view line) {
   const auto posting = postingOf(line);
-  if (!posting) return LineLook::Note;
+  if (!posting) return LineStyle::Note;
   const bool negative = posting->amount.front() == '-';
-  if (posting->symbol == '*') return negative ? LineLook::NegativeTotal : LineLook::Total;
+  if (posting->symbol == '*') return negative ? LineStyle::NegativeTotal : LineStyle::Total;
   // A negative amount that is subtracted adds.
-  return negative != (posting->symbol == '-') ? LineLook::TakenOff : LineLook::Amount;
+  return negative != (posting->symbol == '-') ? LineStyle::TakenOff : LineStyle::Amount;
 }
 
 std::string spokenTapeLine(std::string_view line) {

@@ -5,7 +5,7 @@
 #include <cstddef>
 #include <vector>
 
-namespace looks {
+namespace appearance {
 
 /// What is seen of a window's client area.
 class Picture {
@@ -53,4 +53,4 @@ class OtherSystemColor {
   COLORREF before_;
 };
 
-}  // namespace looks
+}  // namespace appearance

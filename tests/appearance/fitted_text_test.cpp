@@ -1,19 +1,19 @@
 #include <algorithm>
 #include <vector>
 
-#include "looks/looks_test_base.h"
+#include "appearance/appearance_test_base.h"
 #include "win32/text.h"
 
 // An entry that is longer than its box is wide is shown whole.
-namespace looks {
+namespace appearance {
 namespace {
 
 using Picture = std::vector<COLORREF>;
 
-class FittedText : public LooksTest, public testing::WithParamInterface<int> {
+class FittedText : public AppearanceTest, public testing::WithParamInterface<int> {
  protected:
   void SetUp() override {
-    LooksTest::SetUp();
+    AppearanceTest::SetUp();
     setResolution(window("frmCalc"), GetParam());
     entry_ = control("frmCalc", "txtEntry");
   }
@@ -119,4 +119,4 @@ INSTANTIATE_TEST_SUITE_P(Resolutions, FittedText, testing::ValuesIn(kResolutions
                          [](const auto& test) { return std::to_string(test.param * 100 / 96); });
 
 }  // namespace
-}  // namespace looks
+}  // namespace appearance

@@ -1,14 +1,14 @@
 #include <map>
 #include <vector>
 
+#include "appearance/appearance_test_base.h"
+#include "appearance/picture.h"
 #include "driver/native_handles.h"
-#include "looks/looks_test_base.h"
-#include "looks/picture.h"
 #include "win32/colors.h"
 #include "win32/key_style.h"
 
 // How the keys look: told apart by their colour, and read by everybody.
-namespace looks {
+namespace appearance {
 namespace {
 
 using controls::KeyKind;
@@ -43,7 +43,7 @@ Measured measure(HWND key) {
   return measured;
 }
 
-class KeyLooks : public LooksTest {
+class KeyAppearance : public AppearanceTest {
  protected:
   struct Key {
     std::string name;
@@ -76,7 +76,7 @@ class KeyLooks : public LooksTest {
   }
 };
 
-TEST_F(KeyLooks, LettersAndFramesOfEveryKeyAreSeen) {
+TEST_F(KeyAppearance, LettersAndFramesOfEveryKeyAreSeen) {
   tell("menu mnuWinMode(1)");
   expectSeen("frmCalc");
   tell("click chkTapeOff");
@@ -91,7 +91,7 @@ TEST_F(KeyLooks, LettersAndFramesOfEveryKeyAreSeen) {
   tell("close frmAbout");
 }
 
-TEST_F(KeyLooks, KindsAreToldApartByTheirTint) {
+TEST_F(KeyAppearance, KindsAreToldApartByTheirTint) {
   const char* ofEachKind[] = {"cmdNumber(7)",    "cmdMinus",    "cmdPlus",
                               "cmdClearCurrent", "cmdMemStore", "chkFloatingDec"};
   std::map<COLORREF, std::string> faces;
@@ -102,7 +102,7 @@ TEST_F(KeyLooks, KindsAreToldApartByTheirTint) {
   EXPECT_EQ(measure(key("cmdPlus")).face, measure(key("cmdEquals")).face);
 }
 
-TEST_F(KeyLooks, StrongKeysStandOutOfAllOthers) {
+TEST_F(KeyAppearance, StrongKeysStandOutOfAllOthers) {
   const COLORREF around = GetSysColor(COLOR_BTNFACE);
   for (const Key& each : keysOf("frmCalc")) {
     const bool strong = each.name == "cmdPlus" || each.name == "cmdEquals";
@@ -110,7 +110,7 @@ TEST_F(KeyLooks, StrongKeysStandOutOfAllOthers) {
   }
 }
 
-TEST_F(KeyLooks, PressedKeyAndPressedToggleLookSo) {
+TEST_F(KeyAppearance, PressedKeyAndPressedToggleLookSo) {
   const COLORREF atRest = measure(key("cmdNumber(5)")).face;
   SendMessageW(key("cmdNumber(5)"), BM_SETSTATE, TRUE, 0);
   EXPECT_NE(measure(key("cmdNumber(5)")).face, atRest);
@@ -121,7 +121,7 @@ TEST_F(KeyLooks, PressedKeyAndPressedToggleLookSo) {
   EXPECT_GE(contrast(measure(key("chkTapeOff")).face, up), 3.0);
 }
 
-TEST_F(KeyLooks, MemoryInUseIsGreenAndSaysSo) {
+TEST_F(KeyAppearance, MemoryInUseIsGreenAndSaysSo) {
   tell("type \"5\"");
   tell("click cmdMemPlus");
   EXPECT_EQ(measure(key("cmdMemPlus")).face, RGB(0, 255, 0));
@@ -133,7 +133,7 @@ TEST_F(KeyLooks, MemoryInUseIsGreenAndSaysSo) {
   EXPECT_STREQ(name, L"&Memory plus");
 }
 
-TEST_F(KeyLooks, KeyWithTheFocusHasAFrameOfTwoPixels) {
+TEST_F(KeyAppearance, KeyWithTheFocusHasAFrameOfTwoPixels) {
   tell("focus cmdNumber(7)");
   const Picture picture(key("cmdNumber(7)"));
   const int middle = picture.height() / 2;
@@ -144,12 +144,12 @@ TEST_F(KeyLooks, KeyWithTheFocusHasAFrameOfTwoPixels) {
   EXPECT_EQ(picture.at(2, middle), GetSysColor(COLOR_BTNFACE));
 }
 
-TEST_F(KeyLooks, LettersOfTogglesAreAsLargeAsOthers) {
+TEST_F(KeyAppearance, LettersOfTogglesAreAsLargeAsOthers) {
   for (const char* toggle : {"chkFloatingDec", "chkShiftDec", "chkTapeOff"})
     EXPECT_EQ(fontOf(key(toggle)).lfHeight, fontOf(key("cmdClearAll")).lfHeight);
 }
 
-TEST_F(KeyLooks, EveryStateOfEveryKindIsRead) {
+TEST_F(KeyAppearance, EveryStateOfEveryKindIsRead) {
   const COLORREF around = GetSysColor(COLOR_BTNFACE);
   const controls::Color green = controls::Color::rgb(0x00FF00);
   for (const KeyKind kind : kKinds) {
@@ -171,11 +171,11 @@ TEST_F(KeyLooks, EveryStateOfEveryKindIsRead) {
   }
 }
 
-TEST_F(KeyLooks, KeysEndWhereTheDecimalsBoxDoes) {
+TEST_F(KeyAppearance, KeysEndWhereTheDecimalsBoxDoes) {
   EXPECT_EQ(placeOf(key("cmdEquals")).right, placeOf(key("txtDec")).right);
   EXPECT_EQ(placeOf(key("cmdArrow")).right, placeOf(key("txtDec")).right);
   EXPECT_EQ(placeOf(key("cmdSquareRoot")).bottom, placeOf(key("cmdEquals")).bottom);
 }
 
 }  // namespace
-}  // namespace looks
+}  // namespace appearance

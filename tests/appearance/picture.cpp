@@ -1,10 +1,10 @@
-#include "looks/picture.h"
+#include "appearance/picture.h"
 
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
 
-namespace looks {
+namespace appearance {
 namespace {
 
 double light(int part) {
@@ -54,4 +54,4 @@ double contrast(COLORREF one, COLORREF other) {
   return (std::max(a, b) + 0.05) / (std::min(a, b) + 0.05);
 }
 
-}  // namespace looks
+}  // namespace appearance

@@ -1,9 +1,9 @@
 #include <vector>
 
-#include "looks/looks_test_base.h"
+#include "appearance/appearance_test_base.h"
 
 // A window that is drawn to a monitor of another resolution, and back.
-namespace looks {
+namespace appearance {
 namespace {
 
 /// What is seen of a control: its place in the window, and its font.
@@ -21,10 +21,10 @@ bool same(const RECT& one, const RECT& other) {
   return EqualRect(&one, &other);
 }
 
-class ResolutionTest : public LooksTest, public testing::WithParamInterface<const char*> {
+class ResolutionTest : public AppearanceTest, public testing::WithParamInterface<const char*> {
  protected:
   void SetUp() override {
-    LooksTest::SetUp();
+    AppearanceTest::SetUp();
     if (GetParam() != std::string("frmCalc")) tell("menu mnuWinFinCalcLoan");
     tell("move " + std::string(GetParam()) + " 1500 900");
     window_ = window(GetParam());
@@ -100,4 +100,4 @@ INSTANTIATE_TEST_SUITE_P(Windows, ResolutionTest, testing::Values("frmCalc", "fr
                          [](const auto& test) { return std::string(test.param); });
 
 }  // namespace
-}  // namespace looks
+}  // namespace appearance

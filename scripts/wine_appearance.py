@@ -29,14 +29,14 @@ CONTRAST_COLORS = {
 
 
 @dataclass
-class Look:
+class Appearance:
     """The values of the registry that differ from those of a fresh Windows, as regedit reads them."""
     name: str
     values: dict
 
 
 def scaling(percent):
-    return Look("%d-percent" % percent, {DESKTOP: {"LogPixels": "dword:%08x" % (96 * percent // 100)}})
+    return Appearance("%d-percent" % percent, {DESKTOP: {"LogPixels": "dword:%08x" % (96 * percent // 100)}})
 
 
 def large_font(points, bold=False):
@@ -48,14 +48,14 @@ def large_font(points, bold=False):
 
 
 # Small enough for a page, and large enough that the letters are drawn smooth.
-LOOK_OF_DOCUMENTS = scaling(125)
-LOOKS = [scaling(percent) for percent in (100, 125, 150, 200, 300)] + [
-    Look("high-contrast", {
+APPEARANCE_OF_DOCUMENTS = scaling(125)
+APPEARANCES = [scaling(percent) for percent in (100, 125, 150, 200, 300)] + [
+    Appearance("high-contrast", {
         COLORS: {name: '"%s"' % color for name, color in CONTRAST_COLORS.items()},
         HIGH_CONTRAST: {"Flags": '"127"'},
         THEME: {"ThemeActive": '"0"'}}),
-    Look("classic-theme", {THEME: {"ThemeActive": '"0"'}}),
-    Look("large-fonts", {METRICS: {
+    Appearance("classic-theme", {THEME: {"ThemeActive": '"0"'}}),
+    Appearance("large-fonts", {METRICS: {
         "CaptionFont": large_font(16, bold=True), "SmCaptionFont": large_font(14),
         "MenuFont": large_font(16), "MessageFont": large_font(16), "StatusFont": large_font(16),
         "CaptionHeight": '"-540"', "CaptionWidth": '"-540"', "MenuHeight": '"-480"',
@@ -86,16 +86,16 @@ def end_programs():
     _start()
 
 
-def _registry_text(look):
+def _registry_text(appearance):
     lines = ["REGEDIT4", ""]
-    for values in (ALWAYS, look.values):
+    for values in (ALWAYS, appearance.values):
         for key, entries in values.items():
             lines += ["[%s]" % key, *('"%s"=%s' % entry for entry in entries.items()), ""]
     return "\r\n".join(lines)
 
 
-def put_on(look):
-    """Gives the Windows of WINEPREFIX this look, whichever it had before."""
+def put_on(appearance):
+    """Gives the Windows of WINEPREFIX this appearance, whichever it had before."""
     prefix = pathlib.Path(os.environ["WINEPREFIX"])
     _run("wineserver", "-k", check=False)
     _run("wineserver", "-w", check=False)
@@ -106,7 +106,7 @@ def put_on(look):
     for font in prefix.glob(BAD_FONTS):
         font.unlink()
     with tempfile.NamedTemporaryFile("w", suffix=".reg", newline="") as file:
-        file.write(_registry_text(look))
+        file.write(_registry_text(appearance))
         file.flush()
         _run("wine", "regedit", "/S", "Z:" + file.name.replace("/", "\\"))
     end_programs()

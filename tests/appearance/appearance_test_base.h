@@ -6,13 +6,13 @@
 
 #include "desktop/desktop_test.h"
 
-namespace looks {
+namespace appearance {
 
 /// The resolutions of 100, 125, 150, 200 and 300 percent.
 inline constexpr int kResolutions[] = {96, 120, 144, 192, 288};
 
 /// The program on a monitor whose resolution the test chooses.
-class LooksTest : public desktop::DesktopTest {
+class AppearanceTest : public desktop::DesktopTest {
  protected:
   void TearDown() override;
 
@@ -32,4 +32,4 @@ class LooksTest : public desktop::DesktopTest {
   static SIZE sizeOf(HWND control, const std::wstring& text, int width = 0);
 };
 
-}  // namespace looks
+}  // namespace appearance

@@ -2,13 +2,13 @@
 
 #include <string>
 
-#include "looks/looks_test_base.h"
-#include "looks/picture.h"
+#include "appearance/appearance_test_base.h"
+#include "appearance/picture.h"
 
-namespace looks {
+namespace appearance {
 
 /// The tape of the main window.
-class TapeLooksTest : public LooksTest {
+class TapeAppearanceTest : public AppearanceTest {
  protected:
   HWND paper() { return control("frmCalc", "txtTape"); }
   LRESULT send(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
@@ -41,4 +41,4 @@ class TapeLooksTest : public LooksTest {
   int selectionEnd() { return static_cast<short>(HIWORD(send(EM_GETSEL))); }
 };
 
-}  // namespace looks
+}  // namespace appearance

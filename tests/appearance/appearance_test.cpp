@@ -1,13 +1,13 @@
 #include <vector>
 
+#include "appearance/appearance_test_base.h"
+#include "appearance/picture.h"
 #include "driver/native_handles.h"
-#include "looks/looks_test_base.h"
-#include "looks/picture.h"
 #include "win32/light_icon.h"
 #include "win32/text.h"
 
 // That nothing is cut off and nothing stands askew, whatever the resolution.
-namespace looks {
+namespace appearance {
 namespace {
 
 using controls::ControlKind;
@@ -19,7 +19,7 @@ struct Shown {
   ControlKind kind;
 };
 
-class LooksAt : public LooksTest, public testing::WithParamInterface<int> {
+class AppearanceAt : public AppearanceTest, public testing::WithParamInterface<int> {
  protected:
   std::vector<Shown> shownIn(const std::string& name) {
     std::vector<Shown> shown;
@@ -75,12 +75,12 @@ class LooksAt : public LooksTest, public testing::WithParamInterface<int> {
   }
 };
 
-TEST_P(LooksAt, TextsOfTheMainWindowFit) {
+TEST_P(AppearanceAt, TextsOfTheMainWindowFit) {
   tell("menu mnuWinMode(1)");
   expectTextsFit("frmCalc");
 }
 
-TEST_P(LooksAt, TextsOfTheFinancialCalculatorFitInEachConfiguration) {
+TEST_P(AppearanceAt, TextsOfTheFinancialCalculatorFitInEachConfiguration) {
   for (const char* item : {"mnuWinFinCalcLoan", "mnuWinFinCalcInv", "mnuFinCalcStandard"}) {
     SCOPED_TRACE(item);
     tell(std::string("menu ") + item);
@@ -88,13 +88,13 @@ TEST_P(LooksAt, TextsOfTheFinancialCalculatorFitInEachConfiguration) {
   }
 }
 
-TEST_P(LooksAt, TextsOfTheAboutBoxFit) {
+TEST_P(AppearanceAt, TextsOfTheAboutBoxFit) {
   tell("menu mnuHelpAbout");
   expectTextsFit("frmAbout");
   tell("close frmAbout");
 }
 
-TEST_P(LooksAt, LargeAnswersStayInTheirLineAndTwoLinesInTheirPlace) {
+TEST_P(AppearanceAt, LargeAnswersStayInTheirLineAndTwoLinesInTheirPlace) {
   tell("menu mnuWinFinCalcLoan");
   const HWND answer = control("frmAnnuity", "lblAnswer");
   setResolution(window("frmAnnuity"), GetParam());
@@ -102,7 +102,7 @@ TEST_P(LooksAt, LargeAnswersStayInTheirLineAndTwoLinesInTheirPlace) {
   EXPECT_LE(sizeOf(answer, L"188  Years\r\n11.88  Months").cy, clientSize(answer).cy);
 }
 
-TEST_P(LooksAt, FiguresStandInTheMiddleOfTheirBox) {
+TEST_P(AppearanceAt, FiguresStandInTheMiddleOfTheirBox) {
   tell("menu mnuWinFinCalcLoan");
   setResolution(window("frmCalc"), GetParam());
   setResolution(window("frmAnnuity"), GetParam());
@@ -111,14 +111,14 @@ TEST_P(LooksAt, FiguresStandInTheMiddleOfTheirBox) {
     expectCentered(control("frmAnnuity", box));
 }
 
-TEST_P(LooksAt, EntryBoxShowsAllThatItTakes) {
+TEST_P(AppearanceAt, EntryBoxShowsAllThatItTakes) {
   const HWND entry = control("frmCalc", "txtEntry");
   setResolution(window("frmCalc"), GetParam());
   constexpr int kCaret = 1;
   EXPECT_LE(sizeOf(entry, L"888,888,888,888,888").cx + kCaret, clientSize(entry).cx);
 }
 
-TEST_P(LooksAt, PaddedTapeShowsItsHeaderAndTheSignsOfItsFigures) {
+TEST_P(AppearanceAt, PaddedTapeShowsItsHeaderAndTheSignsOfItsFigures) {
   setResolution(window("frmCalc"), GetParam());
   tell("menu mnuWinPadTape");
   const HWND paper = control("frmCalc", "txtTape");
@@ -134,7 +134,7 @@ TEST_P(LooksAt, PaddedTapeShowsItsHeaderAndTheSignsOfItsFigures) {
 }
 
 // Outlines are as sharp at every resolution, and figures of one width stand in columns.
-TEST_P(LooksAt, FontsAreOutlinesAndThoseOfFiguresFixed) {
+TEST_P(AppearanceAt, FontsAreOutlinesAndThoseOfFiguresFixed) {
   setResolution(window("frmCalc"), GetParam());
   for (const char* name : {"txtEntry", "txtDec", "txtTape"}) {
     const BYTE pitch = metricsOf(control("frmCalc", name)).tmPitchAndFamily;
@@ -145,10 +145,10 @@ TEST_P(LooksAt, FontsAreOutlinesAndThoseOfFiguresFixed) {
     EXPECT_TRUE(metricsOf(shown.control).tmPitchAndFamily & TMPF_VECTOR);
 }
 
-INSTANTIATE_TEST_SUITE_P(Resolutions, LooksAt, testing::ValuesIn(kResolutions),
+INSTANTIATE_TEST_SUITE_P(Resolutions, AppearanceAt, testing::ValuesIn(kResolutions),
                          [](const auto& test) { return std::to_string(test.param * 100 / 96); });
 
-class Looks : public LooksTest {
+class Appearance : public AppearanceTest {
  protected:
   /// Whether a point of the box beside its line, and one within, come to have the colour in time.
   static bool becomes(HWND box, COLORREF color) {
@@ -168,7 +168,7 @@ class Looks : public LooksTest {
   }
 };
 
-TEST_F(Looks, BoxesTakeTheSystemsNewColorsAtOnce) {
+TEST_F(Appearance, BoxesTakeTheSystemsNewColorsAtOnce) {
   const HWND box = control("frmCalc", "txtDec");
   const COLORREF before = GetSysColor(COLOR_WINDOW);
   EXPECT_TRUE(becomes(box, before));
@@ -179,7 +179,7 @@ TEST_F(Looks, BoxesTakeTheSystemsNewColorsAtOnce) {
   EXPECT_TRUE(becomes(box, before));
 }
 
-TEST_F(Looks, BarOfThePlainTapeIsAlwaysThere) {
+TEST_F(Appearance, BarOfThePlainTapeIsAlwaysThere) {
   const HWND tape = control("frmCalc", "txtTape");
   EXPECT_TRUE(GetWindowLongW(tape, GWL_STYLE) & WS_VSCROLL);
   const SIZE size = clientSize(tape);
@@ -191,7 +191,7 @@ TEST_F(Looks, BarOfThePlainTapeIsAlwaysThere) {
   EXPECT_EQ(clientSize(tape).cx, size.cx);
 }
 
-TEST_F(Looks, ClickBesideTheLineOfABoxIsAClickIntoIt) {
+TEST_F(Appearance, ClickBesideTheLineOfABoxIsAClickIntoIt) {
   const HWND entry = control("frmCalc", "txtEntry");
   const RECT box = placeOf(entry);
   const LONG middle = (box.left + box.right) / 2;
@@ -199,7 +199,7 @@ TEST_F(Looks, ClickBesideTheLineOfABoxIsAClickIntoIt) {
     EXPECT_EQ(SendMessageW(entry, WM_NCHITTEST, 0, MAKELPARAM(middle, y)), HTCLIENT);
 }
 
-TEST_F(Looks, PictureForADarkKeyHasLightLines) {
+TEST_F(Appearance, PictureForADarkKeyHasLightLines) {
   constexpr int kSide = 16;
   constexpr std::size_t kPixels = std::size_t{kSide} * kSide;
   const std::vector<BYTE> mask(kPixels / 8);
@@ -220,7 +220,7 @@ TEST_F(Looks, PictureForADarkKeyHasLightLines) {
   EXPECT_EQ(drawn[2], 0xFFC7CED7);
 }
 
-TEST_F(Looks, AboutBoxCannotBePutAside) {
+TEST_F(Appearance, AboutBoxCannotBePutAside) {
   tell("menu mnuHelpAbout");
   const LONG style = GetWindowLongW(window("frmAbout"), GWL_STYLE);
   EXPECT_EQ(style & (WS_MINIMIZEBOX | WS_MAXIMIZEBOX | WS_THICKFRAME), 0);
@@ -228,4 +228,4 @@ TEST_F(Looks, AboutBoxCannotBePutAside) {
 }
 
 }  // namespace
-}  // namespace looks
+}  // namespace appearance

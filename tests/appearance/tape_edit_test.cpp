@@ -1,13 +1,13 @@
-#include "looks/tape_test.h"
+#include "appearance/tape_test.h"
 
 // The tape as a box that is edited: what the mouse selects, where the caret goes, what is scrolled.
-namespace looks {
+namespace appearance {
 namespace {
 
-class TapeEdit : public TapeLooksTest {
+class TapeEdit : public TapeAppearanceTest {
  protected:
   void SetUp() override {
-    TapeLooksTest::SetUp();
+    TapeAppearanceTest::SetUp();
     tell("focus txtTape");
   }
   void click(int place, UINT message = WM_LBUTTONDOWN) {
@@ -176,4 +176,4 @@ TEST_F(TapeEdit, AnswersMessagesThatScroll) {
 }
 
 }  // namespace
-}  // namespace looks
+}  // namespace appearance

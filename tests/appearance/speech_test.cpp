@@ -2,10 +2,10 @@
 #include <string>
 #include <vector>
 
-#include "looks/looks_test_base.h"
+#include "appearance/appearance_test_base.h"
 
 // What a screen reader hears of the program: a client that listens to the system's events.
-namespace looks {
+namespace appearance {
 namespace {
 
 struct Heard {
@@ -22,10 +22,10 @@ void CALLBACK listen(HWINEVENTHOOK, DWORD event, HWND window, LONG, LONG, DWORD,
   heard.push_back({event, window, name});
 }
 
-class Speech : public LooksTest {
+class Speech : public AppearanceTest {
  protected:
   void SetUp() override {
-    LooksTest::SetUp();
+    AppearanceTest::SetUp();
     hook_ = SetWinEventHook(EVENT_OBJECT_NAMECHANGE, EVENT_OBJECT_LIVEREGIONCHANGED, nullptr,
                             listen, GetCurrentProcessId(), 0, WINEVENT_OUTOFCONTEXT);
     ASSERT_NE(hook_, nullptr);
@@ -33,7 +33,7 @@ class Speech : public LooksTest {
   }
   void TearDown() override {
     UnhookWinEvent(hook_);
-    LooksTest::TearDown();
+    AppearanceTest::TearDown();
   }
 
   /// Waits until something is heard that the test tells.
@@ -93,4 +93,4 @@ TEST_F(Speech, TapeTellsOfItsTextAndItsSelection) {
 }
 
 }  // namespace
-}  // namespace looks
+}  // namespace appearance
