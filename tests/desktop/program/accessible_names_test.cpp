@@ -59,7 +59,7 @@ class AccessibleNamesTest : public ProgramTest {
 
 TEST_F(AccessibleNamesTest, MainWindowControlsHaveNames) {
   // What says each posting has no name until something has been posted.
-  const Names expected = {L"",
+  const Names expected = {L"(no name)",
                           L"Entry",
                           L"Tape",
                           L"Decimal places",

@@ -58,8 +58,8 @@ class ColorTest : public ProgramTest {
     EXPECT_EQ(seen(), color);
   }
 
-  /// Waits until the letters at the left of the tape, or the figures in the entry box, are as far
-  /// from the colour of the box as they can be.
+  /// Waits until the figures on the tape, or in the entry box, are as far from the colour of the
+  /// box as they can be.
   static void expectLetters(HWND box, bool light) {
     constexpr int kFrame = 4;
     constexpr std::uint32_t kWhite = 0xE0;
@@ -68,7 +68,7 @@ class ColorTest : public ProgramTest {
     InflateRect(&place, -kFrame, -kFrame);
     // Without the caret, which is always far from the colour: it is behind them.
     constexpr int kCaret = 8;
-    place.right = box == program().tape() ? (place.left + place.right) / 2 : place.right - kCaret;
+    place.right -= box == program().tape() ? (place.right - place.left) / 4 : kCaret;
     EXPECT_TRUE(eventually([&] {
       const Picture picture(place);
       return std::ranges::any_of(picture.dots(), [light](std::uint32_t dot) {
@@ -76,7 +76,7 @@ class ColorTest : public ProgramTest {
         const std::uint32_t green = dot >> 8 & 0xFF;
         return light ? std::min(red, green) > kWhite : std::max(red, green) < kBlack;
       });
-    })) << "the letters of the "
+    })) << "the figures of the "
         << (box == program().tape() ? "tape" : "entry");
   }
 
@@ -89,6 +89,7 @@ class ColorTest : public ProgramTest {
     type("8888");
     expectText(program().entry(), L"8,888");
     expectLetters(program().entry(), light);
+    type("+");
     click(middleOf(program().tape()));
     await("the focus in the tape", [] { return program().focus() == program().tape(); });
     expectLetters(program().tape(), light);
