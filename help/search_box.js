@@ -1,113 +1,142 @@
 // The search box of the help: reads the topics from the page, and shows what is found as links.
 
+// The topics as findTopics takes them, with the places where they are on the page.
 function readTopics(page) {
-  var words = {};
-  page.querySelectorAll("#index li").forEach(function (entry) {
-    entry.querySelectorAll("a").forEach(function (link) {
-      var id = link.hash.slice(1);
-      (words[id] = words[id] || []).push(entry.querySelector("span").textContent);
-    });
-  });
-  return Array.prototype.map.call(page.querySelectorAll("main > .topic"), function (section) {
-    var body = section.cloneNode(true);
-    body.querySelectorAll("h1, h2, th, .chapter, .browse, .see, .contents").forEach(function (part) { part.remove(); });
-    // Without what stands between them, the words of neighboring cells would become one.
-    body.querySelectorAll("td, li, p, h3, blockquote").forEach(function (part) { part.append(" "); });
-    return {
-      id: section.id, title: section.querySelector("h1, h2").textContent, words: words[section.id] || [],
-      text: body.textContent.replace(/\s+/g, " ").trim()
-    };
-  });
+  const words = indexWords(page);
+  return [...page.querySelectorAll("main > .topic")].map((section) => ({
+    id: section.id,
+    title: section.querySelector("h1, h2").textContent,
+    words: words[section.id] || [],
+    text: textOf(section),
+  }));
 }
 
-function SearchBox(page, topics) {
-  var form = page.querySelector("form"), box = form.querySelector("input");
-  var found = page.querySelector(".found"), contents = page.querySelector(".side nav");
-  var said = page.querySelector("[role=status]");
+// The words under which the index lists each topic.
+function indexWords(page) {
+  const words = {};
+  for (const entry of page.querySelectorAll("#index li")) {
+    for (const link of entry.querySelectorAll("a")) {
+      const id = link.hash.slice(1);
+      (words[id] = words[id] || []).push(entry.querySelector("span").textContent);
+    }
+  }
+  return words;
+}
 
-  function element(name, text) {
-    var made = page.createElement(name);
+function textOf(section) {
+  const body = section.cloneNode(true);
+  body.querySelectorAll("h1, h2, th, .chapter, .browse, .see, .contents").forEach((part) => part.remove());
+  // Without blanks between them, the words of neighboring cells would become one.
+  body.querySelectorAll("td, li, p, h3, blockquote").forEach((part) => part.append(" "));
+  return body.textContent.replace(/\s+/g, " ").trim();
+}
+
+class SearchBox {
+  constructor(page, topics) {
+    this.page = page;
+    this.topics = topics;
+    this.form = page.querySelector("form");
+    this.box = this.form.querySelector("input");
+    this.found = page.querySelector(".found");
+    this.contents = page.querySelector(".side nav");
+    this.said = page.querySelector("[role=status]");
+    this.listen();
+    this.form.hidden = false;
+    this.show();
+  }
+
+  listen() {
+    this.box.addEventListener("input", () => this.show());
+    this.form.addEventListener("submit", (event) => {
+      event.preventDefault();
+      if (this.links().length) this.links()[0].click();
+    });
+    this.page.querySelector(".side").addEventListener("keydown", (event) => {
+      if (event.key === "ArrowDown" || event.key === "ArrowUp") this.walk(event);
+      if (event.key === "Escape") this.leave(event);
+    });
+    // The topic that was chosen has the keys: the next Tab or Page Down is one in it.
+    this.found.addEventListener("click", (event) => {
+      const link = event.target.closest("a");
+      if (link) this.page.querySelector(link.hash).focus();
+    });
+    this.page.addEventListener("keydown", (event) => this.enter(event));
+  }
+
+  // Shows what is found for the question in the box, or the contents for none.
+  show() {
+    const question = this.box.value.trim();
+    this.contents.hidden = question !== "";
+    this.found.textContent = "";
+    this.said.textContent = "";
+    if (question === "") return;
+    const results = findTopics(this.topics, question);
+    this.found.append(results.length ? this.list(results, question) : this.nothing(question));
+    this.said.textContent = results.length === 1 ? "1 topic found" : results.length + " topics found";
+  }
+
+  list(results, question) {
+    const items = this.page.createElement("ol");
+    for (const topic of results) {
+      const item = this.page.createElement("li");
+      item.append(this.linkTo(topic, question));
+      items.append(item);
+    }
+    return items;
+  }
+
+  linkTo(topic, question) {
+    const [before, word, behind] = excerptOf(topic.text, question);
+    const excerpt = this.page.createElement("span");
+    excerpt.append(before, this.element("mark", word), behind);
+    const link = this.page.createElement("a");
+    link.href = "#" + topic.id;
+    link.append(this.element("b", topic.title), excerpt);
+    return link;
+  }
+
+  nothing(question) {
+    const index = this.element("a", "index");
+    index.href = "#index";
+    const message = this.page.createElement("p");
+    message.append(`No topic contains \u201c${question}\u201d. Try fewer or other words, or look in the `, index, ".");
+    return message;
+  }
+
+  element(name, text) {
+    const made = this.page.createElement(name);
     made.textContent = text;
     return made;
   }
 
-  function linkTo(topic, question) {
-    var link = page.createElement("a"), excerpt = page.createElement("span");
-    var parts = excerptOf(topic.text, question);
-    excerpt.append(parts[0], element("mark", parts[1]), parts[2]);
-    link.href = "#" + topic.id;
-    link.append(element("b", topic.title), excerpt);
-    var item = page.createElement("li");
-    item.append(link);
-    return item;
+  links() {
+    return [...this.found.querySelectorAll("a")];
   }
-
-  function nothing(question) {
-    var index = element("a", "index");
-    index.href = "#index";
-    var message = page.createElement("p");
-    message.append("No topic contains \u201c" + question + "\u201d. Try fewer or other words, or look in the ", index, ".");
-    return message;
-  }
-
-  function list(topics, question) {
-    var items = page.createElement("ol");
-    topics.forEach(function (topic) { items.append(linkTo(topic, question)); });
-    return items;
-  }
-
-  function show() {
-    var question = box.value.trim();
-    var results = findTopics(topics, question);
-    contents.hidden = question !== "";
-    found.textContent = "";
-    said.textContent = "";
-    if (question === "") return;
-    found.append(results.length ? list(results, question) : nothing(question));
-    said.textContent = results.length === 1 ? "1 topic found" : results.length + " topics found";
-  }
-
-  function links() { return Array.prototype.slice.call(found.querySelectorAll("a")); }
 
   // Up and Down walk from the box through what is found, and back.
-  function walk(event) {
-    var stops = [box].concat(links());
-    var next = stops[stops.indexOf(page.activeElement) + (event.key === "ArrowDown" ? 1 : -1)];
+  walk(event) {
+    const stops = [this.box, ...this.links()];
+    const next = stops[stops.indexOf(this.page.activeElement) + (event.key === "ArrowDown" ? 1 : -1)];
     if (!next) return;
     event.preventDefault();
     next.focus();
   }
 
-  function leave(event) {
+  leave(event) {
     event.preventDefault();
-    box.value = "";
-    show();
-    box.focus();
+    this.box.value = "";
+    this.show();
+    this.box.focus();
   }
 
-  form.hidden = false;
-  box.addEventListener("input", show);
-  form.addEventListener("submit", function (event) {
-    event.preventDefault();
-    if (links().length) links()[0].click();
-  });
-  page.querySelector(".side").addEventListener("keydown", function (event) {
-    if (event.key === "ArrowDown" || event.key === "ArrowUp") walk(event);
-    if (event.key === "Escape") leave(event);
-  });
-  // The topic that was chosen has the keys: the next Tab or Page Down is one in it.
-  found.addEventListener("click", function (event) {
-    var link = event.target.closest("a");
-    if (link) page.querySelector(link.hash).focus();
-  });
-  page.addEventListener("keydown", function (event) {
-    var typing = /^(INPUT|TEXTAREA)$/.test(event.target.tagName);
+  // A slash leads into the box, unless it is typed into one.
+  enter(event) {
+    const typing = /^(INPUT|TEXTAREA)$/.test(event.target.tagName);
     if (event.key !== "/" || typing || event.ctrlKey || event.altKey || event.metaKey) return;
     event.preventDefault();
-    box.focus();
-    box.select();
-  });
-  show();
+    this.box.focus();
+    this.box.select();
+  }
 }
 
-SearchBox(document, readTopics(document));
+new SearchBox(document, readTopics(document));
