@@ -4,6 +4,8 @@
 var FILLERS = ("a an and are as at be by can do does for from get how i if in is it me my no not of on or so than " +
   "that the then there this to use was what when where which who why will with you your").split(" ");
 var IN_TITLE = 8, IN_INDEX = 5, IN_TEXT = 1, WHOLE_WORD = 2;
+// So many topics are enough; else so many are shown.
+var FEW = 3, SOME = 5;
 var EXCERPT_BEFORE = 40, EXCERPT_BEHIND = 90;
 
 // What is looked for, one pattern a word: words that begin so, signs wherever they are.
@@ -31,20 +33,21 @@ function weightOf(pattern, topic) {
     }, 0);
 }
 
-// The topics that have every word of the question, the best first. A topic is {title, words, text}: its words are
-// those under which the index lists it.
+// The topics that have every word of the question, the best first; where these are few, some that have most of the
+// words stand behind them. A topic is {title, words, text}: its words are those under which the index lists it.
 function findTopics(topics, question) {
   var patterns = patternsOf(question);
-  if (!patterns.length) return [];
-  return topics.map(function (topic, place) {
-    var weights = patterns.map(function (pattern) { return weightOf(pattern, topic); });
+  var found = topics.map(function (topic, place) {
+    var weights = patterns.map(function (pattern) { return weightOf(pattern, topic); }).filter(Boolean);
     var sum = weights.reduce(function (total, weight) { return total + weight; }, 0);
-    return { topic: topic, place: place, weight: Math.min.apply(null, weights) ? sum : 0 };
-  }).filter(function (found) {
-    return found.weight > 0;
+    return { topic: topic, place: place, words: weights.length, weight: sum };
+  }).filter(function (one) {
+    return one.words > 0;
   }).sort(function (one, other) {
-    return other.weight - one.weight || one.place - other.place;
-  }).map(function (found) { return found.topic; });
+    return other.words - one.words || other.weight - one.weight || one.place - other.place;
+  });
+  var whole = found.filter(function (one) { return one.words === patterns.length; }).length;
+  return found.slice(0, whole < FEW ? SOME : whole).map(function (one) { return one.topic; });
 }
 
 // The passage of a text in which the first word of the question occurs, as [before, the whole word, behind]; the
