@@ -104,6 +104,7 @@ class _PageWriter:
     def _section(self, place):
         topic = self._topics[place]
         level = 1 if place == 0 else 2
+        # A link gives the keys to the section that it leads to: the next Tab or Page Down is one in it.
         parts = [f'<section class="topic" id="{anchor(topic)}" tabindex="-1">\n']
         if place > 0:
             parts.append(f'<p class="chapter">{escape(topic.chapter)}</p>\n')

@@ -55,11 +55,6 @@ class SearchBox {
       if (event.key === "ArrowDown" || event.key === "ArrowUp") this.walk(event);
       if (event.key === "Escape") this.leave(event);
     });
-    // The topic that was chosen has the keys: the next Tab or Page Down is one in it.
-    this.found.addEventListener("click", (event) => {
-      const link = event.target.closest("a");
-      if (link) this.page.querySelector(link.hash).focus();
-    });
     this.page.addEventListener("keydown", (event) => this.enter(event));
   }
 

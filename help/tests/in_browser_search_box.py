@@ -4,7 +4,7 @@ import unittest
 
 from browser import BROWSERS, first_of, run_in_browser
 from html_writer import write_html
-from support import TOPICS
+from support import TOPICS, plain
 
 BROWSER = first_of(BROWSERS)
 # What a person does, and what is then seen.
@@ -32,7 +32,7 @@ STEPS = {
         var topics = readTopics(document);
         var without = topics.filter(function (topic) { return !topic.text && topic.id !== "topic1"; });
         var percent = topics.filter(function (topic) { return topic.id === "topic9"; })[0];
-        return [topics.length, without, topics[0].title, percent.words];""",
+        return [topics.length, without, topics[0].title, percent.words, percent.text];""",
     "nothing": 'type("xyzzy <b>"); return [found.textContent, texts("a"), said(), texts("b").length];',
     "empty": 'type("tape"); type(""); return [isContentsShown(), found.textContent, said()];',
     "walk": """
@@ -71,7 +71,12 @@ class SearchBoxTest(unittest.TestCase):
     def test_every_topic_is_searched_with_its_index_words(self):
         percent = next(topic for topic in TOPICS if topic.number == 9)
         words = sorted(percent.keywords, key=lambda word: (word[0].isalpha(), word.lower()))
-        self.assertEqual(self.seen["read"], [len(TOPICS), [], "Tallyrex Help", words])
+        *seen, text = self.seen["read"]
+        self.assertEqual(seen, [len(TOPICS), [], "Tallyrex Help", words])
+        # What it says, without its title, the heads of its tables, and what leads to other topics.
+        self.assertTrue(text.startswith(plain(percent.blocks[0].spans)), text)
+        for left_out in ("You want", "See also", "Contents"):
+            self.assertNotIn(left_out, text)
 
     def test_says_that_nothing_is_found(self):
         words = "No topic contains \u201cxyzzy <b>\u201d. Try fewer or other words, or look in the index."
