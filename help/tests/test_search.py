@@ -44,6 +44,8 @@ class OurTopicsTest(unittest.TestCase):
         "add mode": "modes",
         "how to save my work": "notepad",
         "delete the tape": "correcting",
+        "larger letters": "accessibility",
+        "screen readers": "accessibility",
         "Pasted entry is not a valid number": "message-pasted-entry",
     }
 
