@@ -9,22 +9,22 @@
 
 namespace contract {
 
-/// A window with one control of each sort and a menu, shown and in front.
+/// A window with one control of each kind and a menu, visible and in front.
 const controls::WindowLayout& testLayout();
-/// A second window, which has no menu.
+/// A second window, without a menu.
 const controls::WindowLayout& plainLayout();
 
 class ContractTest : public testing::Test {
  protected:
   ContractTest();
 
-  /// Types a character of the common keyboard, or "\b" and "\r".
+  /// Types characters of a common keyboard, including "\b" and "\r".
   void type(std::string_view text);
   void press(controls::KeyCode key, controls::KeyAscii character = 0);
   void pressControl(char letter);
-  /// Puts a text on the clipboard and pastes it by a command.
+  /// Puts a text on the clipboard and pastes it with the Paste command.
   void paste(controls::TextBox& box, std::string_view text);
-  /// The events noted since the last call, one word each.
+  /// The events noted since the last call.
   std::vector<std::string> takeLog();
   void note(const std::string& event) { log_.push_back(event); }
 

@@ -18,7 +18,7 @@ namespace {
 constexpr DWORD kLongestWait = 5000;
 constexpr DWORD kMarkIsLate = 500;
 constexpr int kTries = 5;
-// A key that no keyboard has: its release comes in behind everything that was typed before it.
+// A key that no keyboard has: its release arrives after everything typed before.
 constexpr WORD kMarkKey = 0xE8;
 constexpr ULONG_PTR kMark = 0x7A11;
 
@@ -43,7 +43,7 @@ LRESULT CALLBACK watchMessage(int code, WPARAM removed, LPARAM pointer) {
   return CallNextHookEx(nullptr, code, removed, pointer);
 }
 
-/// Another thread that has the clipboard open, as another program would.
+/// Another thread that keeps the clipboard open, as another program might.
 class ClipboardHolder {
  public:
   ClipboardHolder()
@@ -77,7 +77,7 @@ class ClipboardHolder {
   HANDLE thread_;
 };
 
-/// The real windows, with real key strokes and clicks.
+/// The real windows, with real keystrokes and clicks.
 class NativeKind : public Kind {
  public:
   NativeKind()
@@ -115,7 +115,7 @@ class NativeKind : public Kind {
   void settle() override { sendAndWait({}); }
 
  private:
-  // What is sent while no window is in front gets lost, the mark with it.
+  // Input that is sent while no window is in front is lost, including the mark.
   void sendAndWait(std::vector<INPUT> inputs) {
     inputs.push_back(mark());
     markSeen = false;
@@ -137,7 +137,7 @@ class NativeKind : public Kind {
     }
   }
 
-  // The virtual screen may take the foreground from a window a moment after it was given.
+  // The virtual screen may take the foreground away from a window again.
   void bringToFront() {
     if (const auto* window = dynamic_cast<win32::Window*>(desktop_.activeWindow()))
       SetForegroundWindow(window->handle());

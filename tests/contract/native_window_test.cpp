@@ -7,7 +7,7 @@
 #include "win32/native_control.h"
 #include "win32/registry_settings.h"
 
-// What only a window on a screen can get wrong.
+// Tests that make sense only for a window on a screen.
 namespace contract {
 
 using controls::Rect;
@@ -61,7 +61,7 @@ TEST_F(NativeWindow, MovingKeepsTheExactSize) {
   EXPECT_EQ(window_->bounds(), (Rect{1500, 302, 6203, 3804}));
 }
 
-// The title bar and the taskbar show the picture that was drawn for that size.
+// The title bar and the taskbar show the image drawn for that size.
 TEST_F(NativeWindow, SmallIconHasTheSmallSize) {
   const auto icon = reinterpret_cast<HICON>(GetClassLongPtrW(handleOf(*window_), GCLP_HICONSM));
   ICONINFO info = {};

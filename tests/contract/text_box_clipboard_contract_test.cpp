@@ -1,6 +1,6 @@
 #include "contract/text_box_contract.h"
 
-// Every way to cut, copy, paste and undo.
+// All ways to cut, copy, paste and undo.
 namespace contract {
 
 TEST_P(TextBoxContract, PastedTextReplacesTheSelection) {

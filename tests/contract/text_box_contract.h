@@ -6,7 +6,7 @@
 
 namespace contract {
 
-/// A box of the window that has the focus: one of a single line, and the tape.
+/// A focused box: a single-line box or the tape.
 class TextBoxContract : public ContractTest, public testing::WithParamInterface<const char*> {
  protected:
   TextBoxContract() : box_(window_->textBox(GetParam())) {

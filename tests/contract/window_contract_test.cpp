@@ -227,7 +227,7 @@ TEST_F(WindowContract, KeyPressMayHandTheCharacterToAnotherControl) {
   EXPECT_EQ(takeLog(), (Log{"up at the box", "up at the box"}));
 }
 
-// Their lowest eight bits are those of "G" and "S".
+// Letters whose lowest eight bits are those of "G" and "S".
 TEST_F(WindowContract, NonAsciiLettersAreNoAccessKeys) {
   button_.onClick = [this] { note("click"); };
   for (const controls::KeyCode character : {0x0147, 0x0647, 0x0153, 0x10047, -0xB9, 0})

@@ -15,7 +15,7 @@ void PrintTo(const Damage& damage, std::ostream* out) {
   *out << damage.name;
 }
 
-// What stands in the settings in the place of what the program has written.
+// Values that replace those the program has written.
 class DamagedSettingsTest : public DesktopTest, public testing::WithParamInterface<Damage> {
  protected:
   void SetUp() override { tell("events"); }
@@ -26,7 +26,7 @@ class DamagedSettingsTest : public DesktopTest, public testing::WithParamInterfa
     tell("start");
   }
 
-  /// The points are there so that a stationary decimal cannot shift the numbers.
+  /// With points, so that stationary decimal does not shift the numbers.
   void expectToAdd() {
     tell("type \"2.+3.\"");
     tell("press Enter");
@@ -59,8 +59,8 @@ TEST_P(DamagedSettingsTest, ProgramAddsDespiteADamagedSetting) {
   }
 }
 
-// These are read when the user goes over to the micro window. It may then lie beside the screen,
-// where the system takes the keys away from it; so the sum waits for the next start.
+// These are read when the user switches to the micro window. It may then be off the screen, where
+// it gets no keys; so the addition waits for the next start.
 TEST_P(DamagedSettingsTest, ProgramAddsDespiteADamagedMicroWindowSetting) {
   constexpr std::array kKeys = {"frmCalcMicroLeft", "frmCalcMicroTop", "frmCalcMicroHeight",
                                 "frmCalcMicroWidth"};

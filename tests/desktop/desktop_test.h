@@ -9,11 +9,10 @@
 
 namespace desktop {
 
-/// The program in its real windows, freshly started in the mode of the adding machine, and the
-/// hands of the person in front of it.
+/// The program in its real windows, started anew in add mode, and the input of its user.
 class DesktopTest : public testing::Test {
  public:
-  /// The stage that all tests share, since it belongs to the program's thread.
+  /// The stage is shared by all tests, since it belongs to the program's thread.
   static void setStage(driver::NativeStage& stage) { stage_ = &stage; }
 
  protected:
@@ -21,7 +20,7 @@ class DesktopTest : public testing::Test {
   void TearDown() override;
 
   driver::NativeStage& stage() { return *stage_; }
-  /// Carries out one command of the driver, which must not fail, and gives its answer.
+  /// Carries out a driver command, which must not fail, and returns its answer.
   driver::Json tell(const std::string& command);
   std::string entry() { return tell("snapshot")["entry"]; }
   std::string tape() { return tell("snapshot")["tape"]; }

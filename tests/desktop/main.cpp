@@ -5,7 +5,7 @@
 #include "desktop/desktop_test.h"
 #include "support/retries.h"
 
-// The program has the first thread, as ever; the tests are the person in front of it.
+// The program runs on the main thread, as usual; the tests act as its user on another.
 int main(int count, char** arguments) {
   testing::InitGoogleTest(&count, arguments);
   driver::NativeStage stage;

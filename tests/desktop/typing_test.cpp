@@ -30,7 +30,7 @@ TEST_F(TypingTest, TwoThousandKeystrokesArriveInOrder) {
   EXPECT_EQ(tape(), expected);
 }
 
-// A typist whose next key goes down before the one before it has come up.
+// A fast typist presses the next key before releasing the previous one.
 TEST_F(TypingTest, OverlappingKeystrokesArriveInOrder) {
   Inputs inputs;
   std::string expected = "Top";
@@ -39,7 +39,7 @@ TEST_F(TypingTest, OverlappingKeystrokesArriveInOrder) {
     const std::string digits = std::to_string(number);
     for (const char cap : digits + "+") {
       const WORD key = cap == '+' ? WORD{VK_ADD} : static_cast<WORD>(cap);
-      // A key that is struck twice has to come up in between.
+      // A key that is pressed twice must be released in between.
       if (key == before) keyUp(inputs, before);
       keyDown(inputs, key);
       if (before != 0 && key != before) keyUp(inputs, before);
@@ -73,7 +73,7 @@ TEST_F(TypingTest, KeypadOperatorsWorkWithoutNumLock) {
   EXPECT_EQ(tape(), "Top\r\n12.00 + \r\n3.00 - \r\n9.00 * \r\n");
 }
 
-// Without NumLock a keyboard sends the keys that stand below the digits on their caps.
+// Without NumLock, a keypad sends the navigation keys printed below the digits.
 TEST_F(TypingTest, KeypadDigitsMoveTheCaretWithoutNumLock) {
   tapNumLock();
   tell("type \"12\"");

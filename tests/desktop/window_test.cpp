@@ -35,7 +35,7 @@ class WindowTest : public DesktopTest {
   int twips(int pixels) { return MulDiv(pixels, kTwipsPerInch, static_cast<int>(dpi())); }
   UINT dpi() { return GetDpiForWindow(mainWindow()); }
 
-  /// Of the next command, when something was changed behind the program's back.
+  /// The answer to the next command after something was changed behind the program's back.
   std::string errorOfNextCommand() {
     driver::Driver driver(stage());
     const auto answer = driver::Json::parse(driver.answer("press Home"));
@@ -77,7 +77,7 @@ TEST_F(WindowTest, DraggingStopsAtTheMicroWindowSize) {
   EXPECT_EQ(tell("get frmCalc Height")["value"], 1095);
   GetWindowRect(mainWindow(), &frame);
   stage().drag({frame.left + 1, frame.top + 1}, {frame.right + 300, frame.bottom + 300});
-  // The system may stop a pixel before.
+  // The system may stop one pixel short.
   const int pixel = twips(1);
   EXPECT_NEAR(tell("get frmCalc Width")["value"].get<int>(), 2280, pixel);
   EXPECT_NEAR(tell("get frmCalc Height")["value"].get<int>(), 1095, pixel);
@@ -103,7 +103,7 @@ TEST_F(WindowTest, DraggingTheTitleMovesTheWindow) {
   EXPECT_EQ(tell("get frmCalc Width")["value"], width);
 }
 
-// The driver compares what it answers with the screen; each of these must be noticed.
+// The driver compares its answers with the screen; it must notice each of these differences.
 TEST_F(WindowTest, DifferencesOnTheScreenAreDetected) {
   wchar_t title[64] = L"";
   GetWindowTextW(mainWindow(), title, static_cast<int>(std::size(title)));

@@ -7,7 +7,7 @@
 namespace support {
 namespace {
 
-/// The clipboard while it is open here. Another program may have it open for a moment.
+/// Opens the clipboard, which another program may keep open for a moment.
 class OpenedClipboard {
  public:
   explicit OpenedClipboard(HWND owner) {

@@ -7,10 +7,10 @@
 
 namespace support {
 
-/// The text on the clipboard as any other program has it; nothing when it holds none. Opened in the
-/// name of `owner`, a window of this thread. Throws NotSeen while another program keeps it.
+/// The text on the clipboard as any other program sees it; null without one. `owner` is a window of
+/// this thread. Throws NotSeen while another program keeps the clipboard locked.
 std::optional<std::wstring> clipboardText(HWND owner = nullptr);
-/// Nothing empties it.
+/// Null empties it.
 void setClipboardText(const std::optional<std::wstring>& text, HWND owner = nullptr);
 
 }  // namespace support

@@ -7,14 +7,14 @@
 
 namespace support {
 
-/// What the keyboard and the mouse send, in order.
+/// Keyboard and mouse input, in order.
 using Inputs = std::vector<INPUT>;
 
 void keyDown(Inputs& inputs, WORD key);
 void keyUp(Inputs& inputs, WORD key);
-/// Down and up again.
+/// Press and release.
 void tap(Inputs& inputs, WORD key);
-/// Keys of the keypad by what their caps show; 'E' is its Enter key.
+/// Keys of the keypad by their labels; 'E' is its Enter key.
 Inputs keypad(std::string_view caps);
 
 }  // namespace support

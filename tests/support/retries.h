@@ -2,14 +2,14 @@
 
 namespace support {
 
-/// Notes that something was done again, since the desktop had not taken it the first time.
+/// Counts a retry, after the desktop has lost the first attempt.
 void noteRetry(const char* what);
 
-/// Prints how often that was; false when it was oftener than a desktop's nature explains.
+/// Prints the number of retries; false if there were too many.
 bool retriesAreFew();
 
-/// Whether this is Wine, where closing a window may leave the keys with nobody. There alone a test
-/// may bring the program to the front itself.
+/// Whether this is Wine, where closing a window may leave no window with the keyboard. Only there
+/// may a test bring the program to the front itself.
 bool isWine();
 
 }  // namespace support

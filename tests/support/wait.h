@@ -7,16 +7,16 @@
 
 namespace support {
 
-/// What a test waits for has not come.
+/// What a test waits for has not happened in time.
 class NotSeen : public std::runtime_error {
  public:
   explicit NotSeen(const std::string& awaited) : std::runtime_error("not seen: " + awaited) {}
 };
 
-/// Half a minute, which is ample on a busy machine.
+/// Half a minute, ample even on a busy machine.
 inline constexpr ULONGLONG kPatience = 30'000;
 
-/// Whether the condition comes to hold within so many milliseconds.
+/// Whether the condition becomes true within so many milliseconds.
 template <class Condition>
 bool eventually(Condition condition, ULONGLONG patience = kPatience) {
   constexpr DWORD kPoll = 2;
@@ -28,13 +28,13 @@ bool eventually(Condition condition, ULONGLONG patience = kPatience) {
   return true;
 }
 
-/// Waits until the condition is true; throws NotSeen when it does not become so in time.
+/// Waits until the condition is true; throws NotSeen if it takes too long.
 template <class Condition>
 void await(const std::string& what, Condition condition) {
   if (!eventually(condition)) throw NotSeen(what);
 }
 
-/// Waits until `find` gives a window, and gives it; throws NotSeen when none comes.
+/// Waits until `find` returns a window, and returns it; throws NotSeen if it takes too long.
 template <class Find>
 HWND awaitWindow(const std::string& what, Find find) {
   HWND found = nullptr;

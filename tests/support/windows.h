@@ -8,23 +8,23 @@
 
 namespace support {
 
-/// What one program can see of the windows of another.
+/// Reads the windows of another program.
 
-/// What a window answers; 0 when it does not.
+/// The answer of a window to a message; 0 if it does not answer.
 LRESULT ask(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
 
-/// The text that a window gives away; empty when it does not answer.
+/// The text of a window; empty if it does not answer.
 std::wstring textOf(HWND window);
 std::wstring classOf(HWND window);
 DWORD processOf(HWND window);
 
-/// All windows of the desktop that are shown, the front one first.
+/// All visible windows of the desktop, from front to back.
 std::vector<HWND> shownWindows();
-/// The children of a window that are shown.
+/// The visible children of a window.
 std::vector<HWND> shownChildren(HWND window);
-/// The first child of a class that is shown; null without one.
+/// The first visible child of a class; null without one.
 HWND childOfClass(HWND window, std::wstring_view name);
-/// The place on the screen.
+/// The position on the screen.
 RECT placeOf(HWND window);
 
 }  // namespace support

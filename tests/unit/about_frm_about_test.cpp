@@ -19,7 +19,7 @@ TEST(VersionText, AppendsANonzeroRevision) {
             "Software Version:  1.0   Revision 7");
 }
 
-// The text of the label, and where the number comes from.
+// Checks the label, and that the version is that of the build.
 TEST(VersionText, MatchesTheBuild) {
   inmemory::Desktop desktop;
   frmAbout box(desktop, programVersion(), [] {});

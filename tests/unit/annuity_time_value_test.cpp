@@ -23,7 +23,7 @@ namespace {
 
 using nlohmann::json;
 
-/// The number of the run-time error that `call` raises; 0 when it answers.
+/// The number of the run-time error that `call` raises; 0 without one.
 int errorOf(const std::function<double()>& call) {
   try {
     call();
@@ -33,7 +33,7 @@ int errorOf(const std::function<double()>& call) {
   }
 }
 
-/// Calls one of the five functions by its name, as the reference cases write it.
+/// Calls one of the five functions by its name in the reference cases.
 double callByName(const std::string& name, const std::vector<double>& a) {
   const int due = static_cast<int>(a.at(4));
   if (name == "Pmt") return annuity::pmt(a[0], a[1], a[2], a[3], due);
@@ -56,8 +56,8 @@ std::vector<json> referenceCases(const std::string& function) {
 
 class TimeValueReference : public testing::TestWithParam<const char*> {};
 
-// The allowed error is what the arguments' own last digits can do to the answer: `cond` is the sum
-// of the relative changes of the answer over those of each argument.
+// The tolerance follows from the precision of the arguments: `cond` is the condition number, the
+// sum of the relative changes of the answer over those of each argument.
 TEST_P(TimeValueReference, MatchesToTheLastDigits) {
   const std::vector<json> cases = referenceCases(GetParam());
   ASSERT_GE(cases.size(), 30u);
@@ -140,14 +140,14 @@ TEST(NPer, KeepsAnAlmostWholeTerm) {
   EXPECT_NEAR(withinACent, 360, 0.02);
 }
 
-/// The number so many steps of the last digit above `value`.
+/// The number that is so many units of the last place above `value`.
 double lastDigitsAbove(double value, int steps) {
   for (; steps > 0; --steps) value = std::nextafter(value, std::numeric_limits<double>::infinity());
   return value;
 }
 
-// The arithmetic is trusted with 16 units of the last place of what flows, and 4 more for each
-// unit of the exponent: here 35 and 70 steps of an amount are within, 45 and 90 are beyond.
+// The tolerance is 16 units of the last place, and 4 more for each unit of the exponent: here 35
+// and 70 units of an amount are within it, 45 and 90 beyond.
 TEST(NPer, RoundsOnlyWithinFloatingPointError) {
   EXPECT_EQ(annuity::nper(0, -100, lastDigitsAbove(1200, 35), 0, 0), 12);
   EXPECT_NE(annuity::nper(0, -100, lastDigitsAbove(1200, 45), 0, 0), 12);
@@ -162,7 +162,7 @@ TEST(Rate, ConvergesOnADistantRoot) {
 }
 
 TEST(Rate, StartsFromTheGuess) {
-  // Two rates balance a loan that ends with money back; the guess tells which is meant.
+  // Two rates balance a loan that pays money back at the end; the guess selects one.
   EXPECT_NEAR(annuity::rate(208, -700, 137600, 8000, 0, 0.001), 0, 1e-9);
   EXPECT_NEAR(annuity::rate(208, -700, 137600, 8000, 0, -0.08), -0.08749999147846454, 1e-9);
   EXPECT_EQ(errorOf([] { return annuity::rate(360, -699.21, 100000, 0, 0, -1); }), 5);
@@ -178,7 +178,7 @@ TEST(Rate, RefusesRatesNextToMinusOne) {
 void checkRate(const RateProblem& p) {
   double found = 0;
   EXPECT_EQ(errorOf([&] { return found = annuity::rate(p.nper, p.pmt, p.pv, p.fv, p.due); }), 0);
-  // The payment or the value that the found rate asks for is the one given, and so rounds to it.
+  // With the rate found, the payment or value must be the given one after rounding.
   const Plan& plan = *p.plan;
   const double asked = plan.computed(found, p.nper, p.due);
   EXPECT_NEAR(asked, plan.computesPayment ? p.pmt : p.fv,
@@ -197,11 +197,11 @@ TEST(Rate, SolvesEverydayProblems) {
   });
   RecordProperty("problems", static_cast<int>(problems));
   EXPECT_GE(problems, 40000u);
-  // None of these is left out: twelve plans, 27 terms, paid early or late, 61 rates.
+  // All of them are tested: twelve plans, 27 terms, due at the beginning or the end, 61 rates.
   EXPECT_EQ(ofSeveralMonths, kPlans.size() * (kTerms.size() - 1) * 2 * 61);
 }
 
-/// Numbers of every size and sign, often such as arithmetic stumbles over.
+/// Numbers of every magnitude and sign, often edge cases of the arithmetic.
 class OddNumbers {
  public:
   double next() {
@@ -247,7 +247,7 @@ TEST(TimeValue, ReturnsAFiniteNumberOrRaisesAnError) {
   EXPECT_GT(errors, 10000);
 }
 
-// Whatever the problem: an answer that does not balance the flows would be worse than an error.
+// An answer that does not balance the flows would be worse than an error.
 TEST(Rate, EveryAnswerBalances) {
   std::mt19937_64 engine(360);
   const auto uniform = [&](double low, double high) {

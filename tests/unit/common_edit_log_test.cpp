@@ -19,7 +19,7 @@ TEST(EditLog, ReplaysTheEdits) {
   EXPECT_EQ(replayEdits(""), "");
   EXPECT_EQ(replayEdits(editRecord({.inserted = "Top"})), "Top");
   EXPECT_EQ(replayEdits(editRecord({.inserted = "Top"}) + editRecord({.removed = 3})), "");
-  // The character beyond the basic plane counts as two.
+  // The character outside the basic plane counts as two.
   std::string log = exampleLog();
   EXPECT_EQ(replayEdits(log), kExample);
 }

@@ -229,7 +229,7 @@ TEST(NumberPattern, FormattingIsIdempotent) {
   }
 }
 
-// What is shown of an amount in tenths of a cent can be said in integers, without any conversion.
+// The text of an amount in tenths of a cent can be computed with integers alone.
 TEST(NumberPattern, RoundsTenthsOfACentAsByHand) {
   for (long long mills = 0; mills < 300000; ++mills) {
     char typed[32];

@@ -289,7 +289,7 @@ TEST(NumberToText, WritesTheLimitsOfTheRange) {
 TEST(NumberToText, RoundTripsToFifteenDigits) {
   std::mt19937_64 random(1);
   std::uniform_real_distribution<double> exponent(-307, 307);
-  // Half a unit of the fifteenth digit, and what reading and dividing round.
+  // Half a unit of the fifteenth digit, plus the rounding of reading and dividing.
   constexpr double kBound = 5e-15 + 2 * Double::epsilon();
   for (int i = 0; i < 20000; ++i) {
     const double value = std::pow(10, exponent(random)) * (i % 2 ? -1 : 1);

@@ -42,7 +42,7 @@ TEST(TapeSafe, ReplacingTheWholeTapeStartsOver) {
   safe.record({.start = 3, .inserted = "\r\n1.00 + "});
   safe.record({.removed = 12, .inserted = ""});
   EXPECT_EQ(safe.size(), 0u);
-  // As when the user takes that back.
+  // As when the user undoes that.
   safe.record({.inserted = "Top\r\n1.00 + "});
   safe.record({.start = 12, .inserted = "\r\n2.00 + "});
   EXPECT_EQ(lost(safe), "Top\r\n1.00 + \r\n2.00 + ");
@@ -60,7 +60,7 @@ TEST(TapeSafe, ReturnsTheOlderRunFirstAndForgetsBoth) {
   EXPECT_EQ(safe.lostTapes(), "");
 }
 
-// What is stored for a line, or for an edit in the middle, is the same on a tape of any length.
+// A line, or an edit in the middle, takes the same space on a tape of any length.
 TEST(TapeSafe, CostOfAnEditDoesNotGrowWithTheTape) {
   inmemory::TapeSafe safe;
   safe.record({.inserted = "Top"});

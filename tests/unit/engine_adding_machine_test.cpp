@@ -19,7 +19,7 @@ TEST(ShowError, ShowsOneMessage) {
   EXPECT_EQ(desktop.boxes[0].box.buttons, controls::Buttons::Ok);
 }
 
-// How many messages it takes when the mouse has left `text` in the entry.
+// The number of messages after an edit by the context menu has left `text` in the entry.
 std::size_t boxesAfterMouse(controls::MouseEdit edit, const char* text) {
   inmemory::Desktop desktop;
   const auto window = desktop.createWindow(shell::frmCalcLayout());

@@ -10,7 +10,7 @@
 namespace engine {
 namespace {
 
-// What became of an amount: its mark, the number of the error, or the reason.
+// The outcome as text: the mark, the number of the error, or the reason.
 std::string told(const Outcome& outcome) {
   if (const auto* refusal = std::get_if<Refusal>(&outcome)) return std::to_string(refusal->error);
   if (const auto* failure = std::get_if<Failure>(&outcome)) return std::string(failure->reason);

@@ -7,13 +7,13 @@
 
 namespace annuity {
 
-/// An everyday plan: two of its amounts are chosen, the third is what the bank computes.
+/// An everyday plan: two amounts are chosen, the bank computes the third.
 struct Plan {
   const char* name;
   bool computesPayment;  ///< else the future value
   double pmt, pv, fv;
 
-  /// What the bank computes for a rate per month.
+  /// The bank's amount for a monthly rate.
   double computed(double rate, double nper, int due) const {
     return computesPayment ? annuity::pmt(rate, nper, pv, fv, due)
                            : annuity::fv(rate, nper, pmt, pv, due);
@@ -39,7 +39,7 @@ inline constexpr std::array kTerms = {1,   2,   3,   4,   5,   6,   9,   12, 15,
                                       24,  30,  36,  48,  60,  72,  84,  96, 120, 144,
                                       180, 216, 240, 276, 300, 360, 420, 480};
 
-/// The question for the rate of a plan, its amounts given in whole cents as on a bank's paper.
+/// The rate of a plan is unknown; its amounts are in whole cents as in a bank statement.
 struct RateProblem {
   const Plan* plan;
   double percent;  ///< what the bank has computed with, a year
@@ -49,9 +49,9 @@ struct RateProblem {
   double tolerance;  ///< what half a cent of the computed amount makes of the rate
 };
 
-/// Calls `use` with every problem: each plan, over 1 to 480 months, at 0 to 30 percent, paid at the
-/// end or the beginning of the month. Left out is what says nothing of the rate, where the only
-/// payment falls on the day of its sum.
+/// Calls `use` with every problem: each plan, over 1 to 480 months, at 0 to 30 percent, due at the
+/// end or the beginning of the month. Left out are problems that do not determine the rate, in
+/// which the only payment falls on the day of its sum.
 template <class Use>
 void forEachEverydayProblem(Use use) {
   constexpr double kStep = 1e-6;
@@ -69,7 +69,7 @@ void forEachEverydayProblem(Use use) {
           use(RateProblem{&plan, percent, static_cast<double>(nper),
                           plan.computesPayment ? cents : plan.pmt, plan.pv,
                           plan.computesPayment ? plan.fv : cents, due, rate,
-                          // The slope bends a little on the way.
+                          // The slope is not quite constant.
                           1.05 * kHalfACent / slope});
         }
       }

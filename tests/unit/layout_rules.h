@@ -50,7 +50,7 @@ inline const Rect& placeOf(const WindowLayout& layout, std::string_view name) {
   return found->place;
 }
 
-/// No control covers another, but a frame what it surrounds; and each lies inside the window.
+/// All controls are inside the window, and none overlaps another, except a frame its contents.
 inline void expectAllInSight(const WindowLayout& layout) {
   const Rect client = {0, 0, layout.place.width - controls::kFrameWidth,
                        layout.place.height - layout.frameHeight()};
@@ -69,7 +69,7 @@ inline void expectAllInSight(const WindowLayout& layout) {
   }
 }
 
-/// Controls side by side: of one height, on one line, the same gap between each two.
+/// Controls in a row: equal tops, and equal gaps between neighbors.
 inline void expectRow(const WindowLayout& layout, const std::vector<std::string_view>& names) {
   ASSERT_GE(names.size(), 2U);
   const Rect& first = placeOf(layout, names[0]);
@@ -82,7 +82,7 @@ inline void expectRow(const WindowLayout& layout, const std::vector<std::string_
   }
 }
 
-/// Controls below each other: of one width, under one another, the same gap between each two.
+/// Controls in a column: equal left edges and widths, and equal gaps between neighbors.
 inline void expectColumn(const WindowLayout& layout, const std::vector<std::string_view>& names) {
   ASSERT_GE(names.size(), 2U);
   const Rect& first = placeOf(layout, names[0]);
@@ -96,7 +96,7 @@ inline void expectColumn(const WindowLayout& layout, const std::vector<std::stri
   }
 }
 
-/// What a user, and a screen reader, knows of a control.
+/// What users and screen readers see of a control.
 struct Seen {
   int tabIndex;
   std::string_view name;
@@ -111,7 +111,7 @@ struct Seen {
   Alignment alignment = Alignment::Left;
 };
 
-/// Each control is as the list says, and the list has them all.
+/// The controls match the list, which is complete.
 inline void expectSeen(const WindowLayout& layout, std::span<const Seen> list) {
   EXPECT_EQ(layout.controls.size(), list.size());
   for (const Seen& seen : list) {

@@ -31,7 +31,7 @@ class EmptyProgram : public Program {
   std::string helpFile() const override { return ""; }
 };
 
-// The main window, shown on a desktop of its own.
+// The main window, shown on a desktop.
 template <class Desktop>
 struct Shown {
   Desktop desktop;

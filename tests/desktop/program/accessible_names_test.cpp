@@ -1,4 +1,4 @@
-// The identifiers that the next header declares come from here.
+// Defines the identifiers declared by the next header.
 #include <initguid.h>
 
 #include <oleacc.h>
@@ -13,7 +13,7 @@ namespace {
 
 using Names = std::set<std::wstring>;
 
-// What a screen reader says of a control.
+// The name of a control for screen readers.
 std::wstring accessibleName(HWND control) {
   IAccessible* object = nullptr;
   if (FAILED(AccessibleObjectFromWindow(control, static_cast<DWORD>(OBJID_CLIENT), IID_IAccessible,
@@ -30,7 +30,7 @@ std::wstring accessibleName(HWND control) {
   return result;
 }
 
-// As the About box shows it; nothing but ASCII.
+// As shown in the About box; ASCII only.
 std::wstring version() {
   const std::string text = about::versionText(about::programVersion());
   return {text.begin(), text.end()};
@@ -48,7 +48,7 @@ class AccessibleNamesTest : public ProgramTest {
     CoUninitialize();
   }
 
-  /// Of all that is shown in it, or of the controls of one class.
+  /// Of all visible controls, or of those of one class.
   static Names namesIn(HWND window, const std::wstring& kind = {}) {
     Names names;
     for (HWND control : shownChildren(window))

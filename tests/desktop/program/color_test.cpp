@@ -11,14 +11,14 @@ constexpr wchar_t kMessage[] =
     L"boxes. Choose Cancel on the next screen to quit.";
 constexpr COLORREF kPaleCyan = RGB(128, 255, 255);
 constexpr COLORREF kChosen = RGB(255, 240, 160);
-// The boxes of the system's picker for the three parts of a colour.
+// The boxes of the system's color picker for red, green and blue.
 constexpr int kRed = 706;
 constexpr int kGreen = 707;
 constexpr int kBlue = 708;
 
 class ColorTest : public ProgramTest {
  protected:
-  /// The label in front of the decimals box is clicked twice; gives the picker.
+  /// Double-clicks the label of the decimals box; returns the picker.
   HWND openPicker() {
     HWND label = nullptr;
     for (HWND child : shownChildren(program().mainWindow()))
@@ -49,7 +49,7 @@ class ColorTest : public ProgramTest {
     end(picker, IDOK);
   }
 
-  /// Of the entry box, which has the focus and is empty.
+  /// Of the focused, empty entry box.
   static void expectEntryColor(COLORREF color) {
     constexpr int kInside = 6;
     const RECT place = placeOf(program().entry());
@@ -58,15 +58,15 @@ class ColorTest : public ProgramTest {
     EXPECT_EQ(seen(), color);
   }
 
-  /// Waits until the figures on the tape, or in the entry box, are as far from the colour of the
-  /// box as they can be.
+  /// Waits until the digits on the tape, or in the entry box, have the best contrast to the color of
+  /// the box.
   static void expectLetters(HWND box, bool light) {
     constexpr int kFrame = 4;
     constexpr std::uint32_t kWhite = 0xE0;
     constexpr std::uint32_t kBlack = 0x20;
     RECT place = placeOf(box);
     InflateRect(&place, -kFrame, -kFrame);
-    // Without the caret, which is always far from the colour: it is behind them.
+    // Excludes the caret after the text, which always contrasts with the color.
     constexpr int kCaret = 8;
     place.right -= box == program().tape() ? (place.right - place.left) / 4 : kCaret;
     EXPECT_TRUE(eventually([&] {
@@ -80,7 +80,7 @@ class ColorTest : public ProgramTest {
         << (box == program().tape() ? "tape" : "entry");
   }
 
-  /// Both boxes when they have the focus and are of that colour.
+  /// Checks both boxes while they have the focus and that color.
   void expectLettersOn(COLORREF color, bool light) {
     settings().set(L"glngTextBackColor", std::to_wstring(color));
     settings().set(L"frmCalcmnuWinPadTape", L"True");
@@ -143,7 +143,7 @@ TEST_F(ColorTest, TextIsLightOnADarkColor) {
   expectLettersOn(RGB(0, 0, 96), true);
 }
 
-// Yellow is bright, though it has no blue.
+// Yellow is bright although it has no blue.
 TEST_F(ColorTest, TextIsDarkOnALightColor) {
   expectLettersOn(RGB(255, 255, 0), false);
 }

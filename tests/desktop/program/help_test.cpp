@@ -8,8 +8,8 @@ namespace {
 
 constexpr DWORD kTopic = 23;
 
-// Nothing but what the viewer paints tells which page it shows; so it is compared with the page
-// that it shows when it is asked for that one directly.
+// Only its image tells which page the viewer shows; so it is compared with the page that the viewer
+// shows when asked for it directly.
 class HelpTest : public ProgramTest {
  protected:
   using Page = std::vector<std::uint32_t>;
@@ -38,7 +38,7 @@ class HelpTest : public ProgramTest {
   const Page& topic() const { return topic_; }
 
  private:
-  // The area below the buttons, without its frame.
+  // The area below the buttons, without the frame.
   static Page pageIn(HWND viewer) {
     RECT client = {};
     GetClientRect(viewer, &client);
@@ -53,11 +53,11 @@ class HelpTest : public ProgramTest {
     return viewer;
   }
 
-  /// What the viewer shows when it is asked for it; empty without a viewer.
+  /// The image of a page in the viewer; empty without a viewer.
   Page pageOf(UINT command, ULONG_PTR data) {
     if (!WinHelpW(GetDesktopWindow(), pathForViewer().c_str(), command, data)) return {};
     const HWND viewer = awaitViewer();
-    // It is complete when it stays the same for a while.
+    // The image is complete when it has not changed for a while.
     constexpr ULONGLONG kRest = 1000;
     Page page;
     ULONGLONG since = GetTickCount64();
@@ -71,15 +71,14 @@ class HelpTest : public ProgramTest {
     return page;
   }
 
-  // The viewer reads no letters beyond those of every code page, and the program lies in a folder
-  // that has some.
+  // The viewer only supports ASCII paths, and the program is in a folder with other letters.
   static std::wstring pathForViewer() {
     wchar_t path[MAX_PATH] = L"";
     GetShortPathNameW(program().helpFile().c_str(), path, MAX_PATH);
     return path;
   }
 
-  // Text in several colours stands on every page.
+  // Every page has text in several colors.
   static bool isEmpty(const Page& page) {
     constexpr std::size_t kFewestColors = 4;
     return std::set(page.begin(), page.end()).size() < kFewestColors;

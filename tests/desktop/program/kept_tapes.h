@@ -5,9 +5,9 @@
 
 namespace program {
 
-/// The files in which the program of that name keeps the tapes of its runs.
+/// The files in which the program of that name keeps its tapes.
 std::vector<std::wstring> keptTapes(const std::wstring& programName);
-/// Deletes those that no run has open.
+/// Deletes those that are not open in a running program.
 void clearKeptTapes(const std::wstring& programName);
 
 }  // namespace program

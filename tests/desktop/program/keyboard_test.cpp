@@ -44,7 +44,7 @@ constexpr std::array kTabOrder = {
     L"decimals box",
 };
 
-// Whoever has no mouse.
+// The whole program by keyboard.
 class KeyboardTest : public ProgramTest {
  protected:
   void SetUp() override {

@@ -7,7 +7,7 @@
 
 namespace program {
 
-/// A key under the machine's registry root that a test fills; it is as it was when the test ends.
+/// A key under the machine's registry root for a test, which is restored when the test ends.
 class MachineKey {
  public:
   explicit MachineKey(const std::wstring& path);
@@ -15,14 +15,14 @@ class MachineKey {
   MachineKey(const MachineKey&) = delete;
   MachineKey& operator=(const MachineKey&) = delete;
 
-  /// Only an administrator may write here.
+  /// Only administrators may write here.
   bool isWritable() const { return key_ != nullptr; }
   void set(const std::wstring& name, const std::wstring& text);
-  /// Without the zero that ends a text.
+  /// Without the terminating zero.
   void setUnterminated(const std::wstring& name, const std::wstring& text);
-  /// With names of environment variables between percent signs.
+  /// With environment variables in percent signs.
   void setExpandable(const std::wstring& name, const std::wstring& text);
-  /// With half a character behind it.
+  /// With half a character at the end.
   void setWithAnOddSize(const std::wstring& name, const std::wstring& text);
   void set(const std::wstring& name, DWORD number);
   void remove(const std::wstring& name);
@@ -34,7 +34,7 @@ class MachineKey {
     std::vector<BYTE> data;
   };
 
-  /// Notes what stood there before the test's first change.
+  /// Remembers the values before the first change.
   void remember(const std::wstring& name);
   void put(const std::wstring& name, DWORD type, const void* data, std::size_t bytes);
 

@@ -6,8 +6,7 @@
 
 namespace program {
 
-/// A window of the tests' own beside the program: what the user types goes into it while it is in
-/// front.
+/// A window of another program: the user types into it while it is in front.
 class OtherProgram {
  public:
   OtherProgram();
@@ -16,12 +15,12 @@ class OtherProgram {
   OtherProgram& operator=(const OtherProgram&) = delete;
 
   HWND window() const { return window_; }
-  /// Brings it in front, and waits until keys go to it.
+  /// Brings it to the front, and waits until keys go to it.
   void comeToFront();
-  /// Lets it take what has arrived.
+  /// Processes its messages.
   void work();
   std::wstring text() const;
-  /// The keys that have gone down in it, also while its text did not have the focus any more.
+  /// The keys pressed in it, even if its text no longer had the focus.
   const std::wstring& keys() const { return keys_; }
 
  private:

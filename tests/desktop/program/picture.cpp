@@ -3,7 +3,7 @@
 namespace program {
 namespace {
 
-// From the top down, four bytes a dot.
+// Top-down, four bytes per pixel.
 BITMAPINFOHEADER headerOf(int width, int height) {
   BITMAPINFOHEADER header = {};
   header.biSize = sizeof header;

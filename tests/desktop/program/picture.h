@@ -7,12 +7,12 @@
 
 namespace program {
 
-/// What the screen shows at a place, as the user sees it.
+/// The screen contents in a rectangle.
 class Picture {
  public:
   explicit Picture(const RECT& place);
 
-  /// The dots from the top left, row by row, as 0x00RRGGBB.
+  /// The pixels from the top left, row by row, as 0x00RRGGBB.
   const std::vector<std::uint32_t>& dots() const { return dots_; }
 
  private:
@@ -21,7 +21,7 @@ class Picture {
   std::vector<std::uint32_t> dots_;
 };
 
-/// The colour of one dot of the screen.
+/// The color of one pixel of the screen.
 COLORREF colorAt(POINT place);
 
 }  // namespace program

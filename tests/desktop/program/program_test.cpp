@@ -90,7 +90,7 @@ void ProgramTest::chooseFromMenu(WORD menu, std::string_view letters) {
   type(letters);
 }
 
-// The menu of the calculators opens at its first.
+// The submenu of the calculators opens at its first item.
 void ProgramTest::chooseCalculator(int place) {
   chooseFromMenu('W', "F");
   for (int down = 0; down < place; ++down) press(VK_DOWN);

@@ -15,8 +15,8 @@ namespace program {
 
 using namespace support;
 
-/// The program on a user's desktop. It starts without settings, and nothing that it has opened is
-/// left behind, however a test ends.
+/// The program on a user's desktop. It starts without settings, and everything that it has opened
+/// is closed, however a test ends.
 class ProgramTest : public testing::Test {
  public:
   static void setProgram(TestedProgram& program) { program_ = &program; }
@@ -29,36 +29,35 @@ class ProgramTest : public testing::Test {
   UserSettings& settings() { return settings_; }
 
   void start() { program().start(); }
-  /// Closes the main window as a click on its cross does, and waits for the program's end.
+  /// Closes the main window as a click on its close box does, and waits for the program to end.
   void close();
 
-  /// Waits until a window has the text; reports it when it has another.
+  /// Waits until a window has the text; reports a different one.
   static void expectText(HWND window, const std::wstring& text);
-  /// Waits until a window of the program's is in front. On Wine, closing a window may leave the
-  /// keys with nobody; then the user goes to that window.
+  /// Waits until a window of the program is in front. On Wine, closing a window may leave no window
+  /// with the keyboard; then this one is activated.
   static void awaitInFront(HWND window);
-  /// Waits for a message or another dialog of the system's, and gives it.
+  /// Waits for a message box or another system dialog, and returns it.
   static HWND awaitDialog();
-  /// Waits for a message of the program's with that text, which must come.
+  /// Waits for a message with that text, which must appear.
   HWND expectMessage(const std::wstring& text);
-  /// Answers the message that is shown by a key, and waits until it is gone.
+  /// Answers the visible message with a key, and waits until it has closed.
   void answer(WORD key);
 
-  /// Waits until the same control of the program has had the focus for a while. On Wine the
-  /// screen's news of a window that has come or gone closes a menu that has been opened in the
-  /// meantime.
+  /// Waits until the same control of the program has had the focus for a while. On Wine, a late
+  /// notification about a new or closed window closes a menu that has been opened meanwhile.
   static void awaitRest();
-  /// Opens a menu with Alt and its letter, and chooses in it by letters.
+  /// Opens a menu with Alt and its letter, and chooses items by letters.
   static void chooseFromMenu(WORD menu, std::string_view letters);
-  /// Opens the Loan, the Investment or the Standard calculator: 0, 1 or 2. Its note comes first.
+  /// Opens the Loan, Investment or Standard calculator: 0, 1 or 2. Its note appears first.
   static void chooseCalculator(int place);
-  /// Opens one of the calculators, sees its note off, and gives its window, which is in front.
+  /// Opens one of the calculators, answers its note, and returns its window, which is in front.
   HWND openCalculator(int place, const std::wstring& title);
   /// Whether a toggle of the main window is down.
   static bool isPressed(const std::wstring& toggle);
-  /// A window of another program that has opened during the test; null without one.
+  /// A window of another program that was opened during the test; null without one.
   HWND openedWindow(std::wstring_view windowClass) const;
-  /// Ends another program that has opened during the test, and waits until it is gone.
+  /// Ends another program that was opened during the test, and waits for its end.
   static void endProcessOf(HWND window);
 
  private:

@@ -9,12 +9,11 @@
 namespace program {
 namespace {
 
-// Wine has a Notepad of its own for every file of that name, unless it is told here to take the
-// file.
+// Wine uses its built-in Notepad for every file of that name unless told to use the file.
 constexpr const wchar_t* kOverrides = L"Software\\Wine\\DllOverrides";
 constexpr const wchar_t* kOverridden = L"notepad.exe";
 
-// The places where a program is looked for first.
+// The folders in which a program is searched for first.
 std::vector<std::wstring> notepads() {
   std::vector<std::wstring> files;
   for (const auto folder : {GetSystemDirectoryW, GetSystemWindowsDirectoryW}) {
@@ -34,7 +33,7 @@ std::wstring standIn() {
 
 }  // namespace
 
-// One that an interrupted run has left behind is the real one still.
+// A backup left behind by an interrupted run is the real Notepad.
 ReplacedNotepad::ReplacedNotepad() {
   wchar_t temporary[MAX_PATH] = L"";
   GetTempPathW(MAX_PATH, temporary);

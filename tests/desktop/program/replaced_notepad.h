@@ -4,8 +4,7 @@
 
 namespace program {
 
-/// While there is one, the system's Notepad is another program, or none. Its own comes back with
-/// the end.
+/// Replaces or removes the system's Notepad while it exists, and restores it at the end.
 class ReplacedNotepad {
  public:
   ReplacedNotepad();
@@ -13,10 +12,10 @@ class ReplacedNotepad {
   ReplacedNotepad(const ReplacedNotepad&) = delete;
   ReplacedNotepad& operator=(const ReplacedNotepad&) = delete;
 
-  /// The stand-in beside the tests takes its place; `kind` tells it what to do. False where the
-  /// system does not let its files be replaced.
+  /// Replaces it by the stand-in beside the tests; `kind` tells that what to do. False if the
+  /// system protects its files.
   bool with(const std::wstring& kind);
-  /// There is none. False where the system does not let it be removed.
+  /// Removes it. False if the system protects its files.
   bool byNothing();
 
  private:

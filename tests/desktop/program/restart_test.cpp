@@ -19,7 +19,7 @@ class RestartTest : public ProgramTest {
                   static_cast<int>(GetDpiForWindow(window())));
   }
 
-  /// The width is the last that is set.
+  /// The width is set last.
   static void awaitNarrowerThan(const RECT& before) {
     await("the micro window", [&before] {
       const RECT now = placeOf(window());
@@ -27,7 +27,7 @@ class RestartTest : public ProgramTest {
     });
   }
 
-  /// The window gets there in several steps.
+  /// The window is resized in several steps.
   static void expectPlace(const RECT& place) {
     const auto now = [] {
       const RECT seen = placeOf(window());
@@ -73,7 +73,7 @@ class RestartTest : public ProgramTest {
     const RECT place = placeOf(window());
     chooseFromMenu('W', "A");
     await("always on top", isOnTop);
-    // On the way there the window has no size for a moment.
+    // In between, the window has no size for a moment.
     expectPlace(place);
     moveAndSize();
   }
@@ -90,7 +90,7 @@ class RestartTest : public ProgramTest {
     expectPlace(place);
   }
 
-  /// What is to be kept of the window as it is, and of what setEverythingOtherwise sets.
+  /// The settings expected of the window as it is, and after setEverythingOtherwise.
   static Settings expectedSettings() {
     constexpr int kFrameWidth = 120;
     constexpr int kFrameHeight = 690;

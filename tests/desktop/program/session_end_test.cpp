@@ -13,7 +13,7 @@ BOOL CALLBACK addWindow(HWND window, LPARAM list) {
   return TRUE;
 }
 
-// What the program makes of an end that comes from outside, whatever stands open.
+// The end of the session or a request to close, with various windows open.
 class SessionEndTest : public ProgramTest {
  protected:
   void startWithFields() {
@@ -36,7 +36,7 @@ class SessionEndTest : public ProgramTest {
 
   void expectMainWindowSaved() { EXPECT_EQ(settings().get(L"frmCalcchkShiftDec"), L"1"); }
 
-  /// Every top window of the program, also those that are not shown.
+  /// All top-level windows of the program, including hidden ones.
   static std::vector<HWND> allWindows() {
     std::vector<HWND> all;
     EnumWindows(addWindow, reinterpret_cast<LPARAM>(&all));
@@ -44,14 +44,14 @@ class SessionEndTest : public ProgramTest {
     return all;
   }
 
-  /// The financial calculator while it is loaded but not shown yet.
+  /// The financial calculator while it is loaded but not yet visible.
   static HWND hiddenWindow() {
     for (HWND window : allWindows())
       if (classOf(window) == kWindowClass && !IsWindowVisible(window)) return window;
     return nullptr;
   }
 
-  /// Tells windows of the session's end as the system does: it asks all, then tells all.
+  /// Reports the end of the session as the system does: first asks all windows, then notifies all.
   static void endSession(const std::vector<HWND>& windows) {
     constexpr UINT kPatience = 5000;
     DWORD_PTR agrees = 0;

@@ -37,9 +37,9 @@ TEST_F(StartTest, AddsAColumnOfFigures) {
   close();
 }
 
-// Somebody types on while the window comes up. The program that was in front before gets the first
-// keys; once this one is in front, it gets every key, in order. Of a key that goes down just when
-// the front changes hands, the system itself may lose sight.
+// The user types while the window appears. The program that was in front before gets the first
+// keys; once this one is in front, it gets every key in order. The system itself may lose a key
+// that is pressed just when the foreground changes.
 TEST_F(StartTest, KeysTypedDuringStartupArriveInOrder) {
   constexpr std::size_t kKeysInFront = 6;
   OtherProgram other;
@@ -82,7 +82,7 @@ TEST_F(StartTest, ClosingWhileMinimizedKeepsTheStoredPlace) {
   EXPECT_FALSE(isPressed(L"Tape off"));
 }
 
-// As a shortcut may say of its window.
+// As a shortcut may request.
 TEST_F(StartTest, StartsMinimizedOnRequest) {
   for (const int show : {SW_SHOWMINNOACTIVE, SW_SHOWMINIMIZED}) {
     program().launch(static_cast<WORD>(show));

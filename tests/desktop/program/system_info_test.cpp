@@ -7,7 +7,7 @@ namespace {
 constexpr wchar_t kMissing[] =
     L"Cannot Find The External Program For System Information (MSINFO32.EXE)";
 
-// A second Tallyrex stands in for the system-information program, which not every system has.
+// A second Tallyrex replaces the system information program, which not every system has.
 class SystemInfoTest : public ProgramTest {
  protected:
   void SetUp() override {
@@ -28,7 +28,7 @@ class SystemInfoTest : public ProgramTest {
     });
   }
 
-  /// A folder that holds the stand-in under the name that is looked for.
+  /// A folder with the replacement under the expected name.
   const std::wstring& makeFolder() {
     wchar_t temporary[MAX_PATH] = L"";
     GetTempPathW(MAX_PATH, temporary);
@@ -59,7 +59,7 @@ class SystemInfoTest : public ProgramTest {
     EXPECT_TRUE(standIn()) << "the program was not found";
   }
 
-  /// The message comes, nothing has been started, and the About box stays.
+  /// The message appears, nothing has been started, and the About box stays open.
   void expectMissing() {
     expectMessage(kMissing);
     EXPECT_FALSE(standIn());
@@ -119,7 +119,7 @@ TEST_F(SystemInfoTest, UsesTheFolderWhenTheNameIsTooLong) {
   expectStandIn();
 }
 
-// A number is a value like any other: it is the name, and the folder is not looked into.
+// A number is a value like any other: it is taken as the name, and the folder is not used.
 TEST_F(SystemInfoTest, AcceptsANumberAsTheName) {
   path().set(L"PATH", 7);
   location().set(L"MSINFO", makeFolder());

@@ -16,7 +16,7 @@ constexpr wchar_t kWindowClass[] = L"TallyrexWindow";
 constexpr wchar_t kDialogClass[] = L"#32770";
 constexpr wchar_t kTapeClass[] = L"TallyrexTape";
 
-// The boxes of one line stand side by side.
+// The single-line boxes are side by side.
 HWND lineBox(HWND window, bool leftmost) {
   HWND found = nullptr;
   for (HWND child : shownChildren(window)) {
@@ -31,20 +31,20 @@ HWND lineBox(HWND window, bool leftmost) {
 TestedProgram::TestedProgram(const std::wstring& program, const std::wstring& help) {
   wchar_t temporary[MAX_PATH] = L"";
   GetTempPathW(MAX_PATH, temporary);
-  // Users have folders with all kinds of letters in their names.
+  // Users' folders may have all kinds of letters in their names.
   folder_ = temporary + name_ + std::to_wstring(GetCurrentProcessId()) + L" Z\u00E4hler \u8A08";
   CreateDirectoryW(folder_.c_str(), nullptr);
   program_ = folder_ + L"\\" + name_ + L".exe";
   help_ = folder_ + L"\\" + name_ + L".hlp";
   if (!CopyFileW(program.c_str(), program_.c_str(), FALSE))
     throw NotSeen("the file of the program");
-  // It is there only where it could be built.
+  // It exists only where it could be built.
   CopyFileW(help.c_str(), help_.c_str(), FALSE);
 }
 
 TestedProgram::~TestedProgram() {
   kill();
-  // Its file cannot be deleted before the program is gone altogether.
+  // Its file can be deleted only after the process has ended.
   eventually([this] {
     DeleteFileW(program_.c_str());
     DeleteFileW(help_.c_str());
@@ -109,7 +109,7 @@ void TestedProgram::runAt(ULONG_PTR address) const {
   CloseHandle(thread);
 }
 
-// The library lies at the same place in every process.
+// The library is at the same address in every process.
 bool TestedProgram::takeMemory() const {
   const HMODULE library = GetModuleHandleW(L"msvcrt.dll");
   if (!library) return false;

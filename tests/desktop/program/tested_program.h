@@ -6,11 +6,11 @@
 
 namespace program {
 
-/// The finished program, started as a user starts it, seen from outside.
+/// The finished program, started as by a user and seen from outside.
 class TestedProgram {
  public:
-  /// Takes a copy of the program and of its help under a name of their own: the settings go by that
-  /// name, so those of the user who runs the tests stay as they are.
+  /// Copies the program and its help under another name. Settings are stored under that name, so
+  /// those of the user who runs the tests do not change.
   TestedProgram(const std::wstring& program, const std::wstring& help);
   ~TestedProgram();
   TestedProgram(const TestedProgram&) = delete;
@@ -21,37 +21,36 @@ class TestedProgram {
   const std::wstring& file() const { return program_; }
   const std::wstring& helpFile() const { return help_; }
 
-  /// Starts it, and does not wait. Its window is to be shown as SW_... says.
+  /// Starts it without waiting. `SW_...` is the requested state of its window.
   void launch(WORD show = SW_SHOWDEFAULT);
-  /// Starts it, and waits until keys go to the entry box.
+  /// Starts it and waits until keys go to the entry box.
   void start();
   bool running() const;
-  /// Waits until it has ended by itself; throws NotSeen when it does not.
+  /// Waits until it has ended by itself; throws NotSeen if it does not.
   void awaitEnd() const;
-  /// Of a program that has ended.
+  /// The exit code, after the program has ended.
   DWORD exitCode() const;
-  /// Ends it, whatever it shows.
+  /// Kills it.
   void kill();
-  /// Has a thread of it run at an address, where nothing is.
+  /// Starts a thread in it at an invalid address.
   void runAt(ULONG_PTR address) const;
-  /// From now on it is given no memory. False where what gives it cannot be found from here.
+  /// From now on it gets no memory. False if its allocation function cannot be found.
   bool takeMemory() const;
   bool owns(HWND window) const;
 
-  /// Null while it is not shown.
+  /// Null while it is not visible.
   HWND mainWindow() const;
-  /// The window of the program, other than a message, whose title ends so; null without one.
+  /// The window of the program, other than a message box, whose title ends so; null without one.
   HWND windowTitled(const std::wstring& ending) const;
-  /// The message box or other dialog of the system's that it shows; null without one.
+  /// Its visible message box or other system dialog; null without one.
   HWND dialog() const;
-  /// The control with the focus.
+  /// The focused control.
   HWND focus() const;
 
   HWND entry() const;
   HWND decimals() const;
   HWND tape() const;
-  /// A key or a toggle of a window by the text that it gives away, without its "&"; null when it is
-  /// not shown.
+  /// A key or a toggle of a window by its window text, without "&"; null if it is not visible.
   static HWND key(HWND window, const std::wstring& text);
 
  private:
@@ -63,7 +62,7 @@ class TestedProgram {
   DWORD processId_ = 0;
 };
 
-/// A control's text without the "&" of its access key.
+/// A control's text without "&".
 std::wstring plainTextOf(HWND control);
 
 }  // namespace program
