@@ -1,6 +1,6 @@
 # GoogleTest as the targets GTest::gtest and GTest::gtest_main, for every toolchain. No distribution
-# packages it for mingw-w64, so its sources are built where they are installed; elsewhere the
-# compiled package of a native toolchain serves.
+# packages it for mingw-w64, so the installed sources are built there; a native toolchain uses the
+# compiled package.
 set(TALLYREX_GOOGLETEST_SOURCES /usr/src/googletest
     CACHE PATH "The sources of GoogleTest (in Debian the package googletest)")
 
@@ -18,7 +18,7 @@ if(EXISTS ${TALLYREX_GOOGLETEST_SOURCES}/googletest/CMakeLists.txt)
     endif()
   endforeach()
 else()
-  # A package of the building machine would be found too, and its libraries do not link.
+  # Do not use the package of the build machine: its libraries do not link.
   if(CMAKE_CROSSCOMPILING)
     set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
   endif()

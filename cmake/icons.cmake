@@ -1,6 +1,6 @@
-# Icons are drawings, rendered at each size of their own, so that none is scaled on the screen. The
-# tools for that are rare on Windows: where they are missing, the renderings that scripts/keep-icons
-# has put beside the drawings serve.
+# Icons are drawings, rendered at each size, so that none is scaled on the screen. Where the tools
+# for that are missing, as usual on Windows, the renderings that scripts/keep-icons has stored
+# beside the drawings are used.
 find_program(TALLYREX_RSVG_CONVERT rsvg-convert)
 find_program(TALLYREX_ICOTOOL icotool)
 
@@ -31,7 +31,7 @@ function(tallyrex_render_icon drawing)
     set(picture ${folder}/${name}-${size}.png)
     list(APPEND renderings COMMAND ${TALLYREX_RSVG_CONVERT} --width ${size} --height ${size}
                                    --output ${picture} ${source})
-    # The large ones stay compressed: as bitmaps they would outweigh the program.
+    # Large images stay compressed: as bitmaps they would be larger than the program.
     if(size LESS 48)
       list(APPEND pictures ${picture})
     else()

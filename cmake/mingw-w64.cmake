@@ -2,7 +2,7 @@
 set(CMAKE_SYSTEM_NAME Windows)
 set(CMAKE_SYSTEM_PROCESSOR x86_64)
 set(triplet x86_64-w64-mingw32)
-# Of two, as some distributions have them, the one with the threads of the standard library.
+# Some distributions have two compilers; use the one that supports std::thread.
 find_program(TALLYREX_MINGW_C NAMES ${triplet}-gcc-posix ${triplet}-gcc REQUIRED)
 find_program(TALLYREX_MINGW_CXX NAMES ${triplet}-g++-posix ${triplet}-g++ REQUIRED)
 set(CMAKE_C_COMPILER ${TALLYREX_MINGW_C})

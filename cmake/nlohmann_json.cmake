@@ -1,6 +1,6 @@
-# nlohmann-json as the target nlohmann_json::nlohmann_json, for every toolchain. It is headers alone, so
-# a cross build takes those of the building machine: through a folder of their own, since the folder
-# they are installed in holds that machine's system headers too.
+# nlohmann-json as the target nlohmann_json::nlohmann_json, for every toolchain. It is header-only,
+# so a cross build uses the headers of the build machine, through a separate folder, since their own
+# folder also contains system headers.
 if(CMAKE_CROSSCOMPILING)
   find_path(TALLYREX_NLOHMANN_JSON_INCLUDE nlohmann/json.hpp REQUIRED
             PATHS /usr/include /usr/local/include NO_CMAKE_FIND_ROOT_PATH)

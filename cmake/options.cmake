@@ -1,4 +1,4 @@
-# How the sources of this project are compiled. Every library and program links it, most of them by way of
+# Compile options of this project. Every library and program links this target, most of them through
 # tallyrex_common.
 add_library(tallyrex_options INTERFACE)
 target_compile_features(tallyrex_options INTERFACE cxx_std_20)
@@ -10,13 +10,13 @@ if(MSVC)
   target_compile_options(tallyrex_options INTERFACE
     /W4 /utf-8 /permissive- /EHsc $<$<BOOL:${TALLYREX_WARNINGS_AS_ERRORS}>:/WX>)
 else()
-  # An assertion names its file from the root of the sources, wherever that is built.
+  # File names in assertions are relative to the root of the sources.
   target_compile_options(tallyrex_options INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Wconversion $<$<BOOL:${TALLYREX_WARNINGS_AS_ERRORS}>:-Werror>
     "-fmacro-prefix-map=${PROJECT_SOURCE_DIR}/=")
 endif()
 
-# A broken assumption ends the program in releases too.
+# Assertions stay on in releases.
 foreach(config RELEASE RELWITHDEBINFO MINSIZEREL)
   string(REGEX REPLACE "[-/]DNDEBUG" "" CMAKE_CXX_FLAGS_${config} "${CMAKE_CXX_FLAGS_${config}}")
 endforeach()

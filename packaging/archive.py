@@ -1,4 +1,4 @@
-"""The portable archive. Its bytes depend on nothing but the files, their names and their dates."""
+"""The portable archive. Its bytes depend only on the files, their names and their dates."""
 import pathlib
 import time
 import zipfile

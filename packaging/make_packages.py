@@ -26,7 +26,7 @@ from signature import sign
 
 HERE = pathlib.Path(__file__).resolve().parent
 PLACEHOLDER_ADDRESS = "https://example.com/tallyrex"
-# The oldest date that an archive can hold, for sources that are no clone.
+# The oldest date in an archive, for sources that are not a clone.
 NO_DATE = 315532800
 
 
@@ -70,7 +70,7 @@ def write_json(path, contents):
 
 
 def write_manifests(target, version, setup, archive, date):
-    """Writes what package managers want to know of the two packages, into folders of `target`."""
+    """Writes the manifests of the two packages for package managers into folders of `target`."""
     address = os.environ.get("TALLYREX_ADDRESS", "").rstrip("/")
     if not address:
         address = PLACEHOLDER_ADDRESS
@@ -85,7 +85,7 @@ def write_manifests(target, version, setup, archive, date):
 
 
 def make_packages(inputs, target, version):
-    """Makes all files of one version into the folder `target`, in place of what was there."""
+    """Makes all files of one version in the folder `target`, replacing its contents."""
     date = source_date()
     certificate = os.environ.get("TALLYREX_CERTIFICATE")
     shutil.rmtree(target, ignore_errors=True)

@@ -18,7 +18,7 @@ def number(pattern, text):
 
 
 def counted(output):
-    """Passed, failed and skipped as a test program's own closing lines say; zeros where it has none."""
+    """Passed, failed and skipped from the summary of a test program; zeros without one."""
     closings = CLOSING.findall(output)
     if closings:
         return [int(count or 0) for count in closings[-1]]

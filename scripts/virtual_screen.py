@@ -1,4 +1,4 @@
-"""The virtual screen that a command has beside scripts/in-wine: what is on it, and its keys."""
+"""The virtual screen of scripts/in-wine: its contents and its keyboard."""
 import pathlib
 import subprocess
 import tempfile
@@ -8,7 +8,7 @@ PATIENCE = 30
 # How many screenshots in a row must be the same, and how far apart.
 STILL_LOOKS = 4
 BETWEEN_LOOKS = 0.1
-# The pointer, parked in the last corner of the screen, reaches so far from there.
+# The size of the pointer, which is parked in the last corner of the screen.
 POINTER = 64
 
 
@@ -19,19 +19,19 @@ def screen_size():
 
 
 class Screen:
-    """The screen whose picture lies in the file."""
+    """The screen whose frame buffer is in the file."""
 
     def __init__(self, framebuffer):
         self._file = pathlib.Path(framebuffer)
         self._empty = None
 
     def remember_as_empty(self):
-        """What is on the screen from now on counts as nothing."""
+        """From now on, the present contents of the screen count as empty."""
         self.wait_until_still()
         self._empty = self._file.read_bytes()
 
     def move_mouse_aside(self):
-        """The pointer would be in the picture, and hot what is under it."""
+        """Moves the pointer out of the picture."""
         width, height = screen_size()
         self._do("mousemove", str(width - 1), str(height - 1))
 
@@ -43,7 +43,7 @@ class Screen:
         subprocess.run(["xdotool", *words], check=True)
 
     def wait_until_still(self):
-        """Returns when what is seen has stopped changing."""
+        """Waits until the screen has stopped changing."""
         before, looks = b"", 0
         until = time.monotonic() + PATIENCE
         while looks < STILL_LOOKS:
@@ -55,7 +55,7 @@ class Screen:
             before = now
 
     def save(self, picture):
-        """Saves the part of the screen on which there is anything, as a PNG."""
+        """Saves the part of the screen that is not empty as a PNG."""
         width, height = screen_size()
         without_pointer = ["-crop", "%dx%d+0+0" % (width - POINTER, height - POINTER), "+repage"]
         with tempfile.NamedTemporaryFile() as empty:

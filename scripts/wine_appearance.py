@@ -15,7 +15,7 @@ HIGH_CONTRAST = r"HKEY_CURRENT_USER\Control Panel\Accessibility\HighContrast"
 
 BLACK, WHITE, YELLOW = "0 0 0", "255 255 255", "255 255 0"
 CYAN, GREEN, PURPLE, GREY = "0 255 255", "0 255 0", "128 0 128", "128 128 128"
-# As the theme High Contrast Black of Windows has them.
+# The colors of the Windows theme High Contrast Black.
 CONTRAST_COLORS = {
     "ActiveBorder": "0 0 255", "ActiveTitle": PURPLE, "AppWorkSpace": BLACK, "Background": BLACK,
     "ButtonAlternateFace": "192 192 192", "ButtonDkShadow": WHITE, "ButtonFace": BLACK,
@@ -47,7 +47,7 @@ def large_font(points, bold=False):
     return "hex:" + ",".join("%02x" % byte for byte in data)
 
 
-# Small enough for a page, and large enough that the letters are drawn smooth.
+# Small enough for a page, and large enough for smooth text.
 APPEARANCE_OF_DOCUMENTS = scaling(125)
 APPEARANCES = [scaling(percent) for percent in (100, 125, 150, 200, 300)] + [
     Appearance("high-contrast", {
@@ -61,15 +61,15 @@ APPEARANCES = [scaling(percent) for percent in (100, 125, 150, 200, 300)] + [
         "CaptionHeight": '"-540"', "CaptionWidth": '"-540"', "MenuHeight": '"-480"',
         "ScrollWidth": '"-450"', "ScrollHeight": '"-450"'}})]
 
-# A caret that blinks would be in every other picture. Wine's own Tahoma is drawn narrower than it
-# measures, and never bold: texts would stand beside their places.
+# A blinking caret would be in every other picture. Wine's own Tahoma is drawn narrower than it
+# measures, and never bold, so that texts would be misplaced.
 ALWAYS = {DESKTOP: {"CursorBlinkRate": '"-1"'},
           FONTS: {"Tahoma": '"Liberation Sans"', "Lucida Console": '"Liberation Mono"'}}
 BAD_FONTS = "drive_c/windows/Fonts/tahoma*.ttf"
 
 
 def _run(*command, check=True):
-    # What a Windows starts on its way would hold our output open.
+    # Services started by Wine would keep our output open.
     subprocess.run(command, check=check, timeout=120, stdin=subprocess.DEVNULL,
                    stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
 

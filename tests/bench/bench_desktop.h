@@ -6,7 +6,7 @@
 
 namespace bench {
 
-/// The desktop that a benchmark runs on: the kind that it was built for.
+/// The desktop of a benchmark, of the kind that it was built for.
 class BenchDesktop {
  public:
   BenchDesktop();
@@ -15,7 +15,7 @@ class BenchDesktop {
   BenchDesktop& operator=(const BenchDesktop&) = delete;
 
   controls::Desktop& desktop() { return *desktop_; }
-  /// Lets the screen show what has changed.
+  /// Paints what has changed.
   void paint();
 
  private:

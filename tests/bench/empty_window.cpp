@@ -1,6 +1,6 @@
 #include <windows.h>
 
-// A program that opens an empty window: the floor of what a start can cost.
+// A program that opens an empty window: the minimum cost of a start.
 int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, PWSTR, int) {
   WNDCLASSW definition = {};
   definition.lpfnWndProc = DefWindowProcW;

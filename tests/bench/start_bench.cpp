@@ -49,7 +49,7 @@ double now() {
   return 1000.0 * static_cast<double>(count.QuadPart) / static_cast<double>(frequency.QuadPart);
 }
 
-// A thread that waits for input has painted all there was to paint.
+// A thread that waits for input has finished painting.
 bool waitUntilPainted(const PROCESS_INFORMATION& process) {
   const double start = now();
   while (now() - start < kLongestStart) {

@@ -19,7 +19,7 @@ constexpr int kTurn = 100;
 
 using Clock = std::chrono::steady_clock;
 
-/// A main window of its own, and what its postings have cost.
+/// A main window and the cost of its postings.
 class Machine {
  public:
   Machine(bench::BenchDesktop& screen, controls::Twips left, int lines)
@@ -29,7 +29,7 @@ class Machine {
     window_->setLeft(left);
   }
 
-  /// In front, as the window of somebody who keys is.
+  /// Posts amounts while the window is in front.
   void takeTurn() {
     window_->show();
     screen_.paint();
@@ -43,7 +43,7 @@ class Machine {
     }
   }
 
-  /// Brings the tape to half a turn below its size.
+  /// Fills the tape up to half a turn below its size.
   void fill() {
     constexpr int kLinesAtOnce = 1000;
     controls::TextBox& tape = window_->textBox("txtTape");

@@ -23,7 +23,7 @@ def without_comments_and_texts(source):
 
 
 def closing(source, opening):
-    """The place of the brace that closes the one at `opening`."""
+    """The index of the brace that closes the one at `opening`."""
     depth = 0
     for place in range(opening, len(source)):
         depth += {"{": 1, "}": -1}.get(source[place], 0)

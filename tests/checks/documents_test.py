@@ -1,4 +1,4 @@
-"""Links and paths in the documents lead to files that exist. The help has tests of its own for this."""
+"""Links and paths in the documents lead to existing files. The help has its own tests for this."""
 import re
 import unittest
 
@@ -10,7 +10,7 @@ PATH = re.compile(r"`((?:src|tests|scripts|docs|help|cmake|packaging)/[\w./-]*)`
 
 
 def missing(folder, text):
-    """The links and the paths of a document in `folder` that lead nowhere."""
+    """The broken links and paths of a document in `folder`."""
     links = [target for target in LINK.findall(text) if "://" not in target]
     return ([target for target in links if not (folder / target).exists()]
             + [path for path in PATH.findall(text) if not (tree.ROOT / path).exists()])

@@ -1,4 +1,4 @@
-"""Includes run one way, and Windows stays behind one door."""
+"""Includes go in one direction, and only src/win32 includes system headers."""
 import re
 import unittest
 
@@ -16,7 +16,7 @@ ALLOWED = {
     "win32": {"common", "controls", "win32"},
     "app": {"common", "controls", "engine", "shell", "annuity", "about", "app"},
 }
-# The one file that ties the program to its windows.
+# The only file that connects the program to its windows.
 ALLOWED_FOR_FILE = {"src/win32/main.cpp": {"app"}}
 
 # Headers of the C++ standard library have neither a suffix nor a folder.
@@ -27,7 +27,7 @@ INCLUDE = re.compile(r'\s*#\s*include\s*(?:"([^"]+)"|<([^>]+)>)')
 
 
 def complaint(file, line):
-    """Why a line of a source file may not stand there, or None."""
+    """Why a line is not allowed in a source file, or None."""
     match = INCLUDE.match(line)
     if not match:
         return None

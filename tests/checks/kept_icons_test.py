@@ -1,4 +1,4 @@
-"""The renderings of the icons that are kept beside the drawings are renderings of these drawings."""
+"""The rendered icons beside the drawings are up to date."""
 import hashlib
 import unittest
 

@@ -1,4 +1,4 @@
-"""The program is built wherever its sources lie: also in a folder with a blank and a letter beyond ASCII."""
+"""The program can be built in a folder with a space and a non-ASCII letter in its name."""
 import pathlib
 import shutil
 import subprocess

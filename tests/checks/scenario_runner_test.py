@@ -1,4 +1,4 @@
-"""The scenario runner finds what is wrong: it is tried on a driver that answers what it is told."""
+"""The scenario runner detects errors. It is tested with a driver that gives prepared answers."""
 import pathlib
 import subprocess
 import sys

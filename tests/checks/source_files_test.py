@@ -8,7 +8,7 @@ import tree
 
 MOST_LINES = 400
 MOST_LINES_OF_A_FUNCTION = 60
-# Each release formats a little differently; this is the one that the tree is formatted with.
+# Each release formats a little differently; the tree is formatted with this one.
 CLANG_FORMAT_RELEASE = "14"
 
 # In brackets, so that this file does not hold what it looks for. A rule that is wrong for us is switched off

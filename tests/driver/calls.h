@@ -7,8 +7,8 @@
 
 namespace driver {
 
-/// One of the program's own functions, called straight: {"value":…}, or {"raised":5} when it raised
-/// a run-time error. Raises CommandError for another name or wrong arguments.
+/// Calls one of the program's functions directly: {"value":…}, or {"raised":5} if it raised a
+/// run-time error. Throws CommandError for an unknown name or wrong arguments.
 Json callFunction(const std::string& name, const std::vector<Json>& arguments);
 
 }  // namespace driver

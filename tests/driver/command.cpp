@@ -4,7 +4,7 @@ namespace driver {
 
 namespace {
 
-// The length of the JSON text at the front, its quotes included; 0 without a closing quote.
+// The length of the leading JSON text, including its quotes; 0 without a closing quote.
 std::size_t quotedLength(std::string_view text) {
   for (std::size_t i = 1; i < text.size(); ++i) {
     if (text[i] == '\\') {

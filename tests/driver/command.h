@@ -9,14 +9,14 @@
 
 namespace driver {
 
-/// A command that cannot be carried out; the message is what the driver answers.
+/// A command that cannot be carried out; the driver answers with the message.
 class CommandError : public std::runtime_error {
  public:
   using std::runtime_error::runtime_error;
 };
 
-/// One line of the driver's input, word by word. Each reader takes the next word and raises
-/// CommandError when it is not of that kind.
+/// Reads a line of the driver's input word by word. Each function takes the next word, and throws
+/// CommandError if it is not of that kind.
 class Command {
  public:
   explicit Command(std::string_view line) : rest_(line) {}
@@ -28,7 +28,7 @@ class Command {
   Json value();
   std::string text();
   int number();
-  /// Raises CommandError when words are left.
+  /// Throws CommandError if words are left.
   void end();
 
  private:

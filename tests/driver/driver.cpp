@@ -225,7 +225,7 @@ void Driver::select(Command& command) {
   stage_.select(box, start, length);
 }
 
-// What was on the clipboard before is there again afterwards.
+// Restores the clipboard afterwards.
 void Driver::mousePaste(Command& command) {
   const std::string text = command.text();
   command.end();

@@ -9,7 +9,7 @@
 
 namespace driver {
 
-/// What is left to be done for the person who gives the commands.
+/// How a driver ends.
 enum class Ending { None, Quit, Reset };
 
 /// Carries out the driver's commands on a stage.
@@ -17,7 +17,7 @@ class Driver {
  public:
   explicit Driver(Stage& stage) : stage_(stage) {}
 
-  /// The answer to one line: one line of JSON. Nothing for a blank line or a comment.
+  /// The answer to one line: one line of JSON. Empty for a blank line or a comment.
   std::string answer(const std::string& line);
   /// Quit: no more commands. Reset: the next ones are for a new driver on a new stage.
   Ending ending() const { return ending_; }
@@ -73,7 +73,7 @@ class Driver {
   void useEntryMenu(controls::BoxCommand chosen, Command& command);
 
   controls::Window& window(const std::string& name);
-  /// One that the user can reach: no dialog stands in front of it.
+  /// A window that the user can reach: no dialog is in front of it.
   controls::Window& freeWindow(const std::string& name);
   controls::Control& control(const std::string& name);
   controls::Control& usableControl(const std::string& name);

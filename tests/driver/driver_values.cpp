@@ -1,4 +1,4 @@
-// The commands that answer a value, or set up what the program meets.
+// The commands that return a value, or prepare the environment of the program.
 #include "driver/calls.h"
 #include "driver/driver.h"
 #include "driver/properties.h"

@@ -28,7 +28,7 @@ void InMemoryStage::keyUp(const controls::KeyStroke& stroke) {
   if (!stroke.alt) keyboard_.up(stroke.key);
 }
 
-// The mouse brings the window to the front and gives the control the focus.
+// A click brings the window to the front and gives the control the focus.
 void InMemoryStage::focus(controls::Control& control) {
   act([&] {
     control.window().noteActivated();
@@ -42,7 +42,7 @@ void InMemoryStage::click(controls::Control& control) {
     act([clickable] { clickable->click(); });
 }
 
-// To a button it is two clicks, unless the first took the button away.
+// For a button it is two clicks, unless the first one removed the button.
 void InMemoryStage::doubleClick(controls::Control& control) {
   if (!dynamic_cast<controls::ClickControl*>(&control)) {
     focus(control);
@@ -69,7 +69,7 @@ void InMemoryStage::useBoxMenu(controls::TextBox& box, controls::BoxCommand comm
   });
 }
 
-// The menu is that of the main window.
+// Only the main window has a menu.
 void InMemoryStage::choose(controls::MenuItem& item) {
   bringToFront(*findWindow("frmCalc"));
   act([&] { item.choose(); });

@@ -55,7 +55,7 @@ class InMemoryStage : public Stage {
   bool arrange(const std::string& command, const std::vector<std::string>& texts) override;
 
  private:
-  /// Something that is done to the program: one event of it.
+  /// Runs input to the program as one event.
   void act(const std::function<void()>& body) { desktop_.events().runEvent(body); }
 
   inmemory::Desktop desktop_;

@@ -4,7 +4,7 @@
 
 namespace driver {
 
-/// Keeps the keys in the order in which they were put in.
+/// Keeps the keys in the order of insertion.
 using Json = nlohmann::ordered_json;
 
 }  // namespace driver

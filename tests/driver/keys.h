@@ -7,18 +7,17 @@
 
 namespace driver {
 
-/// A keystroke of a person: the key with its modifiers, and the character that it types, 0 for
-/// none.
+/// A keystroke: the key with its modifiers, and its character, 0 for none.
 struct Stroke {
   controls::KeyStroke key;
   controls::KeyAscii character = 0;
 };
 
-/// The stroke that types a character on a keyboard of the common layout.
+/// The keystroke for a character on a common keyboard.
 Stroke strokeOf(char16_t character);
 
-/// The stroke of a named key, such as "Enter", "Shift+Tab", "Ctrl+F", "Alt+M". Raises CommandError
-/// for any other name.
+/// The keystroke of a named key, such as "Enter", "Shift+Tab", "Ctrl+F", "Alt+M". Throws
+/// CommandError for an unknown name.
 Stroke strokeNamed(std::string_view name);
 
 }  // namespace driver

@@ -15,14 +15,14 @@ namespace {
 
 constexpr wchar_t kDialogClass[] = L"#32770";
 constexpr int kTextOfBox = 0xFFFF;
-// The boxes for the three parts of a colour, as the system's picker numbers them.
+// The control ids of the boxes for red, green and blue in the system's color picker.
 constexpr int kRedOfPicker = 706;
 constexpr int kGreenOfPicker = 707;
 constexpr int kBlueOfPicker = 708;
 
 constexpr ULONGLONG kPatience = 10000;
 
-// Also one that is still hidden: the system shows a dialog when nothing else is left to be done.
+// Also finds a dialog that is still hidden: the system shows it when it is idle.
 HWND findDialog() {
   HWND dialog = nullptr;
   while ((dialog = FindWindowExW(nullptr, dialog, kDialogClass, nullptr)) != nullptr) {
@@ -67,7 +67,7 @@ std::string nameOfIcon(HICON icon) {
   return icon == LoadIconW(nullptr, IDI_QUESTION) ? "question" : "other";
 }
 
-// The one button of a box without a choice has the number of OK or of Cancel.
+// The only button of a box has the id of OK or of Cancel.
 std::string namesOfButtons(const std::vector<HWND>& buttons) {
   const auto has = [&buttons](int number) {
     return std::ranges::any_of(buttons,
@@ -91,7 +91,7 @@ bool NativeBoxes::attend() {
     requests_.pop_front();
     request();
   }
-  // What came from outside may have made it go.
+  // A request from outside may have closed it.
   if (IsWindowVisible(dialog)) isPicker ? pickColor(dialog) : answerBox(dialog);
   waitUntil([dialog] { return !IsWindow(dialog); });
   return true;

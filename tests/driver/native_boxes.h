@@ -13,7 +13,7 @@
 
 namespace driver {
 
-/// A message box as it was on the screen, and its answer.
+/// A message box that was shown, and its answer.
 struct SeenBox {
   std::string text;
   std::string title;
@@ -22,20 +22,20 @@ struct SeenBox {
   int answer = 0;
 };
 
-/// The person's hands on the dialogs that the system shows for the program: they read a message box
-/// and press one of its buttons, and pick a colour.
+/// Operates the system dialogs of the program as a user does: reads a message box and presses a
+/// button, or picks a color.
 class NativeBoxes {
  public:
-  /// What happens while the next dialog stands open, before it is answered.
+  /// A request to be made while the next dialog is open, before it is answered.
   void queueRequest(std::function<void()> request) { requests_.push_back(std::move(request)); }
   void queueAnswer(int answer) { answers_.push_back(answer); }
-  /// Nothing cancels the colour picker.
+  /// Null cancels the color picker.
   void queueColor(const std::optional<std::uint32_t>& color) { colors_.push_back(color); }
 
-  /// Deals with the dialog that is open or is about to open, and returns when it has gone. False
+  /// Answers the dialog that is open or about to open, and returns when it has closed. False
   /// without one.
   bool attend();
-  /// The program's thread: what the program took the last box's answer for.
+  /// Called on the program's thread: the answer of the last box as the program received it.
   void noteAnswer(int answer);
   std::vector<SeenBox> takeSeen();
 

@@ -37,7 +37,7 @@ bool NativeDesktop::startProgram(const std::string& program) {
   return true;
 }
 
-// The keys count when what they paste has come to the other window.
+// The keys are recorded once the pasted text has arrived in the other window.
 bool NativeDesktop::startProgramAndPaste(const std::string& program) {
   const std::vector<HWND> before = windowsOfOthers();
   starting_ = true;
@@ -56,7 +56,7 @@ bool NativeDesktop::startProgramAndPaste(const std::string& program) {
   return true;
 }
 
-// The text counts when it has come to the window of the program that was started.
+// The text is recorded once it has arrived in the window of the started program.
 bool NativeDesktop::openText(const std::string& program, std::string_view text) {
   const std::vector<HWND> before = windowsOfOthers();
   if (!win32::Desktop::openText(program, text)) return false;

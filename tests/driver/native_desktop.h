@@ -18,15 +18,15 @@ struct Launch {
   std::optional<std::string> text;
 };
 
-/// What the program asked of the desktop besides message boxes.
+/// What the program has asked of the desktop, apart from message boxes.
 struct Happenings {
   int beeps = 0;
   std::vector<Launch> launches;
   std::vector<controls::HelpRequest> helpRequests;
 };
 
-/// The real desktop, which also notes what the program asks of it. The help viewer is not opened:
-/// it would stay behind, in front of the program.
+/// The real desktop, which also records what the program asks of it. The help viewer is not opened,
+/// since it would stay open in front of the program.
 class NativeDesktop : public win32::Desktop {
  public:
   explicit NativeDesktop(NativeBoxes& boxes);
@@ -40,21 +40,21 @@ class NativeDesktop : public win32::Desktop {
   common::SettingsStore& settings() override { return settings_; }
   controls::TapeSafe& tapeSafe() override { return *tapeSafe_; }
   std::string programName() override { return name_; }
-  /// The place of an installed program, wherever the driver is.
+  /// The folder of an installed program, wherever the driver is.
   std::string programFolder() override { return "C:\\Tallyrex"; }
 
-  /// The executable's name, under which the settings are kept.
+  /// The executable's name, under which the settings are stored.
   void setProgramName(const std::string& name);
-  /// Whether a program is being started, which the windows do not wait for.
+  /// Whether a program is being started; the windows do not wait for it.
   bool isStarting() const { return starting_; }
-  /// What keeps the tape is gone as when the process ends.
+  /// Closes the safe of the tape as the end of the process does.
   void loseTape();
-  /// Drops the tapes that earlier drivers, or a crash, have left behind.
+  /// Deletes the tapes that earlier drivers or a crash have left behind.
   void clearTapes();
-  /// Closes the windows of the programs that were started.
+  /// Closes the windows of started programs.
   void closeLaunched();
 
-  /// What has happened since the last call.
+  /// The requests since the last call.
   Happenings takeHappenings() { return std::exchange(happenings_, {}); }
 
  private:

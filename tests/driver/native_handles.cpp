@@ -10,7 +10,7 @@ namespace driver {
 
 namespace {
 
-// The menu on the screen holds the items in their order.
+// The menu on the screen has the items in the same order.
 int positionOf(const controls::Window& window, const controls::MenuItem& item) {
   if (const controls::MenuItem* parent = item.parent()) {
     const auto& items = parent->items();

@@ -11,7 +11,7 @@ namespace driver {
 HWND handleOf(const controls::Window& window);
 HWND handleOf(controls::Control& control);
 
-/// Whether a window is the program's.
+/// Whether a window belongs to the program.
 bool isOurs(HWND window);
 /// Whether a window of the program is in front.
 bool isInFront();
@@ -23,8 +23,8 @@ struct MenuPlace {
 };
 
 MenuPlace placeOf(const controls::Window& window, const controls::MenuItem& item);
-/// The items that lead to an item of the window's menu, from the bar down, and the item itself.
-/// Nothing when one of them is grey.
+/// The path to an item of the window's menu, from the bar to the item itself. Empty if one of them
+/// is grayed.
 std::vector<MenuPlace> wayTo(const controls::Window& window, const controls::MenuItem& item);
 
 }  // namespace driver

@@ -46,7 +46,7 @@ void holdKey(WORD key, bool& held, bool wanted, NativeKeyboard::Inputs& inputs) 
 NativeKeyboard::NativeKeyboard()
     : numLockSwitched_(setLock(VK_NUMLOCK, true)), capsLockSwitched_(setLock(VK_CAPITAL, false)) {}
 
-// Also when a command has failed half-way, no key stays down.
+// No key stays down, even after a command that failed halfway.
 NativeKeyboard::~NativeKeyboard() {
   Inputs inputs;
   for (const Press& press : pressed_) inputs.push_back(input(press.key, true));
@@ -56,7 +56,7 @@ NativeKeyboard::~NativeKeyboard() {
   SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT));
 }
 
-// Tells whether it had to be switched.
+// Returns whether it had to be switched.
 bool NativeKeyboard::setLock(WORD key, bool on) {
   if (((GetKeyState(key) & 1) != 0) == on) return false;
   Inputs inputs;
@@ -65,7 +65,7 @@ bool NativeKeyboard::setLock(WORD key, bool on) {
   return true;
 }
 
-// Printable characters are typed with the key that the layout of the keyboard has for them.
+// Printable characters are typed with their key in the keyboard layout.
 NativeKeyboard::Key NativeKeyboard::keyOf(const controls::KeyStroke& stroke,
                                           controls::KeyAscii character) {
   const auto& [code, shift, control, alt] = stroke;

@@ -8,25 +8,22 @@
 
 namespace driver {
 
-/// The person's keyboard: what its keys send. Shift, Ctrl and Alt are held as long as a stroke
-/// needs them.
+/// The user's keyboard. Shift, Ctrl and Alt are down as long as a keystroke needs them.
 class NativeKeyboard {
  public:
   using Inputs = std::vector<INPUT>;
 
-  /// NumLock is on and CapsLock off while there is a keyboard, so that its keys type what they
-  /// show.
+  /// NumLock is on and CapsLock off while a keyboard exists, so that keys type their labels.
   NativeKeyboard();
   ~NativeKeyboard();
   NativeKeyboard(const NativeKeyboard&) = delete;
   NativeKeyboard& operator=(const NativeKeyboard&) = delete;
 
-  /// The key goes down; `character` is 0 for a key without one.
+  /// Presses a key; `character` is 0 for a key without one.
   Inputs down(const controls::KeyStroke& stroke, controls::KeyAscii character);
-  /// The last key goes down once more, and what is held for it: something else let that go before
-  /// the key arrived.
+  /// Presses the last key and its modifiers again, after something else released these too early.
   Inputs downAgain();
-  /// It comes up again, and with the last key what was held for it.
+  /// Releases a key, and with the last key its modifiers.
   Inputs up(const controls::KeyStroke& stroke);
 
  private:
@@ -37,7 +34,7 @@ class NativeKeyboard {
   };
   struct Key {
     WORD code = 0;
-    // Of a character that no key has. The system has a way to type those too.
+    // For a character without a key.
     WORD character = 0;
     Modifiers modifiers;
   };

@@ -19,7 +19,7 @@ BOOL CALLBACK takeWindow(HWND window, LPARAM found) {
   return TRUE;
 }
 
-// The editors of the system have one text box.
+// The system's editors have one text box.
 BOOL CALLBACK takeTextBox(HWND child, LPARAM found) {
   const std::wstring kind = support::classOf(child);
   if (kind != L"Edit" && !kind.starts_with(L"RichEdit")) return TRUE;

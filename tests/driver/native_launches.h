@@ -7,18 +7,18 @@
 
 namespace driver {
 
-/// The windows of other programs that stand open. What is new among them after a program was
-/// started is that program's.
+/// The open windows of other programs. A new one after a program was started belongs to that
+/// program.
 std::vector<HWND> windowsOfOthers();
 std::vector<HWND> windowsSince(const std::vector<HWND>& before);
 
-/// Waits until a text has come to the text box of the window. False when none comes.
+/// Waits until the text box of the window has a text. False if it takes too long.
 bool waitForText(HWND window);
-/// Waits until a window of another program has opened, and gives it; null when none comes.
+/// Waits until a window of another program has opened, and returns it; null if it takes too long.
 HWND waitForWindowSince(const std::vector<HWND>& before);
-/// The text in the text box of the window, once it has come there; empty when none comes.
+/// The text in the text box of the window, once there is one; empty if it takes too long.
 std::string textShownIn(HWND window);
-/// Closes a window whose text nobody wants to keep.
+/// Closes a window and discards its text.
 void closeUnsaved(HWND window);
 
 }  // namespace driver

@@ -7,8 +7,8 @@
 #include "driver/native_stage.h"
 #include "support/retries.h"
 
-// The program has the first thread, as ever; the person in front of it does what standard input
-// says.
+// The program runs on the main thread, as usual; another thread acts as its user, following
+// standard input.
 int main() {
   _setmode(_fileno(stdin), _O_BINARY);
   _setmode(_fileno(stdout), _O_BINARY);

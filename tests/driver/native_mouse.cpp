@@ -13,7 +13,7 @@ namespace {
 constexpr std::wstring_view kMenuClass = L"#32768";
 constexpr UINT kGetMenuHandle = 0x01E1;
 
-// The menu that an open menu's window shows; nothing for any other window.
+// The menu shown by the window of an open menu; null for any other window.
 HMENU menuIn(HWND window) {
   if (support::classOf(window) != kMenuClass) return nullptr;
   return reinterpret_cast<HMENU>(SendMessageW(window, kGetMenuHandle, 0, 0));

@@ -14,7 +14,7 @@ namespace {
 
 using controls::ControlKind;
 
-// Twips that do not make whole pixels are rounded.
+// Twips are rounded to pixels.
 constexpr int kRounding = 1;
 
 bool isNear(LONG seen, int meant) {
@@ -48,7 +48,7 @@ bool showsValue(const controls::Control& control, HWND handle) {
   return true;
 }
 
-// A key may have a symbol for a face; then the caption is not what is seen.
+// A key may show a symbol instead of its caption.
 bool showsCaption(const controls::Control& control, HWND handle) {
   const bool isText = control.kind() == ControlKind::Label || control.kind() == ControlKind::Frame;
   return !isText || textOn(handle) == control.caption();

@@ -6,9 +6,9 @@
 
 namespace driver {
 
-/// What the user sees of a window that differs from what the program believes to show: its title,
-/// state and size, the menu, and each control's text, place, check mark and whether it is visible,
-/// enabled and has the focus. Empty when nothing does. Only within Stage::inspect.
+/// The first difference between a window on the screen and the program's own state: title, state,
+/// size and menu, and each control's text, position, check mark, visibility, enabling and focus.
+/// Empty without one. Only within Stage::inspect.
 std::string differenceOnScreen(const controls::Window& window);
 
 }  // namespace driver

@@ -16,11 +16,11 @@ namespace driver {
 
 namespace {
 
-// How long a dialog may stand open before it is noticed.
+// The interval at which open dialogs are looked for.
 constexpr DWORD kGlance = 2;
-// Longer than any handler takes, and than a program needs to start.
+// Longer than any handler or program start takes.
 constexpr DWORD kPatience = 30000;
-// No mark takes that long while the program is in front.
+// A mark never takes this long while the program is in front.
 constexpr DWORD kMarkIsLate = 200;
 constexpr auto kLoopIsInner = std::chrono::milliseconds(200);
 
@@ -50,7 +50,7 @@ void NativeStage::run() {
   ended_.set_value();
 }
 
-// A loop of the system's, as while the frame of a window is dragged, takes the end for its own.
+// A message loop of the system, such as while a window frame is dragged, would end instead.
 void NativeStage::end() {
   std::future<void> ended = ended_.get_future();
   do ui_.post(win32::endMessageLoop);
@@ -67,18 +67,17 @@ bool NativeStage::running() {
   return runs;
 }
 
-// Until the program has done what it was asked for, with all boxes answered that it showed
-// meanwhile.
+// Waits until the program has finished, and answers the boxes that it shows meanwhile.
 void NativeStage::settle() {
   const ULONGLONG start = GetTickCount64();
   ULONGLONG marked = start;
   bool starting = false;
   for (;;) {
     const bool reached = ui_.waitUntilReached(kGlance);
-    // Also once more behind the start of a program, during which marks pass as well.
+    // Waits once more after a program has been started, since marks arrive during that too.
     const bool wasStarting = std::exchange(starting, desktop_.isStarting());
     if (boxes_.attend() || starting || wasStarting) {
-      // The box itself may have let the mark pass: the handler behind it goes on from here.
+      // The mark may have arrived while the box was open: its handler continues only now.
       ui_.post([] {});
     } else if (reached) {
       return checkScreen();
@@ -91,7 +90,7 @@ void NativeStage::settle() {
   }
 }
 
-// What is answered is what the program believes to show; here it proves to be what is seen.
+// Answers report the program's own state; this verifies that the screen shows the same.
 void NativeStage::checkScreen() {
   std::string difference;
   inspect([&] {
@@ -103,7 +102,7 @@ void NativeStage::checkScreen() {
   if (!difference.empty()) throw CommandError("on the screen: " + difference);
 }
 
-// A mark is lost when no window of the program was there to take it.
+// A mark is lost if no window of the program was in front.
 void NativeStage::remark() {
   support::noteRetry("a mark");
   if (isInFront()) return sendInputs({ui_.nextMark()});
@@ -111,7 +110,7 @@ void NativeStage::remark() {
   ui_.markRest();
 }
 
-// On the program's thread, behind everything that the system has told it so far.
+// Runs `body` on the program's thread, after all messages posted so far.
 void NativeStage::act(const std::function<void()>& body) {
   clearAway();
   std::exception_ptr failure;
@@ -122,13 +121,13 @@ void NativeStage::act(const std::function<void()>& body) {
       failure = std::current_exception();
     }
   });
-  // What the program has put off until the end of that event comes before this.
+  // Runs after the tasks that the program posted during that event.
   ui_.post([] {});
   settle();
   if (failure) std::rethrow_exception(failure);
 }
 
-// A message that the system would send for what the person does.
+// Posts a message as the system would for an action of the user.
 void NativeStage::deliver(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
   clearAway();
   PostMessageW(window, message, wParam, lParam);
@@ -136,7 +135,7 @@ void NativeStage::deliver(HWND window, UINT message, WPARAM wParam, LPARAM lPara
   settle();
 }
 
-// What a program that was started leaves in front goes before the person goes on.
+// Closes windows of started programs before the user continues.
 void NativeStage::clearAway() {
   inspect([this] { desktop_.closeLaunched(); });
 }
@@ -147,7 +146,7 @@ void NativeStage::putInFront(const controls::Window& window) {
   act([handle] { SetForegroundWindow(handle); });
 }
 
-// Keys go to the program alone: to no other, whatever has come to the front.
+// Makes sure that keys go to the program and to no other.
 void NativeStage::putProgramInFront() {
   clearAway();
   if (isInFront()) return;
@@ -160,8 +159,7 @@ void NativeStage::putProgramInFront() {
   if (!isInFront()) throw CommandError("the program is not in front");
 }
 
-// The window in front may be another program's for a moment, and the mouse reaches ours all the
-// same.
+// Another program may be in front for a moment, but the mouse still reaches ours.
 void NativeStage::send(std::vector<INPUT> inputs) {
   const bool inFront = isInFront();
   if (inFront) inputs.push_back(ui_.nextMark());
@@ -185,7 +183,7 @@ void NativeStage::start(const std::string& name) {
   });
 }
 
-// A process that ends lets go of its files, and its windows are gone.
+// The end of a process closes its files and windows.
 void NativeStage::crash() {
   act([&] {
     desktop_.loseTape();

@@ -13,21 +13,20 @@
 
 namespace driver {
 
-/// The program in its real windows. It is made on the program's thread, which then runs the
-/// program's messages; everything else is called from another thread, that of the person in front
-/// of it.
+/// The program in its real windows. Created on the program's thread, which then runs the message
+/// loop; all other functions are called from the user's thread.
 class NativeStage : public Stage {
  public:
   NativeStage();
   ~NativeStage() override;
 
-  /// Runs the program's messages until `end` is called from the other thread.
+  /// Runs the message loop until `end` is called from the user's thread.
   void run();
   void end();
 
-  /// Sends in one call what keys do, and waits until the program has acted on it.
+  /// Sends keyboard input in one call, and waits until the program has processed it.
   void sendKeys(std::vector<INPUT> inputs);
-  /// Drags with the left button from one place of the screen to another.
+  /// Drags with the left mouse button from one place of the screen to another.
   void drag(POINT from, POINT to);
 
   void inspect(const std::function<void()>& body) override { ui_.inspect(body); }

@@ -1,4 +1,4 @@
-// What the person's hands do: on the keyboard, with the mouse, to the windows.
+// The user's input: keyboard, mouse, and changes to windows.
 #include "driver/command.h"
 #include "driver/native_handles.h"
 #include "driver/native_stage.h"
@@ -12,12 +12,12 @@ constexpr int kTriesOfKey = 20;
 constexpr int kTriesOfMouse = 5;
 constexpr int kTriesOfMenu = 10;
 constexpr DWORD kReportIsLate = 100;
-// Where what was asked for shows a message itself, nobody answers before that.
+// If the action itself shows a message, it is not answered before that.
 constexpr UINT kAnswerIsLate = 1000;
 
 }  // namespace
 
-// A key that did not arrive as it was pressed has done nothing, and goes down once more.
+// A keystroke that did not arrive as sent has had no effect, and is sent again.
 void NativeStage::keyDown(const controls::KeyStroke& stroke, controls::KeyAscii character) {
   const bool isTyped = character >= ' ' && !stroke.control && !stroke.alt;
   putProgramInFront();
@@ -33,7 +33,7 @@ void NativeStage::keyDown(const controls::KeyStroke& stroke, controls::KeyAscii 
   throw CommandError("a key does not arrive as it was pressed");
 }
 
-// Also when the key has closed the program: no key stays down.
+// No key stays down, even if it has closed the program.
 void NativeStage::keyUp(const controls::KeyStroke& stroke) {
   send(keyboard_.up(stroke));
 }
@@ -46,8 +46,8 @@ void NativeStage::doubleClick(controls::Control& control) {
   clickWithMouse(control, 2);
 }
 
-// False when something else has come to that place before the click was done: then nothing has been
-// clicked. Nor has a button that lost the focus for a moment while it was pressed.
+// False if another window appeared at that place before the click, or if a pressed button lost the
+// focus for a moment: nothing has been clicked then.
 bool NativeStage::clickAt(POINT place, MouseButton button) {
   HWND seen = WindowFromPoint(place);
   if (!moveButton(button, false, place, seen, nullptr)) return false;
@@ -57,14 +57,14 @@ bool NativeStage::clickAt(POINT place, MouseButton button) {
   return false;
 }
 
-// What has been pressed, and a menu that is open, are given up.
+// Cancels a pressed button and an open menu.
 void NativeStage::cancelMouse() {
   if (HWND captured = mouseCapture(ui_.window())) deliver(captured, WM_CANCELMODE, 0, 0);
 }
 
-// The system reports a move a moment later, and until then a click goes where the mouse was. The
-// report gets lost when that of an earlier move is just being taken, and a mouse that is there
-// already is not reported again, so that it has to go away in between.
+// The system reports a move with a delay, and until then a click goes to the old place. The report
+// may be lost while that of an earlier move is processed, and a move to the same place is not
+// reported again, so the mouse has to move away in between.
 void NativeStage::moveMouse(POINT place) {
   POINT now = {};
   GetCursorPos(&now);
@@ -101,8 +101,8 @@ void NativeStage::clickSurely(POINT place) {
   throw CommandError("the mouse does not get there");
 }
 
-// A control that the mouse cannot reach, since it lies outside the window or the screen, gets the
-// messages that the mouse would have sent. One that has gone with the first click gets no second.
+// A control outside the window or the screen, which the mouse cannot reach, gets the messages of a
+// click. A control that disappears with the first click gets no second one.
 void NativeStage::clickWithMouse(controls::Control& control, int times) {
   putInFront(control.window());
   HWND handle = handleOf(control);
@@ -118,8 +118,8 @@ void NativeStage::clickWithMouse(controls::Control& control, int times) {
   deliver(handle, WM_LBUTTONUP, 0, 0);
 }
 
-// A click would move the caret of a text box, so that the focus alone is moved, as the system does
-// it for a click.
+// A click would move the caret of a text box, so only the focus is moved, as the system does for a
+// click.
 void NativeStage::focus(controls::Control& control) {
   putInFront(control.window());
   HWND handle = handleOf(control);
@@ -130,8 +130,7 @@ void NativeStage::select(controls::TextBox& box, int start, int length) {
   act([&] { box.select(start, length); });
 }
 
-// Its menu may be opened again when it has closed before anything was chosen. One that offers only
-// a grey command is given up.
+// The menu is opened again if it has closed too early. A grayed command is given up.
 void NativeStage::useBoxMenu(controls::TextBox& box, controls::BoxCommand command) {
   putInFront(box.window());
   HWND handle = handleOf(box);
@@ -146,7 +145,7 @@ void NativeStage::useBoxMenu(controls::TextBox& box, controls::BoxCommand comman
   throw CommandError("the menu of the box does not stay open");
 }
 
-// A menu whose bar the mouse cannot reach sends the command that it would have sent.
+// If the mouse cannot reach the menu bar, the command is sent directly.
 void NativeStage::choose(controls::MenuItem& item) {
   const controls::Window* owner = nullptr;
   std::vector<MenuPlace> way;
@@ -170,8 +169,7 @@ void NativeStage::choose(controls::MenuItem& item) {
   throw CommandError("the menu does not stay open");
 }
 
-// From `place` in the menu bar as far as it gets: a mouse that moves by itself meanwhile may open
-// another menu.
+// Clicks from `place` in the menu bar as far as possible: a late mouse move may open another menu.
 void NativeStage::clickThrough(const std::vector<MenuPlace>& way, POINT place) {
   if (!clickAt(place, MouseButton::Left)) return;
   for (std::size_t i = 1; i < way.size(); ++i)
@@ -182,7 +180,8 @@ void NativeStage::close(controls::Window& window) {
   deliver(handleOf(window), WM_SYSCOMMAND, SC_CLOSE, 0);
 }
 
-// The system asks each window of the program in turn, and waits for it; so does another program.
+// Sends the message to each window of the program in turn and waits, as the system or another
+// program would.
 void NativeStage::sendRequest(const Request& request) {
   const auto send = [](HWND window, UINT message, WPARAM wParam) {
     DWORD_PTR answer = 0;
@@ -215,9 +214,8 @@ void NativeStage::bringToFront(controls::Window& window) {
   putInFront(window);
 }
 
-// The mouse drags a window by whole pixels, so that another place or size would come out than was
-// asked for. Window::setBounds makes the same call of the system's as the end of a drag, and keeps
-// the twips.
+// Dragging by whole pixels would not give exactly the requested twips. Window::setBounds makes the
+// same system call as the end of a drag, and keeps the twips.
 void NativeStage::resize(controls::Window& window, controls::Twips width, controls::Twips height) {
   act([&] { window.setBounds({window.bounds().left, window.bounds().top, width, height}); });
 }

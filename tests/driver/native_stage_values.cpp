@@ -1,4 +1,4 @@
-// What the person looks up, and prepares before the program is started.
+// Values that are read, or prepared before the program is started.
 #include "driver/native_settings.h"
 #include "driver/native_stage.h"
 #include "support/clipboard.h"

@@ -15,7 +15,7 @@ constexpr UINT kMarkRest = WM_APP + 2;
 constexpr UINT_PTR kRestTimer = 1;
 
 constexpr WORD kMarkKey = VK_F24;
-// In the upper half of what a mark carries, so that no other program's input passes for one.
+// The upper half of the data of a mark, which distinguishes it from other programs' input.
 constexpr ULONG_PTR kMarkSign = 0x7A5E0000;
 constexpr ULONG_PTR kMarkNumbers = 0xFFFF;
 static_assert(kMarkNumbers == std::numeric_limits<std::uint16_t>::max());
@@ -86,7 +86,7 @@ INPUT UiThread::nextMark() {
   return mark;
 }
 
-// A timer is told of only when there is nothing else to tell.
+// Timer messages arrive only when the queue is empty otherwise.
 void UiThread::markRest() {
   if (restAwaited_.exchange(true)) return;
   PostMessageW(window_, kMarkRest, 0, 0);
@@ -170,7 +170,7 @@ LRESULT CALLBACK UiThread::handleMessage(HWND window, UINT message, WPARAM wPara
   return DefWindowProcW(window, message, wParam, lParam);
 }
 
-// Every message that the program takes from its queue comes by here, also while a dialog is open.
+// Sees every message that the program takes from its queue, even while a dialog is open.
 LRESULT CALLBACK UiThread::watchMessage(int code, WPARAM wParam, LPARAM lParam) {
   auto& message = *reinterpret_cast<MSG*>(lParam);
   if (code == HC_ACTION && wParam == PM_REMOVE) {
@@ -195,14 +195,13 @@ void UiThread::watchKey(MSG& message) {
   }
 }
 
-// A letter that arrives without the mark of Alt opens no menu, though Alt may seem to be held by
-// now.
+// A letter that arrives without the Alt flag opens no menu, even if Alt seems to be down by now.
 bool UiThread::isHeld(const MSG& message, ULONG_PTR keys) {
   const bool isPlain = message.message != WM_SYSKEYDOWN;
   return keys == heldKeys() && !(keys == kHeldAlt && isPlain);
 }
 
-// The character is made from what the system believes to be held a moment after the key came in.
+// The system derives the character from the modifiers down a moment after the key.
 void UiThread::watchCharacter(MSG& message) {
   const WPARAM expected = character_;
   if (expected == 0 || message.wParam == expected) return;
@@ -210,7 +209,7 @@ void UiThread::watchCharacter(MSG& message) {
   aim_ = Aim::Missed;
 }
 
-// Menus post their commands; they carry no control and no code.
+// Menu commands are posted, without a control and a code.
 void UiThread::watchCommand(const MSG& message) {
   if (message.lParam == 0 && message.wParam == command_) commandTaken_ = true;
 }
@@ -229,8 +228,7 @@ void UiThread::noteMove(POINT mouse) {
   SetEvent(progress_);
 }
 
-// A menu looks at a click, acts on it and then takes it from the queue. What holds is what was true
-// when it looked.
+// A menu peeks at a click, acts on it, and then removes it. The state at the peek counts.
 bool UiThread::comesThrough(const MOUSEHOOKSTRUCT& mouse) {
   if (aim_ == Aim::Open) aim_ = isAimed(mouse) ? Aim::Good : Aim::Missed;
   return aim_ == Aim::Good;
@@ -242,8 +240,7 @@ bool UiThread::isAimed(const MOUSEHOOKSTRUCT& mouse) const {
          (!seen_ || WindowFromPoint(mouse.pt) == seen_) && (!pressed_ || GetCapture() == pressed_);
 }
 
-// Marks come in the order in which they were sent, but one may get lost while no window of the
-// program is in front.
+// Marks arrive in order, but one may be lost while no window of the program is in front.
 void UiThread::noteMark(ULONG_PTR extra) {
   marksSeen_ = static_cast<std::uint16_t>(extra & kMarkNumbers);
   SetEvent(progress_);

@@ -9,8 +9,8 @@
 
 namespace driver {
 
-/// The program's thread, as the person in front of the program reaches it from a thread of their
-/// own. Made and destroyed on the program's thread; everything else is called from the person's.
+/// Access to the program's thread from the user's thread. Created and destroyed on the program's
+/// thread; all other functions are called from the user's.
 class UiThread {
  public:
   UiThread();
@@ -21,42 +21,39 @@ class UiThread {
   /// An invisible window of the program's thread.
   HWND window() const { return window_; }
 
-  /// Runs `body` there between two messages, and returns when it is done. Not for a body that opens
-  /// a dialog: there would be nothing left to answer it. What it throws is thrown here.
+  /// Runs `body` there between two messages, and waits for it. `body` must not open a dialog, which
+  /// nobody could answer. Exceptions are rethrown here.
   void inspect(const std::function<void()>& body);
-  /// Leaves `body` to be run there, behind every message that has been posted so far.
+  /// Queues `body` to be run there, after all messages posted so far.
   void post(std::function<void()> body);
-  /// The release of a key that no keyboard has, which ends up behind everything that was typed and
-  /// clicked before it. The program never sees it.
+  /// The release of a key that no keyboard has, which arrives after all input sent before it. The
+  /// program never sees it.
   INPUT nextMark();
-  /// The same without a key, for when no window of the program is in front to take one: the program
-  /// has come there when nothing that was posted and no input is left to be taken.
+  /// The same without a key, for when no window of the program is in front: reached when no posted
+  /// task and no input is left in the queue.
   void markRest();
-  /// Waits until everything left by post has run and the last marks have come in. False when it
-  /// takes longer.
+  /// Waits until all posted bodies have run and the last marks have arrived. False if it takes
+  /// longer.
   bool waitUntilReached(DWORD milliseconds);
-  /// The system may report late that the mouse was moved, and so carry a click elsewhere. Clicks
-  /// that carry kAimedInput come through only at `place`, when the last move that was reported has
-  /// led there, while `seen` is what is seen there (nothing: whatever is seen) and `pressed` holds
-  /// the mouse (nothing: whatever does).
+  /// The system may report a mouse move late, so that a click goes elsewhere. Clicks with
+  /// kAimedInput pass only at `place`, after a reported move to there, and while `seen` is the
+  /// window there (null: any) and `pressed` has captured the mouse (null: any).
   void expectClick(POINT place, HWND seen, HWND pressed);
-  /// It may also believe that a held key came up, and so take Shift or Alt from a stroke. Strokes
-  /// that carry kHeldInput come through only while the keys are held that they name, and only with
-  /// that character (0: whichever it is).
+  /// It may also release a modifier key too early. Keystrokes with kHeldInput pass only while their
+  /// modifiers are down, and only with that character (0: any).
   void expectKey(WPARAM character);
-  /// Whether what was expected last has come in, and come through.
+  /// Whether the last expected input has arrived and passed.
   bool hit() const { return aim_ == Aim::Good; }
-  /// Whether it has come in, and was swallowed.
+  /// Whether it has arrived and was swallowed.
   bool missed() const { return aim_ == Aim::Missed; }
-  /// A menu may close before it is clicked on, so that what came of a click shows in the command
-  /// alone.
+  /// A menu may close before the click, so only the command shows that the click was effective.
   void expectCommand(UINT command);
-  /// Whether the program has taken that command since the last call of expectCommand.
+  /// Whether that command has arrived since expectCommand.
   bool commandTaken() const { return commandTaken_; }
-  /// Whether the last move that the system has reported led to `place`.
+  /// Whether the last reported mouse move led to `place`.
   bool isMouseAt(POINT place) const;
-  /// Before a move to `place`: waitForMove then waits for the report of that one. False when it
-  /// takes longer.
+  /// Call before a move to `place`; waitForMove then waits for its report. False if it takes
+  /// longer.
   void expectMove(POINT place);
   bool waitForMove(DWORD milliseconds);
   static constexpr ULONG_PTR kAimedInput = 0x7A5F0000;
@@ -65,8 +62,8 @@ class UiThread {
   static constexpr ULONG_PTR kHeldControl = 2;
   static constexpr ULONG_PTR kHeldAlt = 4;
 
-  /// Marks that have not come in yet went to another program, and are waited for no longer. One
-  /// that comes in all the same is not taken for a later one.
+  /// Stops waiting for marks that have not arrived, which went to another program. One that still
+  /// arrives is not confused with a later one.
   void forgetMarks() { marksForgotten_ = marks_; }
 
  private:
@@ -94,8 +91,7 @@ class UiThread {
   }
 
   static UiThread* current_;
-  // Counted on from one of these to the next, so that a mark that was late for one is not taken for
-  // a mark of the next.
+  // Shared by all instances, so that a late mark of one is not confused with a mark of the next.
   static std::uint16_t marks_;
 
   HWND window_ = nullptr;

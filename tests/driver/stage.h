@@ -9,26 +9,25 @@
 
 namespace driver {
 
-/// What comes from outside: a request to close a window, or, without a name, the end of the
-/// session.
+/// A request from outside: to close a window, or, without a name, the end of the session.
 struct Request {
   std::string window;
 };
 
-/// The program on its stage, and the hands of the person in front of it. Each kind of controls has
-/// its own. What names a control has been looked up and found fit for it.
+/// The program, and the input of its user. Each kind of controls has its own stage. The driver has
+/// checked all names and states before.
 class Stage {
  public:
   virtual ~Stage() = default;
 
-  /// Runs `body` where the program's objects may be touched.
+  /// Runs `body` where the program's objects may be accessed.
   virtual void inspect(const std::function<void()>& body) = 0;
-  /// The loaded window of that name. Only within inspect.
+  /// The window of that name; null if it is not loaded. Only within inspect.
   virtual controls::Window* findWindow(std::string_view name) = 0;
 
   virtual bool running() = 0;
   virtual void start(const std::string& name) = 0;
-  /// Ends the program as a crash does: it does nothing more, and saves nothing.
+  /// Ends the program like a crash, without saving anything.
   virtual void crash() = 0;
   virtual void close(controls::Window& window) = 0;
   virtual void bringToFront(controls::Window& window) = 0;
@@ -39,7 +38,7 @@ class Stage {
   virtual void doubleClick(controls::Control& control) = 0;
   virtual void focus(controls::Control& control) = 0;
   virtual void select(controls::TextBox& box, int start, int length) = 0;
-  /// A right click on the box, and a command of the menu that opens. A grey one does nothing.
+  /// Right-clicks the box and chooses a command of its menu. A grayed one does nothing.
   virtual void useBoxMenu(controls::TextBox& box, controls::BoxCommand command) = 0;
   virtual void choose(controls::MenuItem& item) = 0;
   virtual void resize(controls::Window& window, controls::Twips width, controls::Twips height) = 0;
@@ -58,17 +57,17 @@ class Stage {
   /// {SECTION: {KEY: TEXT}}
   virtual Json dumpSettings() = 0;
 
-  /// Nothing happens where the window is not loaded.
+  /// No effect if the window is not loaded.
   virtual void receive(const Request& request) = 0;
-  /// What comes while the next dialog stands open, before it is answered.
+  /// A request to be made while the next dialog is open, before it is answered.
   virtual void queueRequest(const Request& request) = 0;
   virtual void queueAnswer(int answer) = 0;
-  /// What the next colour picker gives; nothing cancels it.
+  /// The choice in the next color picker; null cancels it.
   virtual void queueColor(const std::optional<std::uint32_t>& color) = 0;
   /// Beeps, boxes, launches and help requests since the last call.
   virtual Json takeEvents() = 0;
 
-  /// Commands that only one kind knows. False when this one does not.
+  /// Commands that only one kind supports. False if this one does not.
   virtual bool arrange(const std::string& command, const std::vector<std::string>& texts) = 0;
 };
 

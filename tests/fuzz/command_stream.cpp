@@ -7,7 +7,7 @@ namespace fuzz {
 
 namespace {
 
-// The more often something is done at the machine, the more often it stands here.
+// Frequent commands are listed several times.
 constexpr auto kActions = std::to_array<std::string_view>({
     R"(type "0")",
     R"(type "1")",

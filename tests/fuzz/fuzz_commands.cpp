@@ -7,7 +7,7 @@
 
 namespace {
 
-// Notes that the user declines, and what the driver itself stores, come to the stored fields.
+// Declined notes and the driver's own settings are added to the stored fields.
 bool isReplaced(const driver::Json& fields, driver::Driver& driver, const std::string& command) {
   if (fields.is_null() || command.starts_with("store ")) return false;
   const driver::Json now = fuzz::storedFields(driver);
@@ -18,7 +18,7 @@ bool isReplaced(const driver::Json& fields, driver::Driver& driver, const std::s
 
 }  // namespace
 
-// Prints what was done, in the driver's own commands: a finding becomes a scenario by copying it.
+// Prints the driver commands, ready to be copied into a scenario.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   driver::InMemoryStage stage;
   driver::Driver driver(stage);

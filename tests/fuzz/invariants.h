@@ -6,12 +6,12 @@
 
 namespace fuzz {
 
-/// What holds after every command, whatever the user did. Gives what is wrong, or nothing.
+/// Checks what must be true after every command. Returns what is wrong, or an empty text.
 std::string findBroken(driver::Driver& driver);
 
-/// What is stored of the financial calculator.
+/// The stored settings of the financial calculator.
 driver::Json storedFields(driver::Driver& driver);
-/// The same while it is not loaded, when no field may change; nothing while it is.
+/// The settings while it is not loaded, when none may change; null while it is loaded.
 driver::Json fieldsAtRest(driver::Driver& driver);
 
 }  // namespace fuzz

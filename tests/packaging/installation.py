@@ -39,7 +39,7 @@ class Installation(unittest.TestCase):
     def remove(self, *switches, place=None):
         place = place or self.place
         self.assertEqual(account.run(place / "uninstall.exe", "/S", *switches), DONE)
-        # The uninstaller goes on as a copy of itself, which removes it.
+        # The uninstaller continues as a copy of itself, which deletes the original.
         account.wait_until("the removal", lambda: not (place / "uninstall.exe").exists())
         account.wait_until("the end of the removal", lambda: not account.registry(UNINSTALL_KEY))
 

@@ -12,7 +12,7 @@ MOST_BYTES_OF_PROGRAM = 600 * 1024
 NEEDED_FLAGS = pe_file.DYNAMIC_BASE | pe_file.HIGH_ENTROPY_VA | pe_file.NX_COMPAT
 NUMBERS = tuple(int(part) for part in packages.VERSION.split(".")) + (0,)
 
-# What every Windows brings in its system folder.
+# Libraries in the system folder of every Windows.
 SYSTEM_LIBRARIES = {
     "advapi32.dll", "comctl32.dll", "comdlg32.dll", "dwmapi.dll", "gdi32.dll", "imm32.dll",
     "kernel32.dll", "msvcrt.dll", "ntdll.dll", "ole32.dll", "oleacc.dll", "oleaut32.dll",

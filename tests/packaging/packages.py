@@ -18,13 +18,13 @@ OLDER_VERSION = "0.9.0"
 
 
 def archived():
-    """{name below the folder of the archive: bytes} of what the portable archive holds."""
+    """{name below the folder of the archive: bytes} of the contents of the portable archive."""
     with zipfile.ZipFile(ARCHIVE) as archive:
         return {name.removeprefix(FOLDER_IN_ARCHIVE): archive.read(name) for name in archive.namelist()}
 
 
 def make(target, inputs=INPUTS, **environment):
-    """Makes all packages into the folder `target`; what was printed."""
+    """Makes all packages in the folder `target`; returns the output."""
     kept = {name: value for name, value in os.environ.items()
             if name not in ("SOURCE_DATE_EPOCH", "TALLYREX_ADDRESS", "TALLYREX_CERTIFICATE")}
     done = subprocess.run([sys.executable, "-B", str(MAKE_PACKAGES), str(inputs), str(target)], check=True,

@@ -1,4 +1,4 @@
-"""Reads from a Windows program (a PE32+ file) what its packaging promises."""
+"""Reads the headers and resources of a Windows program (a PE32+ file)."""
 import pathlib
 import struct
 
@@ -23,7 +23,7 @@ def readings(data):
 
 
 class PeFile:
-    """The header fields, imports and resources of a program; ValueError where it is none."""
+    """The header fields, imports and resources of a program; ValueError if it is not a program."""
 
     def __init__(self, data):
         self.data = data
@@ -47,7 +47,7 @@ class PeFile:
         return cls(pathlib.Path(path).read_bytes())
 
     def flags_offset(self):
-        """Where the DLL characteristics stand in the file."""
+        """The offset of the DLL characteristics in the file."""
         return self._directories - 112 + 70
 
     def writable_code(self):

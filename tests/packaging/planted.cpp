@@ -1,6 +1,5 @@
-// What somebody might leave in a folder for a program to stumble upon. As a library or as a
-// program, it adds its own name to the file that TALLYREX_PLANTED names, when it is loaded or
-// started.
+// A file planted in a folder to be loaded by mistake. As a library or as a program, it adds its own
+// name to the file that TALLYREX_PLANTED names, when it is loaded or started.
 #include <windows.h>
 
 #include <string>

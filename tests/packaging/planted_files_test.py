@@ -14,11 +14,11 @@ LIBRARY = pathlib.Path(os.environ["TALLYREX_PLANTED_LIBRARY"])
 PROGRAM = pathlib.Path(os.environ["TALLYREX_PLANTED_PROGRAM"])
 CARELESS = pathlib.Path(os.environ["TALLYREX_CARELESS"])
 
-# What Windows itself loads by name for a program with windows, dialogs and help.
+# Libraries that Windows loads by name for a program with windows, dialogs and help.
 LOADED_BY_WINDOWS = {"cryptbase.dll", "dwmapi.dll", "hhctrl.ocx", "msctf.dll", "msftedit.dll",
                      "oleacc.dll", "profapi.dll", "propsys.dll", "riched20.dll", "textshaping.dll",
                      "uxtheme.dll", "version.dll", "windows.storage.dll", "winmm.dll"}
-# Those that Windows takes from its own folder whatever lies elsewhere.
+# Libraries that Windows always loads from its own folder.
 KNOWN_TO_WINDOWS = {"advapi32.dll", "comdlg32.dll", "gdi32.dll", "imm32.dll", "kernel32.dll",
                     "msvcrt.dll", "ole32.dll", "oleaut32.dll", "shell32.dll", "user32.dll"}
 PROGRAMS = ["notepad.exe", "winhlp32.exe", "hh.exe", "msinfo32.exe", "explorer.exe"]
@@ -27,7 +27,7 @@ MAIN_WINDOW = "Tallyrex$"
 
 
 def names_in(data):
-    """The names of libraries that a program holds, in either width of character."""
+    """The names of libraries in a program, as narrow or wide text."""
     return {name.lower() for text in readings(data)
             for name in re.findall(FILE_NAME, text, re.IGNORECASE)}
 
@@ -85,7 +85,7 @@ class PlantedFiles(unittest.TestCase):
         self.assertEqual(self.marked(), set())
 
     def test_no_library_is_taken_from_beside_the_program(self):
-        """As where the archive was unpacked among whatever else was downloaded."""
+        """As in a folder of downloads."""
         names = names_in(self.program.read_bytes()) - KNOWN_TO_WINDOWS
         self.assertIn("uxtheme.dll", names)
         for name in names:

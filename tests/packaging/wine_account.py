@@ -31,7 +31,7 @@ def start(*command, folder=None, environment=None):
 
 
 def wait_until(what, condition, seconds=30):
-    """Waits until a condition gives something true, and gives that; else TimeoutError."""
+    """Waits until a condition returns a true value, and returns that; else raises TimeoutError."""
     end = time.monotonic() + seconds
     while True:
         result = condition()

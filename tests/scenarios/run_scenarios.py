@@ -35,7 +35,7 @@ class Step:
 
 
 def read_steps(path):
-    """The steps of a scenario file; a ValueError names the line that is no step."""
+    """The steps of a scenario file; a ValueError names a malformed line."""
     steps = []
     for number, line in enumerate(path.read_text(encoding="utf-8").splitlines(), 1):
         if line.startswith("=> "):
@@ -72,7 +72,7 @@ def matches(expected, got):
 
 
 def unexpected_part(expected, got):
-    """The pair that a reader needs to see: of two objects only the keys that differ."""
+    """The part of a difference to show: only the keys of two objects that differ."""
     if isinstance(expected, dict) and isinstance(got, dict) and "error" not in {*expected, *got}:
         keys = [key for key in expected if key not in got or not matches(expected[key], got[key])]
         return ({key: expected[key] for key in keys},
@@ -88,14 +88,14 @@ def is_good(step, got):
 
 
 def same_answer(one, other):
-    """Errors are the same whatever their words: the words are for people."""
+    """All errors count as the same, whatever their texts."""
     if isinstance(one, dict) and isinstance(other, dict) and "error" in one and "error" in other:
         return True
     return one == other
 
 
 class Driver:
-    """A driver that carries out one scenario after another, each as if it had just been started."""
+    """A driver that carries out one scenario after another, and is reset in between."""
 
     def __init__(self, command, timeout):
         self._command = command
@@ -103,7 +103,7 @@ class Driver:
         self._process = None
 
     def ask(self, steps):
-        """The answers to the steps, and what went wrong on the way ("" where nothing did)."""
+        """The answers to the steps, and an error message, or ""."""
         commands = [step.command for step in steps]
         if self._process:
             commands.insert(0, "reset")
@@ -141,7 +141,7 @@ class Driver:
             raise ValueError(text) from error
 
     def end(self):
-        """Ends it; what went wrong, "" where nothing did."""
+        """Ends it; returns an error message, or ""."""
         process, self._process = self._process, None
         if not process:
             return ""
@@ -183,7 +183,7 @@ def check(name, steps, answers, trouble):
 
 
 def compare(name, steps, one, other):
-    """The complaints about answers that two drivers do not share, where each by itself is good."""
+    """The complaints about different answers of two drivers where each is acceptable by itself."""
     complaints = []
     for step, mine, theirs in zip(steps, one, other):
         if is_good(step, mine) and is_good(step, theirs) and not same_answer(mine, theirs):
@@ -216,7 +216,7 @@ def is_only_in_memory(path):
 
 
 def find_scenarios(folder, text):
-    """The names of the scenario files, FOLDER/NAME.txt, that hold the text."""
+    """The names of the scenario files, FOLDER/NAME.txt, that contain the text."""
     names = (path.relative_to(folder).as_posix() for path in sorted(folder.rglob("*.txt"))
              if path.name != "CMakeLists.txt")
     return [name for name in names if text in name]
