@@ -97,10 +97,6 @@ class Window {
   /// `character` is 0 for a key without one.
   void sendKey(KeyCode key, KeyAscii character);
 
-  /// For the implementation: the user has moved, sized, minimized or activated the window.
-  void noteBounds(const Rect& bounds);
-  void noteState(WindowState state);
-  void noteActivated();
   /// Moves the focus to `control` and raises the focus events; a window in the background only
   /// remembers it.
   void focusControl(Control& control);
@@ -113,6 +109,11 @@ class Window {
   virtual std::unique_ptr<Control> makeControl(const ControlLayout& layout) = 0;
   virtual std::unique_ptr<MenuItem> makeMenuItem(const MenuItemLayout& layout,
                                                  MenuItem* parent) = 0;
+
+  /// To be called when the user has moved, sized, minimized or activated the window.
+  void noteBounds(const Rect& bounds);
+  void noteState(WindowState state);
+  void noteActivated();
 
   virtual void showCaption() {}
   virtual void showBounds() {}

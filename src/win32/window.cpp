@@ -133,7 +133,7 @@ void Window::bringToFront() {
 void Window::handOver(controls::Window& next) {
   if (isInFront()) return controls::Window::handOver(next);
   // Another program has the keys, and keeps them.
-  next.noteActivated();
+  static_cast<Window&>(next).noteActivated();
 }
 
 void Window::showFocus(controls::Control& control) {

@@ -30,10 +30,8 @@ void InMemoryStage::keyUp(const controls::KeyStroke& stroke) {
 
 // A click brings the window to the front and gives the control the focus.
 void InMemoryStage::focus(controls::Control& control) {
-  act([&] {
-    control.window().noteActivated();
-    control.setFocus();
-  });
+  bringToFront(control.window());
+  act([&] { control.setFocus(); });
 }
 
 void InMemoryStage::click(controls::Control& control) {

@@ -21,7 +21,7 @@ class InMemoryStage : public Stage {
     act([&] { window.requestClose(); });
   }
   void bringToFront(controls::Window& window) override {
-    act([&] { window.noteActivated(); });
+    act([&] { window.show(); });
   }
   void keyDown(const controls::KeyStroke& stroke, controls::KeyAscii character) override;
   void keyUp(const controls::KeyStroke& stroke) override;
