@@ -58,8 +58,8 @@ class ColorTest : public ProgramTest {
     EXPECT_EQ(seen(), color);
   }
 
-  /// Waits until the digits on the tape, or in the entry box, have the best contrast to the color of
-  /// the box.
+  /// Waits until the digits on the tape, or in the entry box, have the best contrast to the color
+  /// of the box.
   static void expectLetters(HWND box, bool light) {
     constexpr int kFrame = 4;
     constexpr std::uint32_t kWhite = 0xE0;
