@@ -88,7 +88,7 @@ void Application::unload(std::unique_ptr<Form>& form) {
   if (!form) return;
   std::shared_ptr<Form> gone = std::move(form);
   gone->window().hide();
-  desktop_.events().post([this, gone = std::move(gone)]() mutable {
+  desktop_.events().postLast([this, gone = std::move(gone)]() mutable {
     gone.reset();
     endWithLastWindow();
   });

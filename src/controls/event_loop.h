@@ -12,50 +12,77 @@ struct DialogDismissed {};
 
 /// The order of the program's events. An event is an input from outside: a key, a click, a message
 /// from the system. Tasks that its handlers post run when the outermost event has ended, in the
-/// order in which they were posted.
+/// order in which they were posted. While a handler waits, events end as if it were not there.
 class EventLoop {
  public:
   /// Runs one event and, if it is the outermost, everything posted meanwhile.
   template <class Body>
   void runEvent(Body&& body) {
     runHandler(body);
-    while (depth_ == 0 && !tasks_.empty()) {
-      const auto task = std::move(tasks_.front());
-      tasks_.pop_front();
-      runHandler(task);
-    }
+    while (const auto task = nextTask()) runHandler(task);
   }
 
   /// Queues a task for the end of the current event. Outside an event it runs at once.
   void post(std::function<void()> task) {
     tasks_.push_back(std::move(task));
+    if (depth_ == waiting_) runEvent([] {});
+  }
+  /// Queues a task for when no handler runs any more, not even one that waits.
+  void postLast(std::function<void()> task) {
+    lastTasks_.push_back(std::move(task));
     if (depth_ == 0) runEvent([] {});
   }
 
+  /// Takes in events, in `body`, while the current handler waits for something.
+  template <class Body>
+  void takeWhileWaiting(Body&& body) {
+    const Count waiting(waiting_, depth_);
+    body();
+  }
+
  private:
-  // Keeps the depth right when a handler throws.
-  class Depth {
+  // Restores the count when a handler throws.
+  class Count {
    public:
-    explicit Depth(int& depth) : depth_(depth) { ++depth_; }
-    ~Depth() { --depth_; }
-    Depth(const Depth&) = delete;
-    Depth& operator=(const Depth&) = delete;
+    Count(int& count, int value) : count_(count), before_(std::exchange(count, value)) {}
+    ~Count() { count_ = before_; }
+    Count(const Count&) = delete;
+    Count& operator=(const Count&) = delete;
 
    private:
-    int& depth_;
+    int& count_;
+    int before_;
   };
+
+  using Task = std::function<void()>;
+
+  /// Null when none is due.
+  Task nextTask() {
+    if (depth_ == waiting_ && !tasks_.empty()) return takeFirst(tasks_);
+    if (depth_ == 0 && !lastTasks_.empty()) return takeFirst(lastTasks_);
+    return nullptr;
+  }
+
+  static Task takeFirst(std::deque<Task>& tasks) {
+    Task first = std::move(tasks.front());
+    tasks.pop_front();
+    return first;
+  }
 
   template <class Handler>
   void runHandler(const Handler& handler) {
-    Depth depth(depth_);
+    const Count depth(depth_, depth_ + 1);
     try {
       handler();
     } catch (const DialogDismissed&) {
     }
   }
 
+  // How many handlers run, and how many did when the one that waits began to.
   int depth_ = 0;
-  std::deque<std::function<void()>> tasks_;
+  int waiting_ = 0;
+  std::deque<Task> tasks_;
+  std::deque<Task> lastTasks_;
 };
 
 }  // namespace controls

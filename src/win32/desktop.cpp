@@ -80,8 +80,10 @@ bool Desktop::startProgram(const std::string& program) {
 
 bool Desktop::startProgramAndPaste(const std::string& program) {
   return win32::startProgramAndPaste(program, [this] {
-    // An end that was asked for meanwhile is for the loop that waits outside.
-    if (!dispatchWaiting(*this)) endMessageLoop();
+    events().takeWhileWaiting([this] {
+      // An end that was asked for meanwhile is for the loop that waits outside.
+      if (!dispatchWaiting(*this)) endMessageLoop();
+    });
   });
 }
 

@@ -40,11 +40,15 @@ class NotepadTest : public ProgramTest {
     return nullptr;
   }
 
-  /// Not shown whole when it fails: it may have ten thousand lines.
+  /// Not shown whole when it fails: it may have ten thousand lines. A new document may take another
+  /// text's place.
   void expectInNotepad(const std::wstring& tape) {
-    const HWND text = awaitWindow("Notepad", [this] { return textOfNotepad(); });
-    EXPECT_TRUE(eventually([&] { return textOf(text) == tape; }))
-        << textOf(text).size() << " characters instead of " << tape.size();
+    std::wstring seen;
+    EXPECT_TRUE(eventually([&] {
+      const HWND text = textOfNotepad();
+      return text && (seen = textOf(text)) == tape;
+    })) << seen.size()
+        << " characters instead of " << tape.size();
     EXPECT_TRUE(clipboardText() == tape);
     EXPECT_TRUE(eventually([this] { return GetForegroundWindow() == openedWindow(L"Notepad"); }))
         << "Notepad is not in front";
@@ -162,6 +166,39 @@ TEST_F(NotepadTest, AMissingOneIsReported) {
   ReplacedNotepad notepad;
   if (!notepad.byNothing()) GTEST_SKIP() << "the system's Notepad cannot be removed";
   expectFailure();
+}
+
+TEST_F(NotepadTest, ASlowOneGetsTheTapeAndKeepsNobodyWaiting) {
+  ReplacedNotepad notepad;
+  if (!notepad.with(L"slow 8000")) GTEST_SKIP() << "the system's Notepad cannot be replaced";
+  start();
+  const std::wstring tape = makeTape(10);
+  pressWith(VK_CONTROL, 'N');
+  expectMessage(kNote);
+  answer(VK_RETURN);
+  awaitInFront(program().mainWindow());
+  type("12");
+  click(middleOf(TestedProgram::key(program().mainWindow(), L"3")));
+  expectText(program().entry(), L"123");
+  EXPECT_EQ(openedWindow(L"Notepad"), nullptr) << "it was not slow";
+  expectInNotepad(tape);
+  EXPECT_EQ(textOf(program().entry()), L"123");
+}
+
+TEST_F(NotepadTest, ASlowOneGetsTheTapeOfAProgramThatHasBeenClosed) {
+  ReplacedNotepad notepad;
+  if (!notepad.with(L"slow 2000")) GTEST_SKIP() << "the system's Notepad cannot be replaced";
+  start();
+  const std::wstring tape = makeTape(10);
+  pressWith(VK_CONTROL, 'N');
+  expectMessage(kNote);
+  answer(VK_RETURN);
+  PostMessageW(program().mainWindow(), WM_SYSCOMMAND, SC_CLOSE, 0);
+  await("the end of the main window", [] { return !program().mainWindow(); });
+  EXPECT_EQ(openedWindow(L"Notepad"), nullptr) << "it was not slow";
+  await("the tape in Notepad", [&] { return textOf(textOfNotepad()) == tape; });
+  program().awaitEnd();
+  EXPECT_EQ(program().exitCode(), 0u);
 }
 
 TEST_F(NotepadTest, OneWhoseWindowClosesAtOnceIsReported) {

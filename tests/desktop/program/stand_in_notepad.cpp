@@ -1,14 +1,17 @@
 // What takes the place of Notepad in a test. TALLYREX_NOTEPAD says what it does:
+//   slow 8000  shows an empty text, but only after so many milliseconds
 //   vanishing  shows a window that closes at once
 //   tabbed     shows a window with an old note in it; started a second time, it brings that window
 //              to the front and ends. Ctrl+N opens an empty text beside the note.
 #include <windows.h>
 
+#include <iterator>
 #include <string>
 
 namespace {
 
 constexpr wchar_t kClassName[] = L"Notepad";
+constexpr wchar_t kSlow[] = L"slow ";
 
 std::wstring environment(const wchar_t* name) {
   wchar_t text[MAX_PATH] = L"";
@@ -70,6 +73,10 @@ void runTabbed() {
 
 int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int) {
   const std::wstring kind = environment(L"TALLYREX_NOTEPAD");
+  if (kind.rfind(kSlow, 0) == 0) {
+    Sleep(std::stoul(kind.substr(std::size(kSlow) - 1)));
+    edit(L"");
+  }
   if (kind == L"vanishing") DestroyWindow(showWindow());
   if (kind == L"tabbed") runTabbed();
   return 0;
