@@ -47,9 +47,6 @@ struct VersionNotes {
   std::string company;
 };
 
-/// A value under the machine's registry root: a text, or a double word.
-using RegistryValue = std::string;
-
 /// The result of reading the clipboard, which another program may have locked.
 struct Clipping {
   enum class Found { Nothing, Text, Locked };
@@ -124,8 +121,7 @@ class Desktop {
   /// The safe that keeps the tape of this run.
   virtual TapeSafe& tapeSafe() = 0;
   /// A value under the machine's registry root, a number as decimal text.
-  virtual std::optional<RegistryValue> registryValue(std::string_view key,
-                                                     std::string_view name) = 0;
+  virtual std::optional<std::string> registryValue(std::string_view key, std::string_view name) = 0;
   virtual bool fileExists(const std::string& path) = 0;
   /// The folder of the executable. Only a drive's root ends in a backslash.
   virtual std::string programFolder() = 0;

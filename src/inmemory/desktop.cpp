@@ -61,8 +61,8 @@ std::optional<std::uint32_t> Desktop::chooseColor(std::uint32_t) {
   return color;
 }
 
-std::optional<controls::RegistryValue> Desktop::registryValue(std::string_view key,
-                                                              std::string_view valueName) {
+std::optional<std::string> Desktop::registryValue(std::string_view key,
+                                                  std::string_view valueName) {
   const auto found = registry.find({std::string(key), std::string(valueName)});
   if (found == registry.end()) return {};
   return found->second;

@@ -43,8 +43,8 @@ class Desktop : public controls::Desktop {
   std::optional<std::uint32_t> chooseColor(std::uint32_t present) override;
   common::SettingsStore& settings() override { return stores[name]; }
   inmemory::TapeSafe& tapeSafe() override { return tapeSafe_; }
-  std::optional<controls::RegistryValue> registryValue(std::string_view key,
-                                                       std::string_view valueName) override;
+  std::optional<std::string> registryValue(std::string_view key,
+                                           std::string_view valueName) override;
   bool fileExists(const std::string& path) override { return files.contains(path); }
   std::string programFolder() override { return "C:\\Tallyrex"; }
   std::string programName() override { return name; }

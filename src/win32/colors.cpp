@@ -12,7 +12,7 @@ namespace {
 constexpr COLORREF kBlack = RGB(0, 0, 0);
 constexpr COLORREF kWhite = RGB(255, 255, 255);
 
-// The light of one part of a colour, from 0 to 1.
+// The linear value of a color component, from 0 to 1.
 double lightOf(BYTE part) {
   const double share = part / 255.0;
   return share <= 0.04045 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);

@@ -113,8 +113,7 @@ std::optional<std::uint32_t> Desktop::chooseColor(std::uint32_t present) {
   return choice.rgbResult;
 }
 
-std::optional<controls::RegistryValue> Desktop::registryValue(std::string_view key,
-                                                              std::string_view name) {
+std::optional<std::string> Desktop::registryValue(std::string_view key, std::string_view name) {
   return readMachineValue(key, name);
 }
 

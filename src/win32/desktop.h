@@ -30,8 +30,7 @@ class Desktop : public controls::Desktop {
   std::optional<std::uint32_t> chooseColor(std::uint32_t present) override;
   common::SettingsStore& settings() override { return settings_; }
   controls::TapeSafe& tapeSafe() override { return tapeSafe_; }
-  std::optional<controls::RegistryValue> registryValue(std::string_view key,
-                                                       std::string_view name) override;
+  std::optional<std::string> registryValue(std::string_view key, std::string_view name) override;
   bool fileExists(const std::string& path) override;
   std::string programFolder() override;
   std::string programName() override;

@@ -12,13 +12,13 @@ namespace win32 {
 namespace {
 
 constexpr DWORD kPoll = 20;
-// A machine that has just been started may need that long to show a first window.
+// A machine that has just been started may take this long to show a first window.
 constexpr ULONGLONG kWindowPatience = 60'000;
-// A starter has handed over to a program that runs already: that one is quick.
+// After a launcher has handed over to a program that is running already, which is fast.
 constexpr ULONGLONG kHandOverPatience = 5'000;
 constexpr ULONGLONG kFrontPatience = 1'000;
 constexpr ULONGLONG kTextPatience = 5'000;
-// So long nothing may change before keys are sent: documents that are brought back come late.
+// Nothing may change for this long before keys are sent: documents may be restored late.
 constexpr ULONGLONG kSettled = 200;
 constexpr UINT kAnswerPatience = 200;
 
@@ -40,7 +40,7 @@ std::vector<HWND> editorWindows() {
   return windows;
 }
 
-/// The text with the focus in a window; null while it has none, as behind a question.
+/// The focused text in a window; null without one, such as behind a message box.
 HWND focusedText(HWND window) {
   GUITHREADINFO thread = {};
   thread.cbSize = sizeof thread;
@@ -65,7 +65,7 @@ INPUT keyInput(WORD key, bool up) {
   return input;
 }
 
-// Ctrl and the key, whatever keys the user still holds from the shortcut that led here.
+// Ctrl and the key, after releasing modifiers that the user still holds from the shortcut.
 bool sendWithControl(WORD key) {
   std::vector<INPUT> inputs;
   constexpr WORD kModifiers[] = {VK_SHIFT, VK_MENU, VK_LWIN, VK_RWIN, VK_CONTROL};
@@ -79,7 +79,7 @@ bool sendWithControl(WORD key) {
   return SendInput(count, inputs.data(), sizeof(INPUT)) == count;
 }
 
-/// The way from the start of an editor to a text that is pasted there.
+/// Starts an editor and pastes into it.
 class EditorPaste {
  public:
   explicit EditorPaste(const std::function<void()>& work) : work_(work) {}
@@ -106,11 +106,11 @@ class EditorPaste {
 
   bool isInFront() const { return GetForegroundWindow() == window_; }
 
-  // The user goes on working, and may copy something else.
+  // The user may have copied something else meanwhile.
   bool isSameClipboard() const { return GetClipboardSequenceNumber() == clipboard_; }
 
-  // Where the starter has ended, a window that was open already may have come to the front with a
-  // new document in it.
+  // After the launcher has ended, a window that was open already may have come to the front with a
+  // new document.
   HWND windowOfStarted(bool ended) const {
     for (HWND window : editorWindows()) {
       const bool old = std::ranges::find(before_, window) != before_.end();
@@ -134,7 +134,7 @@ class EditorPaste {
 
   bool comesToFront() const {
     return comesTrue(kFrontPatience, [this] {
-      // Not every system raises what it gives the keys to.
+      // Not every system raises the window that it activates.
       BringWindowToTop(window_);
       SetForegroundWindow(window_);
       return isInFront();
@@ -145,7 +145,7 @@ class EditorPaste {
     return comesTrue(kTextPatience, [this] { return focusedText(window_) != nullptr; });
   }
 
-  // A document with text in it is somebody's.
+  // Never pastes into a document that has text.
   bool hasEmptyText() const {
     HWND seen = nullptr;
     ULONGLONG since = 0;
@@ -169,8 +169,8 @@ class EditorPaste {
 }  // namespace
 
 bool startProgramAndPaste(const std::string& program, const std::function<void()>& work) {
-  // On Wine a focus that was moved just now may still have to be passed on to the screen. Asking
-  // for input does that; done later, it would take the focus back from the program that is started.
+  // On Wine, a recent focus change may not have reached the screen yet. Checking the queue passes
+  // it on; later, that would take the focus from the started program.
   GetQueueStatus(QS_ALLINPUT);
   return EditorPaste(work).run(program);
 }

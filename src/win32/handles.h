@@ -36,7 +36,7 @@ struct CloseOwnedHandle {
 template <class Handle, class Release>
 using Owned = std::unique_ptr<std::remove_pointer_t<Handle>, Release>;
 
-/// Handles that are given back when their owner goes.
+/// Handles that are released by their owner.
 using OwnedFont = Owned<HFONT, DeleteGdiObject>;
 using OwnedBrush = Owned<HBRUSH, DeleteGdiObject>;
 using OwnedIcon = Owned<HICON, DestroyOwnedIcon>;

@@ -17,7 +17,7 @@ struct Tint {
   COLORREF text;
 };
 
-// How far, in hundredths, a state goes from the colour of a face at rest.
+// How far, in percent, a state differs from the color of a face at rest.
 constexpr int kHot = 16;
 constexpr int kPressed = 30;
 
@@ -38,7 +38,7 @@ Tint tintOf(KeyKind kind) {
   }
 }
 
-// The scheme of a user who needs contrast says all that a key may look like.
+// With a high-contrast scheme, keys use its colors only.
 KeyColors contrastColors(const KeyState& state) {
   const COLORREF face = GetSysColor(COLOR_BTNFACE);
   const COLORREF text = GetSysColor(state.disabled ? COLOR_GRAYTEXT : COLOR_BTNTEXT);
@@ -52,8 +52,7 @@ KeyColors lightColors(KeyKind kind, const KeyState& state) {
   const COLORREF strong = tintOf(KeyKind::Strong).face;
   if (state.disabled) return {window, mixed(window, RGB(0, 0, 0), 25), GetSysColor(COLOR_GRAYTEXT)};
   Tint tint = state.down ? tintOf(KeyKind::Strong) : tintOf(kind);
-  // A dark face lights up under the mouse and darkens below the finger; a light one takes on
-  // colour.
+  // A dark face gets lighter under the mouse and darker when pressed; a light one gets more color.
   const bool dark = isDark(tint.face);
   const COLORREF lit = dark ? RGB(0xFF, 0xFF, 0xFF) : strong;
   const COLORREF deep = dark ? RGB(0x00, 0x00, 0x00) : strong;
@@ -63,7 +62,7 @@ KeyColors lightColors(KeyKind kind, const KeyState& state) {
   return {tint.face, legibleOn(window, grey, kFrameContrast), legibleOn(tint.face, tint.text)};
 }
 
-// How far a point is within a shape with round corners; negative beyond its edge.
+// The distance of a point from the edge of a shape with rounded corners; negative outside.
 double depthOf(double x, double y, double width, double height, double radius) {
   const double beside = std::min(x, width - x);
   const double below = std::min(y, height - y);

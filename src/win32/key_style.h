@@ -9,7 +9,7 @@
 
 namespace win32 {
 
-/// What a key shows of itself besides its face.
+/// The state of a key, besides its face.
 struct KeyState {
   bool disabled = false;
   bool hot = false;
@@ -25,18 +25,18 @@ struct KeyColors {
   COLORREF text;
 };
 
-/// The colours of a key: a tint for each kind, so that the eye finds it; a colour that the program
-/// has given the key goes before. The text can be read on the face, and the frame is seen on the
-/// window. For a user with colours that serve to see more they are the system's alone.
+/// The colors of a key: a tint for each kind, unless the program has given the key another color.
+/// The text is readable on the face, and the frame visible on the window. In high contrast and dark
+/// schemes, only system colors are used.
 KeyColors keyColors(controls::KeyKind kind, controls::Color given, const KeyState& state);
 
-/// One colour of a key from so many pixels within its edge on.
+/// One color of a key, starting this many pixels inside its edge.
 struct KeyLayer {
   int inset;
   COLORREF color;
 };
 
-/// Draws a key with round corners, its layers from the outside in.
+/// Draws a key with rounded corners, its layers from the outside in.
 void drawKeyShape(HDC context, const RECT& area, int radius, const std::vector<KeyLayer>& layers);
 
 }  // namespace win32

@@ -44,7 +44,7 @@ class NativeControl {
   virtual LRESULT customDraw(NMCUSTOMDRAW&) { return CDRF_DODEFAULT; }
   /// Returns the brush for its background, and sets the text colors of the device context.
   HBRUSH prepareColors(HDC context);
-  /// The resolution or the system's colours have changed.
+  /// The resolution or the system's colors have changed.
   virtual void refresh();
   /// The size of the window has changed.
   virtual void frameSized() {}

@@ -12,7 +12,7 @@ namespace win32 {
 namespace {
 
 constexpr wchar_t kClassName[] = L"TallyrexTape";
-// What the system and a screen reader ask a box of many lines for.
+// The queries of the system and of screen readers for a multi-line box.
 constexpr DWORD kStyle =
     WS_VSCROLL | ES_MULTILINE | ES_AUTOVSCROLL | ES_AUTOHSCROLL | ES_WANTRETURN;
 
@@ -53,7 +53,7 @@ controls::LineStyle TapeBox::styleOf(std::wstring_view line) const {
   return styleOfLine ? styleOfLine(narrow(line)) : controls::LineStyle::Amount;
 }
 
-// The letters are as large beside a bar as without one, which comes and goes.
+// The size of the font does not depend on whether the scroll bar is visible.
 void TapeBox::fitLetters() {
   RECT box;
   GetWindowRect(handle(), &box);
@@ -76,7 +76,7 @@ std::optional<LRESULT> TapeBox::take(const Message& message) {
       moveCaret(message.wParam);
       return 0;
     case WM_SETFONT:
-      // The box makes its own, as large as there is room for.
+      // The box creates its own font, as large as fits.
       return 0;
     case WM_SETFOCUS:
       view_.showCaret();
@@ -107,7 +107,7 @@ std::optional<LRESULT> TapeBox::takePainting(const Message& message) {
     case WM_PAINT:
       return paint();
     case WM_ERASEBKGND:
-      // Every point of it is painted.
+      // Everything is painted, so there is no background to erase.
       return TRUE;
     case WM_SIZE:
       fitLetters();
@@ -161,7 +161,7 @@ void TapeBox::storePart(int start, int length, std::string_view text) {
   noteText();
 }
 
-// As the system's own box tells.
+// As the system's own box does.
 void TapeBox::noteText() const {
   NotifyWinEvent(EVENT_OBJECT_VALUECHANGE, handle(), OBJID_CLIENT, CHILDID_SELF);
 }

@@ -9,7 +9,7 @@
 
 namespace win32 {
 
-/// A text of many lines, none of which is wrapped.
+/// A multi-line text box without word wrap.
 class TapeBox : public Native<controls::TextBox> {
  public:
   TapeBox(Window& frame, const controls::ControlLayout& layout);
@@ -32,13 +32,14 @@ class TapeBox : public Native<controls::TextBox> {
   void showAlignment() override { view_.setAlignment(alignment()); }
 
  private:
-  // What a click, a double click and a triple click select, and what dragging then goes on by.
+  // What a click, a double click and a triple click select, and the unit by which dragging then
+  // extends the selection.
   enum class Unit { Character, Word, Line };
   struct Span {
     int start;
     int end;
   };
-  // Where the caret would be if the lines were long enough: a way up or down leads there again.
+  // The preferred column of the caret when it moves up or down across shorter lines.
   struct Goal {
     int caret;
     int x;
@@ -75,13 +76,13 @@ class TapeBox : public Native<controls::TextBox> {
   TextInput input_;
   AccessibleName name_;
   LiveRegion region_;
-  // What the wheel has turned short of a line.
+  // Wheel movement that has not yet added up to a line.
   int wheelRest_ = 0;
   std::optional<Goal> goal_;
   bool dragging_ = false;
   Unit dragUnit_ = Unit::Character;
   Span dragFrom_ = {0, 0};
-  // When and where the last double click was.
+  // Time and position of the last double click.
   DWORD doubleClickTime_ = 0;
   POINT doubleClickPlace_ = {};
 };

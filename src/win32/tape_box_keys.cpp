@@ -3,7 +3,7 @@
 #include "win32/keys.h"
 #include "win32/tape_box.h"
 
-// The keys that move the caret of the tape.
+// Keys that move the caret of the tape.
 namespace win32 {
 
 void TapeBox::moveCaret(WPARAM key) {
@@ -39,8 +39,8 @@ int TapeBox::caretAfter(WPARAM key, bool control) const {
   }
 }
 
-// To the character that stands above or below on the screen; a short line in between does not make
-// the caret forget where it came from.
+// Moves to the character above or below; shorter lines in between do not change the preferred
+// column.
 void TapeBox::moveByLines(int lines) {
   const TapeLines& all = view_.lines();
   const int line = all.lineOf(view_.caret());

@@ -13,7 +13,7 @@
 
 namespace win32 {
 
-// To a screen reader the tape is a box as the system's own: it answers what it would ask of one.
+// For screen readers the tape behaves like the system's own box and answers its messages.
 std::optional<LRESULT> TapeBox::takeEditMessage(const Message& message) {
   // The class of the system's edit box, in the numbering of the accessibility library.
   constexpr LRESULT kEditClass = 65536 + 4;
@@ -73,14 +73,14 @@ std::optional<LRESULT> TapeBox::takeViewMessage(const Message& message) {
   }
 }
 
-// No further than the text goes, whatever is asked.
+// Clamped to the text.
 void TapeBox::scrollBy(LPARAM columns, LPARAM lines) {
   const LPARAM most = view_.lines().length();
   view_.scrollSideways(static_cast<int>(std::clamp(columns, -most, most)));
   view_.scrollTo(view_.firstLine() + static_cast<int>(std::clamp(lines, -most, most)));
 }
 
-// How many lines it was is answered, in 16 bits.
+// Returns the number of lines scrolled, in 16 bits.
 LRESULT TapeBox::takeScrollAction(WPARAM action) {
   if (action > SB_PAGEDOWN) return FALSE;
   const int before = view_.firstLine();
@@ -90,7 +90,7 @@ LRESULT TapeBox::takeScrollAction(WPARAM action) {
 
 namespace {
 
-// Fills a caller's buffer of characters; how many it took.
+// Fills a caller's buffer of characters; returns their number.
 LRESULT copyOut(std::wstring_view text, wchar_t* buffer, std::size_t room) {
   const std::size_t taken = std::min(text.size(), room);
   std::memcpy(buffer, text.data(), taken * sizeof(wchar_t));
@@ -128,7 +128,7 @@ std::optional<LRESULT> TapeBox::takeTextMessage(const Message& message) {
                           : static_cast<int>(std::min<LPARAM>(wanted, lines.length()));
       };
       const auto start = static_cast<LPARAM>(message.wParam);
-      // Without a start nothing is selected.
+      // A negative start clears the selection.
       const int from = start < 0 ? view_.caret() : placeOf(start);
       const int to = start < 0 ? from : placeOf(message.lParam);
       select(std::min(from, to), std::abs(to - from));
@@ -139,8 +139,7 @@ std::optional<LRESULT> TapeBox::takeTextMessage(const Message& message) {
   }
 }
 
-// The border of the system's boxes in the user's theme; without one the classic edge is drawn
-// already.
+// Draws the border in the user's theme; without a theme, the classic edge has been drawn already.
 void TapeBox::paintFrame() {
   const OwnedTheme theme(openTheme(handle(), VSCLASS_EDIT));
   if (!theme) return;

@@ -81,8 +81,7 @@ std::optional<LRESULT> TapeBox::takeMouse(const Message& message) {
   }
 }
 
-// The place is that which the user has seen under the mouse: what a handler does when the focus
-// arrives may scroll the tape.
+// The position is determined before the focus moves, since a focus handler may scroll the tape.
 void TapeBox::pressMouse(const Message& message) {
   const POINT point = mousePlace(message);
   const int place = view_.placeAt(point);
@@ -126,7 +125,7 @@ TapeBox::Span TapeBox::spanAt(int place, Unit unit) const {
     case Unit::Word:
       return {lines.wordStart(place), lines.wordEnd(place)};
     case Unit::Line: {
-      // With its line end, where it has one.
+      // Including its line break, if any.
       const int line = lines.lineOf(place);
       return {lines.start(line), line + 1 < lines.count() ? lines.start(line + 1) : lines.length()};
     }
@@ -135,7 +134,7 @@ TapeBox::Span TapeBox::spanAt(int place, Unit unit) const {
   }
 }
 
-// Whole words, or lines, from the one where the drag began to the one under the mouse.
+// Selects whole words or lines from the start of the drag to the mouse.
 void TapeBox::dragTo(POINT point) {
   const Span reached = spanAt(view_.placeAt(point), dragUnit_);
   const bool back = reached.start < dragFrom_.start;

@@ -8,7 +8,7 @@
 namespace win32 {
 namespace {
 
-// The designed letters grow so many times at most.
+// The largest magnification of the designed font.
 constexpr int kLargest = 3;
 constexpr int kTabStop = 8;
 // The system measures and draws 8192 units of a text at once.
@@ -25,7 +25,7 @@ bool isTab(std::wstring_view text) {
   return text.front() == L'\t';
 }
 
-// A piece ends in front of a tab, and between two characters.
+// A piece ends before a tab, and not inside a surrogate pair.
 std::size_t pieceLength(std::wstring_view text) {
   if (isTab(text)) return 1;
   const std::size_t length = std::min(text.find(L'\t'), text.size());
@@ -61,7 +61,7 @@ void TapeLetters::setHeight(const Fonts& fonts, const controls::FontLayout& font
   TEXTMETRICW metrics;
   GetTextMetricsW(ruler.context(), &metrics);
   fixedPitch_ = (metrics.tmPitchAndFamily & TMPF_FIXED_PITCH) == 0;
-  // A quarter of the letters' height between two lines leads the eye down the figures.
+  // A quarter of the font height between lines makes the column easier to read.
   spaceAbove_ = (height + 7) / 8;
   lineHeight_ = metrics.tmHeight + 2 * spaceAbove_;
 }
@@ -80,7 +80,7 @@ void TapeLetters::eachPiece(std::wstring_view line, const Visit& visit) const {
   }
 }
 
-// Figures and plain letters need not be measured.
+// ASCII characters need not be measured.
 bool TapeLetters::standsInCells(std::wstring_view text) const {
   return fixedPitch_ && std::all_of(text.begin(), text.end(),
                                     [](wchar_t unit) { return unit >= L' ' && unit <= L'~'; });

@@ -10,31 +10,30 @@
 
 namespace win32 {
 
-/// The letters of a text of many lines: how large they are, where each of a line stands, and how
-/// it is drawn. A tab leads to the next stop. Lines may be longer than what the system measures and
-/// draws at once.
+/// The font of a multi-line text: its size, the position of each character in a line, and how lines
+/// are drawn. Supports tab stops, and lines longer than the system can measure and draw at once.
 class TapeLetters {
  public:
-  /// Makes the letters as large as lets `columns` of them fill the width, in pixels, from the size
-  /// of the font to three times that; at that size with 0 columns.
+  /// Scales the font so that `columns` characters fill the width, in pixels: one to three times its
+  /// designed size, or exactly that with 0 columns.
   void fit(const Fonts& fonts, const controls::FontLayout& font, int columns, int width);
 
   HFONT font() const { return regular_.get(); }
-  /// The width of a figure.
+  /// The width of a digit.
   int cell() const { return cell_; }
-  /// From one line to the next.
+  /// The distance from one line to the next.
   int lineHeight() const { return lineHeight_; }
-  /// What stands above the letters of a line.
+  /// The space above the text of a line.
   int spaceAbove() const { return spaceAbove_; }
 
-  /// From the start of a line to one of its characters.
+  /// The distance from the start of a line to one of its characters.
   int leftOf(std::wstring_view line, std::size_t character) const;
   int widthOf(std::wstring_view line) const { return leftOf(line, line.size()); }
-  /// How many characters of a line are more than half to the left of a place.
+  /// How many characters of a line are more than half to the left of a position.
   std::size_t charactersBefore(std::wstring_view line, int x) const;
 
-  /// Draws what of the line is within `area`, in the colours of the context. The letters of both
-  /// weights stand in the same places.
+  /// Draws the part of the line within `area`, in the colors of the context. Normal and bold
+  /// characters have the same positions.
   void draw(HDC context, POINT start, const RECT& area, std::wstring_view line, bool bold) const;
 
  private:

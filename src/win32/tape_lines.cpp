@@ -32,7 +32,7 @@ int TapeLines::lineOf(int place) const {
   return static_cast<int>(behind - starts_.begin()) - 1;
 }
 
-// Between the two units of one character.
+// Inside a surrogate pair.
 bool TapeLines::isInside(int place) const {
   if (place <= 0 || place >= length()) return false;
   const wchar_t before = at(place - 1);

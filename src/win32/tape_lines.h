@@ -7,8 +7,8 @@
 
 namespace win32 {
 
-/// A text and where its lines begin. Appending costs the same however long the text is; a line ends
-/// at a line feed, which a carriage return may precede.
+/// A text with an index of its lines. The cost of appending does not depend on the length of the
+/// text; a line ends at a line feed, with an optional carriage return before it.
 class TapeLines {
  public:
   const std::wstring& text() const { return text_; }
@@ -17,26 +17,27 @@ class TapeLines {
 
   int count() const { return static_cast<int>(starts_.size()); }
   int start(int line) const { return starts_[static_cast<std::size_t>(line)]; }
-  /// Behind the last character of the line, in front of its line end.
+  /// The end of the line, before its line break.
   int end(int line) const;
   std::wstring_view line(int line) const { return part(start(line), end(line) - start(line)); }
-  /// The line that a place in the text is on.
+  /// The line of a position in the text.
   int lineOf(int place) const;
 
-  /// How many columns the longest line takes at most, a tab and a wide character counted in full.
+  /// An upper limit of the columns in the longest line, with tabs and wide characters counted in
+  /// full.
   int columns() const { return columns_.empty() ? 0 : columns_.rbegin()->first; }
 
-  /// The place itself, or the one behind the character that it is inside of.
+  /// The position itself, or the end of the character that it is inside.
   int whole(int place) const { return isInside(place) ? place + 1 : place; }
-  /// The place one character further on or back: a line end is one character, and so is one that
-  /// takes two units.
+  /// The next or previous character position; a line break or a surrogate pair counts as one
+  /// character.
   int next(int place) const;
   int previous(int place) const;
-  /// The start of the word behind a place, or in front of it.
+  /// The start of the next or previous word.
   int nextWord(int place) const;
   int previousWord(int place) const;
-  /// Where the word begins that a place is in, and where it ends, with the blanks behind it; both
-  /// are on the line of the place.
+  /// The start of the word at a position, and its end including trailing blanks; both on the same
+  /// line.
   int wordStart(int place) const;
   int wordEnd(int place) const;
 
@@ -50,7 +51,7 @@ class TapeLines {
 
   std::wstring text_;
   std::vector<int> starts_ = {0};
-  // How many lines take so many columns.
+  // The number of lines for each number of columns.
   std::map<int, int> columns_ = {{0, 1}};
 };
 

@@ -2,7 +2,7 @@
 
 #include "win32/tape_view.h"
 
-// How the text of the tape is drawn.
+// Painting the tape.
 namespace win32 {
 
 using controls::LineStyle;
@@ -30,7 +30,7 @@ void TapeView::paint(HDC context, const RECT& damaged) const {
   fill(context, {area.left, behind, area.right, area.bottom}, ink_.background);
 }
 
-// The machine's own lines are short.
+// Lines printed by the machine are short.
 LineStyle TapeView::styleOf(int line) const {
   constexpr std::size_t kLongest = 64;
   return styleOfLine_(lines_.line(line).substr(0, kLongest));
@@ -46,7 +46,7 @@ void TapeView::paintLine(HDC context, int line, const RECT& area) const {
   paintSelection(context, line, area);
 }
 
-// Above the figures of a total, as below a column on paper.
+// A rule above the digits of a total, as below a column on paper.
 void TapeView::paintRule(HDC context, int line, const RECT& area) const {
   const std::wstring_view text = lines_.line(line);
   const std::size_t start = text.find_first_not_of(L' ');

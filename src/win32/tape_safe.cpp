@@ -15,7 +15,7 @@ struct CloseSearch {
 };
 using OwnedSearch = Owned<HANDLE, CloseSearch>;
 
-// The names of the tapes in a folder: they begin with the time, and so sort from old to new.
+// The names of the tapes in a folder, from old to new: they start with the time.
 std::vector<std::wstring> tapesIn(const std::wstring& folder) {
   std::vector<std::wstring> names;
   WIN32_FIND_DATAW found;
@@ -29,7 +29,7 @@ std::vector<std::wstring> tapesIn(const std::wstring& folder) {
   return names;
 }
 
-// No other run has it: the process is alone with its number at that time.
+// Unique: no other process has the same number at that time.
 std::wstring newName() {
   FILETIME now;
   GetSystemTimeAsFileTime(&now);
@@ -42,7 +42,7 @@ std::wstring newName() {
 
 bool TapeSafe::makeFile() {
   if (folder_.empty()) return false;
-  // Another run that ends may take the folders away in between.
+  // Another run that ends may remove the folders in between.
   for (int attempt = 0; attempt < 2 && !file_; ++attempt) {
     CreateDirectoryW(folderOf(folder_).c_str(), nullptr);
     CreateDirectoryW(folder_.c_str(), nullptr);

@@ -8,11 +8,11 @@
 
 namespace win32 {
 
-/// Keeps the tape of each run in a file of its own, in a folder that all runs of the program share.
-/// The file is there from the first line on; a run that is ended without a word leaves it behind.
+/// Keeps the tape of each run in its own file, in a folder shared by all runs of the program. The
+/// file is created with the first line; a run that is killed leaves it behind.
 class TapeSafe : public controls::TapeSafe {
  public:
-  /// Without a folder, and where the folder cannot be written to, nothing is kept.
+  /// Without a folder, or if it cannot be written to, nothing is kept.
   explicit TapeSafe(std::wstring folder) : folder_(std::move(folder)) {}
 
   void forgetLostTapes() override;
@@ -24,17 +24,17 @@ class TapeSafe : public controls::TapeSafe {
 
  private:
   bool makeFile();
-  /// With nothing left to keep, the folders go too.
+  /// Also removes empty folders.
   void removeFolders() const;
 
   std::wstring folder_;
   KeptFile file_;
-  // The disk has failed this tape: what would come next would stand behind a gap.
+  // Writing has failed for this tape; further records would follow a gap.
   bool failed_ = false;
   std::vector<KeptFile> lost_;
 };
 
-/// The folder for the tapes of the program of that name; empty where the user has none.
+/// The folder for the tapes of the program with that name; empty if the user has none.
 std::wstring tapeFolder(const std::string& programName);
 
 }  // namespace win32

@@ -2,14 +2,14 @@
 
 #include "win32/tape_view.h"
 
-// How the text of the tape moves in its window, and what its scroll bars show.
+// Scrolling the tape, and its scroll bars.
 namespace win32 {
 
 using controls::Alignment;
 
 namespace {
 
-// A bar below fewer lines would take the place of one that is wanted more.
+// With fewer lines, a horizontal bar would take up a line that is needed more.
 constexpr int kLeastLinesAboveBar = 4;
 
 }  // namespace
@@ -28,7 +28,7 @@ void TapeView::shiftTo(int shift) {
   refresh();
 }
 
-// What the longest line is wider than the window.
+// How much the longest line is wider than the window.
 int TapeView::overflow() const {
   constexpr int kCaret = 1;
   const RECT area = textArea();
@@ -42,7 +42,7 @@ void TapeView::keepInView() {
       alignment_ == Alignment::Left ? std::clamp(shift_, 0, most) : std::clamp(shift_, -most, 0);
 }
 
-// The lines that the machine prints fit in beside a bar, or nearly so.
+// Lines printed by the machine fit beside a bar, or almost.
 bool TapeView::needsSidewaysBar() const {
   if (lines_.columns() <= columns_ || overflow() == 0) return false;
   const int bar = sidewaysBar_.last > 0 ? GetSystemMetrics(SM_CYHSCROLL) : 0;
@@ -50,8 +50,8 @@ bool TapeView::needsSidewaysBar() const {
   return height >= kLeastLinesAboveBar * letters_.lineHeight() + GetSystemMetrics(SM_CYHSCROLL);
 }
 
-// A padded line needs the place of the bar, which comes when there is something to scroll; figures
-// that stand at the right would jump then, and always have it beside them.
+// Padded lines use the space of the scroll bar until there is something to scroll. Right-aligned
+// digits would jump then, so with them the bar is always visible.
 void TapeView::updateScrollBars() {
   ScrollBar sideways;
   if (needsSidewaysBar()) {
@@ -67,7 +67,7 @@ void TapeView::updateScrollBars() {
                   {alignment_ == Alignment::Right, lines_.count() - 1, page, firstLine_});
 }
 
-// The system paints the whole scroll bar for each call, also when it says nothing new.
+// The system repaints the whole scroll bar for each call, even without a change.
 void TapeView::updateScrollBar(int bar, ScrollBar& shown, const ScrollBar& wanted) {
   if (shown == wanted) return;
   const bool comesBack = wanted.always && !shown.always;

@@ -22,7 +22,7 @@ void TapeView::select(int anchor, int caret) {
   caret_ = caret;
   bringCaretIntoView();
   refresh();
-  // As the system's own box tells a screen reader.
+  // As the system's own box does for screen readers.
   NotifyWinEvent(EVENT_OBJECT_TEXTSELECTIONCHANGED, window_, OBJID_CLIENT, CHILDID_SELF);
 }
 
@@ -49,8 +49,8 @@ void TapeView::setColors(COLORREF background, COLORREF text) {
   refresh();
 }
 
-// A window that grows shows what went before rather than nothing behind the last line; one in which
-// the last line was seen goes on showing it.
+// A window that grows shows earlier lines rather than empty space after the last; if the last line
+// was visible, it stays visible.
 void TapeView::resize() {
   const bool atEnd = firstLine_ + linesBefore_ >= lines_.count();
   linesBefore_ = linesInView();
@@ -89,7 +89,7 @@ void TapeView::bringCaretIntoView() {
   const int line = lines_.lineOf(caret_);
   firstLine_ = std::clamp(firstLine_, line - linesInView() + 1, line);
   firstLine_ = std::clamp(firstLine_, 0, lastFirstLine());
-  // While nobody edits, the lines are read from where they are aligned.
+  // Without the focus, the view scrolls back to the aligned side.
   if (!hasCaret_) shift_ = 0;
   if (!hasCaret_) return;
   const RECT area = textArea();

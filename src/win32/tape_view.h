@@ -31,7 +31,7 @@ class TapeView {
   int selectionStart() const { return caret_ < anchor_ ? caret_ : anchor_; }
   int selectionEnd() const { return caret_ < anchor_ ? anchor_ : caret_; }
   int firstLine() const { return firstLine_; }
-  /// How far, in pixels, the lines are drawn to the left of their place.
+  /// How far the lines are scrolled to the left, in pixels.
   int shift() const { return shift_; }
 
   void replace(int start, int length, std::wstring_view text);
@@ -39,33 +39,32 @@ class TapeView {
   void select(int anchor, int caret);
   void setAlignment(controls::Alignment alignment);
   void setColors(COLORREF background, COLORREF text);
-  /// Makes the letters so large that `columns` of them fill the width, beside the scroll bar.
+  /// Scales the font so that `columns` characters fill the width beside the scroll bar.
   void fitLetters(const Fonts& fonts, const controls::FontLayout& font, int columns, int width);
   HFONT font() const { return letters_.font(); }
 
-  /// The window has another size.
+  /// The size of the window has changed.
   void resize();
   void scrollTo(int firstLine);
-  /// Scrolls by so many columns, to the right when it is positive.
+  /// Scrolls by this many columns, to the right if positive.
   void scrollSideways(int columns);
-  /// What the user does with one of the bars.
+  /// The user has operated a scroll bar.
   void takeScrollBar(int bar, int action);
   int linesInView() const;
   void bringCaretIntoView();
 
-  /// The place in the text at a place of the window, and back.
+  /// Converts a position in the window to a position in the text, and back.
   int placeAt(POINT point) const;
   POINT pointOf(int place) const;
-  /// Where the text is seen: within the margins.
+  /// The area of the text, within the margins.
   RECT textArea() const;
 
   void paint(HDC context, const RECT& damaged) const;
   void showCaret();
   void hideCaret();
-  bool hasCaret() const { return hasCaret_; }
 
  private:
-  // What a scroll bar shows.
+  // The state of a scroll bar.
   struct ScrollBar {
     bool always = false;
     int last = -1;
@@ -96,15 +95,15 @@ class TapeView {
   TapeLines lines_;
   TapeLetters letters_;
   TapeInk ink_;
-  // The selection lies between the two; the caret is the end that moves.
+  // The selection is between the two; the caret is the end that moves.
   int anchor_ = 0;
   int caret_ = 0;
   int firstLine_ = 0;
-  // Of the window as it was before its size changed.
+  // The size of the window before it changed.
   int linesBefore_ = 0;
   int shift_ = 0;
   int margin_ = 1;
-  // What fills a line; a longer one can be scrolled sideways.
+  // The width of a full line; a longer one can be scrolled horizontally.
   int columns_ = 0;
   controls::Alignment alignment_ = controls::Alignment::Left;
   bool hasCaret_ = false;

@@ -36,7 +36,7 @@ ATOM registerClass(WNDPROC procedure) {
   return RegisterClassExW(&definition);
 }
 
-// A window with a button for Escape is a dialog: it is answered, not put aside.
+// A window with a cancel button is a dialog, which cannot be minimized.
 bool isDialog(const controls::WindowLayout& layout) {
   return std::any_of(layout.controls.begin(), layout.controls.end(),
                      [](const controls::ControlLayout& control) { return control.cancel; });
@@ -58,7 +58,7 @@ Window::Window(Desktop& desktop, const controls::WindowLayout& layout)
       fonts_(scale_) {
   if (!layout.menu.empty()) menu_.reset(CreateMenu());
   build();
-  // From here on the system destroys the menu with the window.
+  // From now on the system destroys the menu with the window.
   if (menu_) SetMenu(handle_, menu_.release());
   for (const auto& control : controls())
     toolTips_.add(NativeControl::of(*control).handle(), control->toolTip());
@@ -120,19 +120,19 @@ void Window::showOnTop() {
                SWP_NOACTIVATE | SWP_SHOWWINDOW);
 }
 
-// The system may leave the keys with another program. The window is then in front of the program's
-// own, and gets the keys as soon as the user comes back.
+// The system may leave the keyboard with another program. The window is then in front of the
+// program's other windows, and gets the keyboard when the user returns.
 void Window::bringToFront() {
   SetForegroundWindow(handle_);
   SetActiveWindow(handle_);
   noteActivated();
-  // A window that was active while it took no input has not given the keys to its control.
+  // A window that was activated while disabled has not given the focus to its control.
   if (GetActiveWindow() == handle_) focusNative();
 }
 
 void Window::handOver(controls::Window& next) {
   if (isInFront()) return controls::Window::handOver(next);
-  // Another program has the keys, and keeps them.
+  // Another program has the keyboard and keeps it.
   static_cast<Window&>(next).noteActivated();
 }
 

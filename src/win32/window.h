@@ -20,7 +20,7 @@ class Window : public controls::Window {
   ~Window() override;
 
   HWND handle() const { return handle_; }
-  /// It has been made, and its end has not begun.
+  /// Whether it has been created and is not being destroyed.
   bool isAlive() const { return GetWindowLongPtrW(handle_, GWLP_USERDATA) != 0; }
   const Scale& scale() const { return scale_; }
   Fonts& fonts() { return fonts_; }
@@ -42,8 +42,7 @@ class Window : public controls::Window {
   void showFocus(controls::Control& control) override;
 
  private:
-  // Where the window stands, in pixels of a resolution: its frame's corner and the size of its
-  // client area.
+  // The position of the frame and the size of the client area, in pixels at a resolution.
   struct Placement {
     LONG left = 0;
     LONG top = 0;
@@ -54,7 +53,7 @@ class Window : public controls::Window {
     bool operator==(const Placement&) const = default;
   };
 
-  // What was asked for, and what the system made of it.
+  // The requested bounds and the resulting placement.
   struct Placed {
     controls::Rect bounds;
     Placement placement;
@@ -80,7 +79,6 @@ class Window : public controls::Window {
   Placement measure() const;
   void noteGeometry();
   void notePlacement(const Placed& before);
-  void noteShownState();
   void takeResolution(const Message& message);
   void takeTextSize();
   void rescale(const Scale& scale, const RECT& suggested);
@@ -88,16 +86,16 @@ class Window : public controls::Window {
 
   Desktop& screen_;
   HWND handle_ = nullptr;
-  // Of the monitor that the window is on, for its size and all that is in it; and of the screen as
-  // a whole, for its place, which is the same on all monitors.
+  // The scale of the window's monitor, for its size and contents, and that of the whole screen, for
+  // its position.
   Scale scale_;
   Scale screenScale_ = Scale::ofScreen();
   Fonts fonts_;
   ToolTips toolTips_;
   OwnedMenu menu_;
-  // As it was last placed or seen.
+  // The last known placement.
   Placement placed_;
-  // As it stood before it was maximized.
+  // The placement before it was maximized.
   Placed normal_;
   bool maximized_ = false;
   // The user is dragging its frame.

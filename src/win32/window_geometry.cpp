@@ -21,9 +21,8 @@ SIZE Window::frameSize() const {
   return {frame.right - frame.left, frame.bottom - frame.top};
 }
 
-// The frame that the system draws depends on the theme, the resolution of the monitor that the
-// window comes to stand on, and the lines that the menu takes in so narrow a window, so that the
-// first attempt may miss the wanted client area.
+// The system's frame depends on the theme, the resolution of the new monitor, and the number of
+// menu lines in a narrow window, so the first attempt may not result in the wanted client area.
 void Window::place() {
   constexpr int kAttempts = 4;
   SIZE frame = frameSize();
@@ -92,7 +91,7 @@ std::optional<LRESULT> Window::takeGeometry(const Message& message) {
   return result;
 }
 
-// The system comes back when the user has let go of the frame.
+// The system returns when the user has released the frame.
 LRESULT Window::takeSystemCommand(const Message& message) {
   constexpr WPARAM kCommand = 0xFFF0;
   const bool before = std::exchange(dragging_, (message.wParam & kCommand) == SC_SIZE);
@@ -101,7 +100,7 @@ LRESULT Window::takeSystemCommand(const Message& message) {
   return result;
 }
 
-// A stored size is applied as it stands, even one smaller than the system likes.
+// A stored size is applied unchanged, even one smaller than the system's minimum.
 void Window::limitDragging(MINMAXINFO& limits) const {
   constexpr LONG kLargest = 32767;
   limits.ptMinTrackSize = {0, 0};
@@ -130,8 +129,8 @@ void Window::noteGeometry() {
   }
 }
 
-// What has not changed in pixels has not changed in twips, which are finer. The system keeps the
-// size of a window in pixels, whatever the resolution of the screen that it comes back to.
+// If the pixels have not changed, the finer twips are kept. The system keeps the size of a window
+// in pixels, whatever the resolution of the screen to which it returns.
 void Window::notePlacement(const Placed& before) {
   placed_ = measure();
   const bool rescaled = placed_.dpi != before.placement.dpi;
@@ -150,14 +149,14 @@ void Window::notePlacement(const Placed& before) {
   noteBounds(seen);
 }
 
-// The window keeps its size in twips on the new monitor, and everything in it with it; a maximized
-// one goes on filling its screen, and one that is an icon is put right when it is restored.
+// The window and its contents keep their size in twips on the new monitor; a maximized one still
+// fills its screen, and a minimized one is adjusted when it is restored.
 void Window::takeResolution(const Message& message) {
   rescale(Scale::at(LOWORD(message.wParam), handle_, layout().place),
           *reinterpret_cast<const RECT*>(message.lParam));
 }
 
-// The user has chosen another size of text, perhaps.
+// The user may have changed the text size.
 void Window::takeTextSize() {
   const Scale now = Scale::at(scale_.monitorDpi(), handle_, layout().place);
   if (now.dpi() == scale_.dpi()) return;

@@ -74,7 +74,7 @@ std::optional<LRESULT> Window::takeControl(const Message& message) {
     if (!control) return {};
     return control->customDraw(reinterpret_cast<NMCUSTOMDRAW&>(header));
   }
-  // A command that comes from outside while a dialog stands in front is too late or too early.
+  // Ignores commands from outside while a dialog is in front.
   if (!IsWindowEnabled(handle_)) return 0;
   if (message.lParam) {
     NativeControl* control = NativeControl::find(*this, reinterpret_cast<HWND>(message.lParam));

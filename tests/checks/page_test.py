@@ -99,7 +99,9 @@ class Page(unittest.TestCase):
 
     def test_says_what_is_new_in_this_version_and_nothing_unreleased(self):
         log = (tree.ROOT / "CHANGELOG.md").read_text(encoding="utf-8")
-        section = next(part for part in log.split("\n## ") if part.startswith(version() + "\n"))
+        heading = "\n## %s\n" % version()
+        self.assertIn(heading, log, "the change log has no section of this version")
+        section = log.partition(heading)[2].partition("\n## ")[0]
         self.assertEqual(self.text.partition('id="new"')[2].count("<li>"), len(re.findall("^- ", section, re.M)))
 
     @unittest.skipUnless(first_of(BROWSERS), "there is no browser here")

@@ -8,7 +8,7 @@
 #include "contract/contract_test.h"
 #include "win32/native_control.h"
 
-// What other programs do to the windows: input methods, screen readers, macro tools, and mistakes.
+// Messages of other programs: input methods, screen readers, macro tools, and errors.
 namespace contract {
 
 namespace {
@@ -31,7 +31,7 @@ LRESULT CALLBACK passThrough(HWND window, UINT message, WPARAM wParam, LPARAM lP
   return CallWindowProcW(inner, window, message, wParam, lParam);
 }
 
-TEST_F(NativeOutside, ControlThatAnotherHasSubclassedGoesOnWorking) {
+TEST_F(NativeOutside, SubclassedControlKeepsWorking) {
   button_.onClick = [this] { note("button"); };
   toggle_.onClick = [this] { note("toggle"); };
   for (controls::Control* control : std::initializer_list<controls::Control*>{&button_, &toggle_}) {
@@ -43,8 +43,8 @@ TEST_F(NativeOutside, ControlThatAnotherHasSubclassedGoesOnWorking) {
   EXPECT_EQ(takeLog(), (Log{"button", "toggle"}));
 }
 
-// Their lowest eight bits are those of "G".
-TEST_F(NativeOutside, LetterBeyondAsciiWithAltPressesNothing) {
+// A letter whose lowest eight bits are those of "G".
+TEST_F(NativeOutside, AltWithANonAsciiLetterDoesNothing) {
   constexpr LPARAM kWithAlt = 1 << 29;
   button_.onClick = [this] { note("click"); };
   for (const WPARAM letter : {0x0147, 0x0148, 0x0647, 0x0167})
@@ -54,7 +54,7 @@ TEST_F(NativeOutside, LetterBeyondAsciiWithAltPressesNothing) {
   EXPECT_TRUE(first_.focused());
 }
 
-TEST_F(NativeOutside, NoTextIsAnEmptyOne) {
+TEST_F(NativeOutside, NullTextIsEmpty) {
   for (controls::TextBox* box : {&first_, &tape_}) {
     box->setText("123");
     box->select(1, 1);
@@ -65,7 +65,7 @@ TEST_F(NativeOutside, NoTextIsAnEmptyOne) {
   }
 }
 
-TEST_F(NativeOutside, TapeAnswersQuestionsThatMakeNoSense) {
+TEST_F(NativeOutside, TapeAnswersInvalidQueries) {
   tape_.setText("one\r\ntwo");
   std::array<wchar_t, 16> line = {15};
   const auto buffer = reinterpret_cast<LPARAM>(line.data());
@@ -77,7 +77,7 @@ TEST_F(NativeOutside, TapeAnswersQuestionsThatMakeNoSense) {
   EXPECT_EQ(send(tape_, WM_GETTEXT, 10, 0), 0);
 }
 
-TEST_F(NativeOutside, TapeKeepsASelectionWithinItsText) {
+TEST_F(NativeOutside, TapeClampsASelectionToItsText) {
   tape_.setText("one\r\ntwo");
   send(tape_, EM_SETSEL, 0, -1);
   EXPECT_EQ(tape_.selLength(), 8);
@@ -91,7 +91,7 @@ TEST_F(NativeOutside, TapeKeepsASelectionWithinItsText) {
   EXPECT_EQ(tape_.selLength(), 0);
 }
 
-TEST_F(NativeOutside, TimerThatIsNotTheTapesSelectsNothing) {
+TEST_F(NativeOutside, ForeignTimerSelectsNothing) {
   tape_.setText("one\r\ntwo");
   SetCursorPos(0, 0);
   tape_.moveCaretToEnd();
@@ -100,7 +100,7 @@ TEST_F(NativeOutside, TimerThatIsNotTheTapesSelectsNothing) {
   EXPECT_EQ(tape_.selStart(), 8);
 }
 
-TEST_F(NativeOutside, BoxHoldsWhatItHeldWhateverOthersSay) {
+TEST_F(NativeOutside, OtherProgramsCannotChangeHowABoxWorks) {
   send(first_, EM_SETLIMITTEXT, 1);
   send(first_, EM_SETWORDBREAKPROC, 0, 1);
   send(first_, EM_SETHANDLE, 1);
@@ -110,7 +110,7 @@ TEST_F(NativeOutside, BoxHoldsWhatItHeldWhateverOthersSay) {
   EXPECT_EQ(first_.text(), "123");
 }
 
-TEST_F(NativeOutside, NobodyElseEndsAWindow) {
+TEST_F(NativeOutside, DestroyMessagesFromOutsideAreIgnored) {
   for (const UINT message : {WM_DESTROY, WM_NCDESTROY}) {
     for (const auto& control : window_->controls()) send(*control, message);
     SendMessageW(frame(), message, 0, 0);
@@ -123,7 +123,7 @@ TEST_F(NativeOutside, NobodyElseEndsAWindow) {
   EXPECT_EQ(first_.text(), "7");
 }
 
-TEST_F(NativeOutside, MessagesThatPointToNothingDoNothing) {
+TEST_F(NativeOutside, MessagesWithInvalidPointersAreIgnored) {
   for (const LPARAM nowhere : {0, 1, -1}) {
     SendMessageW(frame(), WM_NOTIFY, 0, nowhere);
     SendMessageW(frame(), WM_DPICHANGED, MAKEWPARAM(96, 96), nowhere);
@@ -137,7 +137,7 @@ TEST_F(NativeOutside, MessagesThatPointToNothingDoNothing) {
   EXPECT_EQ(first_.text(), "7");
 }
 
-TEST_F(NativeOutside, CommandIsNotTakenBehindADialog) {
+TEST_F(NativeOutside, CommandsBehindADialogAreIgnored) {
   window_->menuItem("mnuDeep").onClick = [this] { note("deep"); };
   button_.onClick = [this] { note("click"); };
   EnableWindow(frame(), FALSE);

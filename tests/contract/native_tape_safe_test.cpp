@@ -10,7 +10,7 @@
 #include "win32/paths.h"
 #include "win32/tape_safe.h"
 
-// What only a disk can get wrong.
+// Tests that make sense only for files on a disk.
 namespace contract {
 namespace {
 
@@ -42,7 +42,7 @@ class NativeTapeSafe : public testing::Test {
 
   std::string lostTapes() const { return win32::TapeSafe(folder_).lostTapes(); }
 
-  /// The files in the folder of the tapes.
+  /// The files in the tape folder.
   std::vector<std::wstring> files() const {
     std::vector<std::wstring> names;
     std::error_code absent;
@@ -59,7 +59,7 @@ class NativeTapeSafe : public testing::Test {
   std::wstring folder_;
 };
 
-TEST_F(NativeTapeSafe, KeepsTheTapeOfARunThatHasEndedWithoutAWord) {
+TEST_F(NativeTapeSafe, KeepsTheTapeOfAKilledRun) {
   {
     win32::TapeSafe run(folder_);
     post(run, "\r\n1.00 + ");
@@ -72,7 +72,7 @@ TEST_F(NativeTapeSafe, KeepsTheTapeOfARunThatHasEndedWithoutAWord) {
   EXPECT_FALSE(folderExists());
 }
 
-TEST_F(NativeTapeSafe, LeavesNothingBehindWhenTheTapeHasEndedAsItsUserWished) {
+TEST_F(NativeTapeSafe, LeavesNothingBehindAfterANormalEnd) {
   win32::TapeSafe run(folder_);
   EXPECT_FALSE(folderExists()) << "before the first line";
   post(run, "\r\n1.00 + ");
@@ -80,7 +80,7 @@ TEST_F(NativeTapeSafe, LeavesNothingBehindWhenTheTapeHasEndedAsItsUserWished) {
   EXPECT_FALSE(folderExists());
 }
 
-TEST_F(NativeTapeSafe, TwoRunsSideBySideHaveEachTheirOwn) {
+TEST_F(NativeTapeSafe, ParallelRunsHaveSeparateFiles) {
   win32::TapeSafe one(folder_);
   post(one, "\r\n1.00 + ");
   {
@@ -97,7 +97,7 @@ TEST_F(NativeTapeSafe, TwoRunsSideBySideHaveEachTheirOwn) {
   EXPECT_FALSE(folderExists());
 }
 
-TEST_F(NativeTapeSafe, OfTwoRunsThatStartAtOnceOneIsToldOfALostTape) {
+TEST_F(NativeTapeSafe, OfTwoSimultaneousStartsOneFindsALostTape) {
   { post(*std::make_unique<win32::TapeSafe>(folder_), "\r\n1.00 + "); }
   win32::TapeSafe one(folder_);
   win32::TapeSafe other(folder_);
@@ -106,7 +106,7 @@ TEST_F(NativeTapeSafe, OfTwoRunsThatStartAtOnceOneIsToldOfALostTape) {
   one.forgetLostTapes();
 }
 
-TEST_F(NativeTapeSafe, AFileThatAnotherProgramReadsIsNotTakenForOneOfARunThatGoesOn) {
+TEST_F(NativeTapeSafe, FileOpenInAnotherProgramIsNotTakenForAnActiveRun) {
   { post(*std::make_unique<win32::TapeSafe>(folder_), "\r\n1.00 + "); }
   const HANDLE reader = CreateFileW(files().at(0).c_str(), GENERIC_READ,
                                     FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
@@ -116,8 +116,8 @@ TEST_F(NativeTapeSafe, AFileThatAnotherProgramReadsIsNotTakenForOneOfARunThatGoe
   CloseHandle(reader);
 }
 
-// As where the disk cannot be written to: the folder cannot be made.
-TEST_F(NativeTapeSafe, WithoutAPlaceForItTheTapeIsNotKept) {
+// Prevents the folder from being created, as on a read-only disk.
+TEST_F(NativeTapeSafe, WithoutAFolderTheTapeIsNotKept) {
   CreateDirectoryW(parent_.c_str(), nullptr);
   const HANDLE file =
       CreateFileW(folder_.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, 0, nullptr);

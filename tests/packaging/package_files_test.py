@@ -126,11 +126,12 @@ class Program(EitherProgram, unittest.TestCase):
     def test_loads_libraries_from_the_system_folder_only(self):
         self.assertIn("SetDefaultDllDirectories", self.program.imports()["kernel32.dll"])
 
-    def test_uses_the_current_visual_style(self):
-        parts = [attributes for name, attributes, _ in local_names(self.manifest())
+    def test_its_manifest_names_its_version_and_the_current_visual_style(self):
+        parts = [(attributes["name"], attributes["version"])
+                 for name, attributes, _ in local_names(self.manifest())
                  if name == "assemblyIdentity"]
-        self.assertIn(("Microsoft.Windows.Common-Controls", "6.0.0.0"),
-                      [(part["name"], part["version"]) for part in parts])
+        self.assertEqual(parts, [("Tallyrex", packages.VERSION + ".0"),
+                                 ("Microsoft.Windows.Common-Controls", "6.0.0.0")])
 
     def test_redraws_for_the_scaling_of_each_monitor(self):
         awareness = [text for name, _, text in local_names(self.manifest())

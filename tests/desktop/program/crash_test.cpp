@@ -9,18 +9,17 @@ constexpr wchar_t kQuestion[] =
     L"Tallyrex did not end normally the last time.  Its tape was kept.  Open it in Notepad?";
 constexpr int kPostings = 1000;
 
-// What ends the program is done to the process itself; what is seen afterwards is what its user
-// sees.
+// Ends the process by various means, and then checks what its user sees.
 class CrashTest : public ProgramTest {
  protected:
   static std::wstring linesOfTape() { return textOf(program().tape()); }
-  /// As the tape prints a whole amount.
+  /// A whole amount as printed on the tape.
   static std::wstring withPlaces(std::wstring amount) {
     if (amount.size() > 3) amount.insert(amount.size() - 3, L",");
     return amount + L".00";
   }
 
-  /// Posts a thousand amounts, and gives the tape with them.
+  /// Posts a thousand amounts, and returns the expected tape.
   std::wstring postAThousand() {
     start();
     chooseFromMenu('W', "OA");
@@ -39,7 +38,7 @@ class CrashTest : public ProgramTest {
     return tape;
   }
 
-  /// Starts the program again, which asks its question once its window is there.
+  /// Starts the program again, which asks its question when its window has appeared.
   void startAgain() {
     program().launch();
     awaitDialog();
@@ -66,20 +65,20 @@ class CrashTest : public ProgramTest {
   }
 };
 
-TEST_F(CrashTest, TheTapeOfAProcessThatWasEndedOpensInNotepad) {
+TEST_F(CrashTest, TapeOfAKilledProcessOpensInNotepad) {
   const std::wstring tape = postAThousand();
   EXPECT_EQ(keptTapes(program().name()).size(), 1u);
   program().kill();
   expectInNotepad(tape);
-  // The new run begins as always, and nothing is asked a second time.
+  // The new run begins as usual, and the question is not repeated.
   expectText(program().tape(), L"Top");
   close();
   start();
   EXPECT_EQ(program().dialog(), nullptr);
 }
 
-TEST_F(CrashTest, TheTapeOfAProcessThatRanIntoRubbishOpensInNotepad) {
-  // Nobody is to be asked about the crash: the process is to end.
+TEST_F(CrashTest, TapeOfACrashedProcessOpensInNotepad) {
+  // The process ends without an error dialog.
   MachineKey debugger(L"SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion\\AeDebug");
   if (!debugger.isWritable()) GTEST_SKIP() << "only an administrator can say what follows a crash";
   debugger.set(L"Debugger", L"none %ld %ld");
@@ -90,7 +89,7 @@ TEST_F(CrashTest, TheTapeOfAProcessThatRanIntoRubbishOpensInNotepad) {
   expectInNotepad(tape);
 }
 
-TEST_F(CrashTest, TheTapeOfAProcessWithoutMemoryOpensInNotepad) {
+TEST_F(CrashTest, TapeOfAProcessOutOfMemoryOpensInNotepad) {
   const std::wstring tape = postAThousand();
   if (!program().takeMemory()) GTEST_SKIP() << "its memory is not given by a library of its own";
   type("1+");
@@ -100,7 +99,7 @@ TEST_F(CrashTest, TheTapeOfAProcessWithoutMemoryOpensInNotepad) {
   expectInNotepad(tape);
 }
 
-TEST_F(CrashTest, NoIsAskedOnceToo) {
+TEST_F(CrashTest, AfterNoTheQuestionIsNotRepeated) {
   start();
   type("12+");
   await("a kept tape", [] { return keptTapes(program().name()).size() == 1; });
@@ -113,7 +112,7 @@ TEST_F(CrashTest, NoIsAskedOnceToo) {
   EXPECT_EQ(openedWindow(L"Notepad"), nullptr);
 }
 
-TEST_F(CrashTest, ANormalEndLeavesNothingBehind) {
+TEST_F(CrashTest, NormalEndLeavesNothingBehind) {
   start();
   type("12+");
   await("a kept tape", [] { return keptTapes(program().name()).size() == 1; });
