@@ -4,7 +4,7 @@ import unittest
 
 import tree
 
-# What each folder of src/ may include: whole folders, or single headers.
+# The folders that each folder of src/ may include.
 ALLOWED = {
     "common": {"common"},
     "controls": {"common", "controls"},
