@@ -50,7 +50,8 @@ void frmCalc::restoreSettings() {
 
 void frmCalc::activate() {
   if (stage_ != Stage::Restored) return;
-  place_.applyOnTop();
+  // A window that is not on top would flash in the corner.
+  if (place_.onTop()) place_.applyOnTop();
   tapeOptions_.applyPadding();
   chooseMode(machine_.chosenMode());
   machine_.clearTape();

@@ -2,9 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <memory>
 #include <string>
 
 #include "inmemory/desktop.h"
+#include "inmemory/window.h"
 #include "shell/frm_calc_layout.h"
 #include "shell/help_file.h"
 
@@ -29,6 +31,28 @@ class EmptyProgram : public Program {
   controls::Color focusColor() const override { return kDefaultFocusColor; }
   void setFocusColor(controls::Color) override {}
   std::string helpFile() const override { return ""; }
+};
+
+/// How often the system is asked to put a window on top, or no longer there.
+int onTopRequests = 0;
+
+class CountingWindow : public inmemory::Window {
+ public:
+  using inmemory::Window::Window;
+
+ protected:
+  void showOnTop() override {
+    ++onTopRequests;
+    inmemory::Window::showOnTop();
+  }
+};
+
+class CountingDesktop : public inmemory::Desktop {
+ public:
+  CountingDesktop() { onTopRequests = 0; }
+  std::unique_ptr<controls::Window> createWindow(const controls::WindowLayout& layout) override {
+    return std::make_unique<CountingWindow>(*this, layout);
+  }
 };
 
 // The main window, shown on a desktop.
@@ -76,6 +100,22 @@ TEST(MainWindow, DecimalsBoxKeepsTheFocusWhenTabIsReleased) {
   EXPECT_TRUE(txtDec.focused());
   txtDec.keyUp('5');
   EXPECT_TRUE(shown.box("txtEntry").focused());
+}
+
+TEST(MainWindow, IsNotMovedAtTheStartUnlessItIsAlwaysOnTop) {
+  {
+    const Shown<CountingDesktop> shown;
+    EXPECT_EQ(onTopRequests, 0);
+  }
+  CountingDesktop desktop;
+  desktop.settings().write("Settings", "frmCalcmnuWinAlwaysOnTop", "True");
+  EmptyProgram program;
+  frmCalc calc(desktop, program);
+  calc.show();
+  EXPECT_EQ(onTopRequests, 1);
+  EXPECT_TRUE(calc.window().onTop());
+  calc.window().menuItem("mnuWinAlwaysOnTop").choose();
+  EXPECT_EQ(onTopRequests, 2);
 }
 
 TEST(MainWindow, FailedCutLosesNothing) {
