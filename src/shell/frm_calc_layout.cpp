@@ -17,30 +17,30 @@ using controls::Twips;
 
 namespace {
 
-// Five rows of keys, with a little space below the row of the toggles. The clear and memory keys
-// form columns at the left; the digits are arranged as on a keypad, with the operators at their
-// right.
+// Five rows of keys. The clear and memory keys form columns at the left; the digits are arranged as
+// on a keypad, with the toggles above them and the operators at their right. Between two groups is
+// twice the gap that is between two keys. Edges are whole pixels at 100 percent.
 constexpr Twips kKeyHeight = 450;
-constexpr Twips kFirstRow = 400;
-constexpr Twips kDigitRow = 905;
+constexpr Twips kFirstRow = 435;
+constexpr Twips kDigitRow = 945;
 constexpr Twips kRowPitch = 480;
-constexpr Twips kDigitColumn = 1330;
-constexpr Twips kDigitWidth = 480;
-constexpr Twips kDigitPitch = 510;
-constexpr Twips kOperatorColumn = 2915;
-constexpr Twips kOperatorWidth = 500;
-constexpr Twips kOperatorPitch = 530;
+constexpr Twips kDigitColumn = 1290;
+constexpr Twips kDigitWidth = 495;
+constexpr Twips kDigitPitch = 525;
+constexpr Twips kOperatorColumn = 2895;
+constexpr Twips kOperatorWidth = 510;
+constexpr Twips kOperatorPitch = 540;
 
 constexpr Twips row(int index) {
   return index == 0 ? kFirstRow : kDigitRow + (index - 1) * kRowPitch;
 }
 
 constexpr Rect clearKey(int r) {
-  return {40, row(r), 690, kKeyHeight};
+  return {0, row(r), 690, kKeyHeight};
 }
 
 constexpr Rect memoryKey(int r, int rows = 1) {
-  return {760, row(r), 500, kKeyHeight + (rows - 1) * kRowPitch};
+  return {750, row(r), 480, kKeyHeight + (rows - 1) * kRowPitch};
 }
 
 constexpr Rect digitKey(int column, int r, int columns = 1) {
@@ -342,7 +342,7 @@ constexpr auto kControls = std::to_array<ControlLayout>({
     {.kind = ControlKind::TextBox,
      .name = "txtDec",
      .toolTip = "Number of decimal places allowed.",
-     .place = {3445, 0, 500, 375},
+     .place = {3435, 0, 510, 375},
      .tabIndex = 34,
      .font = kEntryFont,
      .accessibleName = "Decimal places"},

@@ -32,7 +32,7 @@ TEST_F(TextSize, EnlargesAWindowAndAllInItAtOnceAndNotItsTwips) {
   const HWND frame = window("frmCalc");
   const HWND key = control("frmCalc", "cmdNumber(7)");
   const SIZE before = clientSize(frame);
-  const SIZE keyBefore = clientSize(key);
+  const double keyWidth = tell("get cmdNumber(7) Width")["value"].get<double>() * 96 / 1440;
   const LONG fontBefore = fontOf(key).lfHeight;
   const auto width = tell("get frmCalc Width");
   for (const DWORD percent : {150UL, 225UL, 100UL}) {
@@ -41,7 +41,7 @@ TEST_F(TextSize, EnlargesAWindowAndAllInItAtOnceAndNotItsTwips) {
     const double factor = percent / 100.0;
     EXPECT_NEAR(clientSize(frame).cx, before.cx * factor, 1.0) << percent;
     EXPECT_NEAR(clientSize(frame).cy, before.cy * factor, 1.0) << percent;
-    EXPECT_NEAR(clientSize(key).cx, keyBefore.cx * factor, 1.5) << percent;
+    EXPECT_NEAR(clientSize(key).cx, keyWidth * factor, 1.0) << percent;
     EXPECT_NEAR(fontOf(key).lfHeight, fontBefore * factor, 1.0) << percent;
     EXPECT_EQ(tell("get frmCalc Width"), width) << percent;
   }

@@ -67,6 +67,27 @@ TEST(FrmCalcLayout, ClearAndMemoryKeysFormColumnsBesideTheDigits) {
     EXPECT_EQ(bottom(placeOf(layout, name)), bottom(placeOf(layout, "cmdPeriod"))) << name;
 }
 
+TEST(FrmCalcLayout, EntryKeysDecimalsAndTapeShareTheirEdges) {
+  const auto& layout = frmCalcLayout();
+  const auto& tape = placeOf(layout, "txtTape");
+  const auto& decimals = placeOf(layout, "txtDec");
+  EXPECT_EQ(placeOf(layout, "cmdClearCurrent").left, placeOf(layout, "txtEntry").left);
+  EXPECT_EQ(placeOf(layout, "cmdArrow").left, decimals.left);
+  EXPECT_EQ(right(placeOf(layout, "cmdArrow")), right(decimals));
+  EXPECT_EQ(bottom(placeOf(layout, "cmdEquals")), bottom(tape));
+  EXPECT_EQ(bottom(tape), layout.place.height - layout.frameHeight());
+  EXPECT_EQ(right(tape), layout.place.width - controls::kFrameWidth);
+}
+
+TEST(FrmCalcLayout, EdgesAreWholePixelsAt100Percent) {
+  for (const auto& control : frmCalcLayout().controls) {
+    if (control.kind != kButton && control.kind != kToggle) continue;
+    for (const Twips edge :
+         {control.place.left, control.place.top, control.place.width, control.place.height})
+      EXPECT_EQ(edge % controls::kTwipsPerPixel, 0) << control.name;
+  }
+}
+
 TEST(FrmCalcLayout, KeysOfAKindHaveTheSameSize) {
   const auto& layout = frmCalcLayout();
   const auto& digit = placeOf(layout, "cmdNumber(5)");
