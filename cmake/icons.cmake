@@ -5,7 +5,8 @@ find_program(TALLYREX_RSVG_CONVERT rsvg-convert)
 find_program(TALLYREX_ICOTOOL icotool)
 
 # tallyrex_render_icon(DRAWING.svg SIZES 16 32 ... [SMALL DRAWING-FOR-LESS-THAN-32.svg])
-# renders DRAWING.svg into ${CMAKE_BINARY_DIR}/icons/DRAWING.ico.
+# renders DRAWING.svg into ${CMAKE_BINARY_DIR}/icons/DRAWING.ico. Where there is a DRAWING-SIZE.svg, that
+# size is rendered from it.
 function(tallyrex_render_icon drawing)
   cmake_parse_arguments(PARSE_ARGV 1 arg "" "SMALL" "SIZES")
   get_filename_component(drawing ${drawing} ABSOLUTE)
@@ -23,16 +24,22 @@ function(tallyrex_render_icon drawing)
 
   set(renderings)
   set(pictures)
+  set(sources)
   foreach(size ${arg_SIZES})
     set(source ${drawing})
     if(arg_SMALL AND size LESS 32)
       set(source ${arg_SMALL})
     endif()
+    string(REPLACE .svg -${size}.svg own ${drawing})
+    if(EXISTS ${own})
+      set(source ${own})
+    endif()
+    list(APPEND sources ${source})
     set(picture ${folder}/${name}-${size}.png)
     list(APPEND renderings COMMAND ${TALLYREX_RSVG_CONVERT} --width ${size} --height ${size}
                                    --output ${picture} ${source})
     # Large images stay compressed: as bitmaps they would be larger than the program.
-    if(size LESS 48)
+    if(size LESS 40)
       list(APPEND pictures ${picture})
     else()
       list(APPEND pictures --raw=${picture})
@@ -41,7 +48,7 @@ function(tallyrex_render_icon drawing)
 
   add_custom_command(OUTPUT ${folder}/${name}.ico ${renderings}
                      COMMAND ${TALLYREX_ICOTOOL} --create --output=${folder}/${name}.ico ${pictures}
-                     DEPENDS ${drawing} ${arg_SMALL}
+                     DEPENDS ${sources}
                      COMMENT "Rendering the icon ${name}"
                      VERBATIM)
 endfunction()
