@@ -218,6 +218,7 @@ constexpr auto kControls = std::to_array<ControlLayout>({
      .tabIndex = 22,
      .font = kFont,
      .accessibleName = "Print to tape",
+     .spoken = true,
      .icon = "print"},
     {.kind = kButton,
      .name = "cmdClearAll",

@@ -23,6 +23,8 @@ void frmAnnuity::print() {
     if (answer != controls::kAnswerNo) return;
   }
   program_.printToTape(record(), kWidthWithTape);
+  // This window may cover the tape.
+  cmdPrintToTape.confirm("Sent to the tape");
 }
 
 // Prints what the user sees: no sign is changed.

@@ -23,6 +23,10 @@ class ClickControl : public Control {
 class Button : public ClickControl {
  public:
   using ClickControl::ClickControl;
+
+  /// Shows for a moment that the click has been carried out, and has a screen reader read out the
+  /// text.
+  virtual void confirm(std::string_view) {}
 };
 
 /// A button that stays down until it is pressed again.

@@ -40,7 +40,7 @@ struct ControlLayout {
   /// The accessible name while the key has a color of its own; empty if the color means nothing.
   std::string_view litName = "";
   KeyKind keyKind = KeyKind::Plain;
-  /// A label that a screen reader reads out whenever its text changes.
+  /// A label or button that a screen reader reads out whenever its text changes.
   bool spoken = false;
   /// The icon of a picture button.
   std::string_view icon = "";

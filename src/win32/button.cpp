@@ -2,9 +2,16 @@
 
 #include <utility>
 
+#include "win32/live_region.h"
 #include "win32/text.h"
 
 namespace win32 {
+namespace {
+
+constexpr UINT_PTR kConfirmationTimer = 1;
+constexpr UINT kConfirmationTime = 1500;
+
+}  // namespace
 
 Button::Button(Window& frame, const controls::ControlLayout& layout)
     : Native(frame, layout, {L"BUTTON", BS_PUSHBUTTON, 0, keyName(layout, layout.caption)}),
@@ -15,7 +22,28 @@ void Button::takeNotification(UINT code) {
 }
 
 LRESULT Button::customDraw(NMCUSTOMDRAW& draw) {
-  return face_.draw(draw, false);
+  return face_.draw(draw, confirmation_.empty() ? KeyFace::Shows::Key : KeyFace::Shows::CheckMark);
+}
+
+void Button::confirm(std::string_view text) {
+  showConfirmation(text);
+  speak(handle());
+  SetTimer(handle(), kConfirmationTimer, kConfirmationTime, nullptr);
+}
+
+void Button::showConfirmation(std::string_view text) {
+  confirmation_ = wide(text);
+  putText();
+  InvalidateRect(handle(), nullptr, TRUE);
+}
+
+std::optional<LRESULT> Button::take(const Message& message) {
+  if (message.id == WM_GETOBJECT && Native::layout().spoken && !std::exchange(announced_, true))
+    announceSpoken(handle());
+  if (message.id != WM_TIMER || message.wParam != kConfirmationTimer) return Native::take(message);
+  KillTimer(handle(), kConfirmationTimer);
+  showConfirmation("");
+  return 0;
 }
 
 void Button::refresh() {
@@ -24,6 +52,7 @@ void Button::refresh() {
 }
 
 std::wstring Button::windowText() const {
+  if (!confirmation_.empty()) return confirmation_;
   const bool lit = backColor() != controls::Color::buttonFace();
   if (lit && !Native::layout().litName.empty()) return wide(Native::layout().litName);
   return keyName(Native::layout(), caption());
@@ -45,7 +74,7 @@ void ToggleButton::takeNotification(UINT code) {
 }
 
 LRESULT ToggleButton::customDraw(NMCUSTOMDRAW& draw) {
-  return face_.draw(draw, value() == 1);
+  return face_.draw(draw, value() == 1 ? KeyFace::Shows::KeyDown : KeyFace::Shows::Key);
 }
 
 void ToggleButton::refresh() {

@@ -14,13 +14,20 @@ class Button : public Native<controls::Button> {
   void takeNotification(UINT code) override;
   LRESULT customDraw(NMCUSTOMDRAW& draw) override;
   void refresh() override;
+  void confirm(std::string_view text) override;
 
  protected:
+  std::optional<LRESULT> take(const Message& message) override;
   std::wstring windowText() const override;
   void showBackColor() override;
 
  private:
+  void showConfirmation(std::string_view text);
+
   KeyFace face_;
+  // Empty except for the moment after a confirmed click.
+  std::wstring confirmation_;
+  bool announced_ = false;
 };
 
 /// A button that stays down.

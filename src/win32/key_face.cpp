@@ -58,12 +58,14 @@ std::wstring KeyFace::text() const {
   return face_.empty() ? wide(key_.caption()) : face_;
 }
 
-LRESULT KeyFace::draw(const NMCUSTOMDRAW& draw, bool down) const {
+LRESULT KeyFace::draw(const NMCUSTOMDRAW& draw, Shows shows) const {
   if (draw.dwDrawStage != CDDS_PREPAINT) return CDRF_DODEFAULT;
-  const KeyState state = stateOf(draw, down);
+  const KeyState state = stateOf(draw, shows != Shows::Key);
   const KeyColors colors = keyColors(key_.layout().keyKind, key_.backColor(), state);
   drawShape(draw, state, colors);
-  if (icon_) {
+  if (shows == Shows::CheckMark) {
+    drawCheckMark(draw, colors.text);
+  } else if (icon_) {
     drawIcon(draw);
   } else {
     drawText(draw, colors.text);
@@ -120,6 +122,20 @@ void KeyFace::drawIcon(const NMCUSTOMDRAW& draw) const {
   } else {
     DrawIconEx(draw.hdc, left, top, icon_.get(), size, size, 0, nullptr, DI_NORMAL);
   }
+}
+
+// As large as the icon in whose place it is.
+void KeyFace::drawCheckMark(const NMCUSTOMDRAW& draw, COLORREF color) const {
+  const int size = iconSize();
+  const LONG x = draw.rc.left + (draw.rc.right - draw.rc.left - size) / 2;
+  const LONG y = draw.rc.top + (draw.rc.bottom - draw.rc.top - size) / 2;
+  const POINT mark[] = {{x + size * 5 / 32, y + size * 17 / 32},
+                        {x + size * 13 / 32, y + size * 25 / 32},
+                        {x + size * 27 / 32, y + size * 8 / 32}};
+  const Owned<HPEN, DeleteGdiObject> pen(CreatePen(PS_SOLID, size / 8, color));
+  const HGDIOBJ before = SelectObject(draw.hdc, pen.get());
+  Polyline(draw.hdc, mark, 3);
+  SelectObject(draw.hdc, before);
 }
 
 }  // namespace win32

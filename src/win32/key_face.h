@@ -26,8 +26,11 @@ class KeyFace {
 
   /// The resolution or the system's colours have changed.
   void refresh();
-  /// Draws it in the place of the native button; `down` is a toggle's.
-  LRESULT draw(const NMCUSTOMDRAW& draw, bool down) const;
+  /// A key is drawn with its face; one that is down, or that confirms a click with a check mark,
+  /// has the colors of a pressed toggle.
+  enum class Shows { Key, KeyDown, CheckMark };
+  /// Draws it in place of the native button.
+  LRESULT draw(const NMCUSTOMDRAW& draw, Shows shows) const;
 
  private:
   std::wstring text() const;
@@ -35,6 +38,7 @@ class KeyFace {
   UINT textFormat(HWND button) const;
   void drawText(const NMCUSTOMDRAW& draw, COLORREF color) const;
   void drawIcon(const NMCUSTOMDRAW& draw) const;
+  void drawCheckMark(const NMCUSTOMDRAW& draw, COLORREF color) const;
   int iconSize() const;
 
   Window& frame_;

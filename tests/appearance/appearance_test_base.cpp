@@ -46,6 +46,16 @@ HWND AppearanceTest::control(const std::string& window, const std::string& name)
   return handle;
 }
 
+void AppearanceTest::openAnsweredLoan() {
+  tell("menu mnuWinFinCalcLoan");
+  for (const char* keys : {"\"30\\r\"", "\"7.5\\r\""}) tell(std::string("type ") + keys);
+  tell("focus frmAnnuity.txtPV");
+  tell("type \"100000\"");
+  tell("focus frmAnnuity.txtFV");
+  tell("type \"0\"");
+  tell("click frmAnnuity.cmdCalculate");
+}
+
 void AppearanceTest::setResolution(HWND window, int dpi) {
   setResolution(window, dpi, placeOf(window));
 }

@@ -19,6 +19,9 @@ class AppearanceTest : public desktop::DesktopTest {
   HWND window(const std::string& name);
   HWND control(const std::string& window, const std::string& name);
 
+  /// Opens the loan calculator and has it answer, so that each of its controls is visible.
+  void openAnsweredLoan();
+
   /// Tells the window that its monitor has another resolution, as the system does.
   static void setResolution(HWND window, int dpi);
   /// The same with a place for the window, which is the system's suggestion.

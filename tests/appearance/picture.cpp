@@ -25,8 +25,18 @@ Picture::Picture(HWND window) {
   GetClientRect(window, &client);
   width_ = client.right;
   height_ = client.bottom;
-  points_.resize(static_cast<std::size_t>(width_) * static_cast<std::size_t>(height_));
   const HDC context = GetDC(window);
+  copyFrom(context);
+  ReleaseDC(window, context);
+}
+
+Picture::Picture(HDC context, SIZE size)
+    : width_(static_cast<int>(size.cx)), height_(static_cast<int>(size.cy)) {
+  copyFrom(context);
+}
+
+void Picture::copyFrom(HDC context) {
+  points_.resize(static_cast<std::size_t>(width_) * static_cast<std::size_t>(height_));
   const HDC memory = CreateCompatibleDC(context);
   const HBITMAP bitmap = CreateCompatibleBitmap(context, width_, height_);
   const HGDIOBJ before = SelectObject(memory, bitmap);
@@ -42,7 +52,6 @@ Picture::Picture(HWND window) {
   GetDIBits(memory, bitmap, 0, static_cast<UINT>(height_), pixels.data(), &format, DIB_RGB_COLORS);
   DeleteObject(bitmap);
   DeleteDC(memory);
-  ReleaseDC(window, context);
   std::transform(pixels.begin(), pixels.end(), points_.begin(), [](std::uint32_t pixel) {
     return RGB(pixel >> 16 & 0xFF, pixel >> 8 & 0xFF, pixel & 0xFF);
   });

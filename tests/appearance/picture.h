@@ -11,6 +11,8 @@ namespace appearance {
 class Picture {
  public:
   explicit Picture(HWND window);
+  /// What has been drawn in a device context.
+  Picture(HDC context, SIZE size);
 
   int width() const { return width_; }
   int height() const { return height_; }
@@ -30,6 +32,8 @@ class Picture {
   }
 
  private:
+  void copyFrom(HDC context);
+
   int width_ = 0;
   int height_ = 0;
   std::vector<COLORREF> points_;

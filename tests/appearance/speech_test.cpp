@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "appearance/appearance_test_base.h"
+#include "appearance/picture.h"
 
 // What a screen reader hears of the program: a client that listens to the system's events.
 namespace appearance {
@@ -72,16 +73,24 @@ TEST_F(Speech, PostingsAreSaidAsTheyHappen) {
 }
 
 TEST_F(Speech, AnswersOfTheFinancialCalculatorAreSaid) {
-  tell("menu mnuWinFinCalcLoan");
-  for (const char* keys : {"\"30\\r\"", "\"7.5\\r\""}) tell(std::string("type ") + keys);
-  tell("focus frmAnnuity.txtPV");
-  tell("type \"100000\"");
-  tell("focus frmAnnuity.txtFV");
-  tell("type \"0\"");
-  tell("click frmAnnuity.cmdCalculate");
+  openAnsweredLoan();
   const std::string answer = tell("get frmAnnuity.lblAnswer Caption")["value"];
   ASSERT_FALSE(answer.empty());
   EXPECT_TRUE(hearsSaid(std::wstring(answer.begin(), answer.end())));
+}
+
+TEST_F(Speech, RecordOnTheTapeIsSaidAndSeenOnItsKey) {
+  openAnsweredLoan();
+  const HWND key = control("frmAnnuity", "cmdPrintToTape");
+  const Picture before(key);
+  tell("click frmAnnuity.cmdPrintToTape");
+  EXPECT_TRUE(hearsSaid(L"Sent to the tape"));
+  EXPECT_NE(Picture(key).at(6, 6), before.at(6, 6));
+  EXPECT_TRUE(hears([&](const Heard&) {
+    wchar_t name[32] = L"";
+    GetWindowTextW(key, name, 32);
+    return std::wstring(name) == L"Print to tape" && Picture(key).at(6, 6) == before.at(6, 6);
+  }));
 }
 
 TEST_F(Speech, TapeTellsOfItsTextAndItsSelection) {
