@@ -77,7 +77,7 @@ class KeyAppearance : public AppearanceTest {
 };
 
 TEST_F(KeyAppearance, LettersAndFramesOfEveryKeyAreSeen) {
-  tell("menu mnuWinMode(1)");
+  tell("press Ctrl+T");
   expectSeen("frmCalc");
   tell("click chkTapeOff");
   tell("type \"5\"");

@@ -1,3 +1,5 @@
+#include <vector>
+
 #include "appearance/tape_test.h"
 #include "win32/tape_ink.h"
 
@@ -20,6 +22,17 @@ COLORREF background() {
 
 class TapeAppearance : public TapeAppearanceTest {
  protected:
+  /// How many more graphics objects the system gives the program. Wine does not count those that
+  /// there are.
+  std::size_t roomForObjects() {
+    std::vector<HBRUSH> objects;
+    stage().inspect([&] {
+      while (const HBRUSH brush = CreateSolidBrush(RGB(1, 2, 3))) objects.push_back(brush);
+      for (const HBRUSH brush : objects) DeleteObject(brush);
+    });
+    return objects.size();
+  }
+
   /// The letters' colour is the one that differs most from the background.
   COLORREF inkOf(const Picture& picture, int line) {
     const RECT area = areaOf(line);
@@ -144,9 +157,12 @@ TEST_F(TapeAppearance, ThousandSizesTakeNoMoreOfTheSystem) {
       SetWindowPos(paper(), nullptr, 0, 0, 150 + i % 40 * 12, 180, SWP_NOMOVE | SWP_NOZORDER);
   };
   resizeTimes(40);
-  const DWORD before = GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS);
+  const std::size_t before = roomForObjects();
   resizeTimes(1000);
-  EXPECT_EQ(GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS), before);
+  EXPECT_EQ(roomForObjects(), before);
+  const HBRUSH leaked = CreateSolidBrush(RGB(1, 2, 3));
+  EXPECT_EQ(roomForObjects(), before - 1) << "does not count";
+  DeleteObject(leaked);
 }
 
 TEST_F(TapeAppearance, LastLineStaysInViewWhenTheWindowChanges) {
