@@ -5,8 +5,8 @@ find_program(TALLYREX_RSVG_CONVERT rsvg-convert)
 find_program(TALLYREX_ICOTOOL icotool)
 
 # tallyrex_render_icon(DRAWING.svg SIZES 16 32 ... [SMALL DRAWING-FOR-LESS-THAN-32.svg])
-# renders DRAWING.svg into ${CMAKE_BINARY_DIR}/icons/DRAWING.ico. Where there is a DRAWING-SIZE.svg, that
-# size is rendered from it.
+# renders DRAWING.svg into ${CMAKE_BINARY_DIR}/icons/DRAWING.ico. If there is a DRAWING-SIZE.svg, it is
+# used for that size.
 function(tallyrex_render_icon drawing)
   cmake_parse_arguments(PARSE_ARGV 1 arg "" "SMALL" "SIZES")
   get_filename_component(drawing ${drawing} ABSOLUTE)
