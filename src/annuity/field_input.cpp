@@ -30,6 +30,11 @@ void frmAnnuity::wireMoneyField(TextBox& field) {
     takeKey(field, key);
   };
   field.onKeyUp = [&field](KeyCode key) { tidyMoney(field, key); };
+  // No key comes up behind what the mouse or another program does.
+  field.onPasted = [&field] { tidyMoney(field, 0); };
+  field.onMouseUp = [&field](controls::MouseEdit edit) {
+    if (edit != controls::MouseEdit::None) tidyMoney(field, 0);
+  };
 }
 
 void frmAnnuity::enterField(TextBox& field) {

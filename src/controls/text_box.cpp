@@ -144,7 +144,9 @@ bool TextBox::pasteText(std::string text) {
   } else if (!layout().multiLine) {
     text = firstLineOf(text);
   }
-  return replaceSelection(text);
+  const bool changed = replaceSelection(text);
+  raise(onPasted);
+  return changed;
 }
 
 void TextBox::copy() {

@@ -44,6 +44,8 @@ class TextBox : public Control {
   /// A text is about to replace the selection; the handler may change it, or empty it to discard
   /// it. A single-line box without a handler takes the text up to its first line break.
   std::function<void(std::string&)> onPaste;
+  /// Raised when a text has been pasted, from wherever.
+  std::function<void()> onPasted;
   /// Replaces what the Paste command does; the argument is the clipboard's text, null without one.
   /// The context menu still pastes at the caret.
   std::function<void(const std::optional<std::string>&)> onPasteCommand;

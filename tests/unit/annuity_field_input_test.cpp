@@ -1,0 +1,57 @@
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "annuity/frm_annuity.h"
+#include "inmemory/desktop.h"
+
+namespace annuity {
+namespace {
+
+class NoMainWindow : public Program {
+ public:
+  controls::Rect mainWindowPlace() const override { return {}; }
+  bool mainWindowIsUp() const override { return false; }
+  controls::Color focusColor() const override { return controls::Color::window(); }
+  std::string helpFile() const override { return ""; }
+  void showMainWindow() override {}
+  void printToTape(const std::string&, controls::Twips) override {}
+  void unloadAnnuity() override {}
+};
+
+class MoneyField : public testing::Test {
+ protected:
+  MoneyField() {
+    calculator_.load(common::AnnuityKind::Standard);
+    calculator_.show();
+    box_.setFocus();
+    box_.setText("1,234");
+    box_.selectAll();
+  }
+
+  inmemory::Desktop desktop_;
+  NoMainWindow program_;
+  frmAnnuity calculator_{desktop_, program_};
+  controls::TextBox& box_ = calculator_.window().textBox("txtPV");
+};
+
+TEST_F(MoneyField, GroupsWhatAnotherProgramPastesAtOnce) {
+  desktop_.setClipboardText("1234567.5");
+  box_.paste();
+  EXPECT_EQ(box_.text(), "1,234,567.5");
+}
+
+TEST_F(MoneyField, GroupsWhatItsOwnMenuPastesAtOnce) {
+  desktop_.setClipboardText("1234567.5");
+  box_.closeMenu(controls::BoxCommand::Paste);
+  EXPECT_EQ(box_.text(), "1,234,567.5");
+}
+
+TEST_F(MoneyField, GroupsWhatItsOwnMenuLeavesAtOnce) {
+  box_.select(2, 1);
+  box_.closeMenu(controls::BoxCommand::Delete);
+  EXPECT_EQ(box_.text(), "134");
+}
+
+}  // namespace
+}  // namespace annuity
