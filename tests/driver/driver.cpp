@@ -63,6 +63,12 @@ std::string Driver::answer(const std::string& line) {
   return value_.dump(-1, ' ', false, Json::error_handler_t::replace);
 }
 
+std::vector<std::string_view> Driver::commandNames() {
+  std::vector<std::string_view> names;
+  for (const Entry& entry : kCommands) names.push_back(entry.name);
+  return names;
+}
+
 void Driver::carryOut(Command& command) {
   const std::string name = command.word();
   for (const Entry& entry : kCommands) {

@@ -20,6 +20,9 @@ class Driver {
   /// The answer to one line: one line of JSON. Empty for a blank line or a comment.
   std::string answer(const std::string& line);
   /// Quit: no more commands. Reset: the next ones are for a new driver on a new stage.
+  /// The first words of all commands.
+  static std::vector<std::string_view> commandNames();
+
   Ending ending() const { return ending_; }
 
  private:

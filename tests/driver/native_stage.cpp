@@ -50,10 +50,15 @@ void NativeStage::run() {
   ended_.set_value();
 }
 
-// A message loop of the system, such as while a window frame is dragged, would end instead.
+// A loop of the system's, as while the frame of a window is dragged, takes the end for its own;
+// that of an open menu goes on in spite of it.
 void NativeStage::end() {
   std::future<void> ended = ended_.get_future();
-  do ui_.post(win32::endMessageLoop);
+  do
+    ui_.post([] {
+      EndMenu();
+      win32::endMessageLoop();
+    });
   while (ended.wait_for(kLoopIsInner) == std::future_status::timeout);
 }
 
@@ -140,10 +145,14 @@ void NativeStage::clearAway() {
   inspect([this] { desktop_.closeLaunched(); });
 }
 
+// Wine gives a window the keys without raising it where another has just come to the front.
 void NativeStage::putInFront(const controls::Window& window) {
   HWND handle = handleOf(window);
   if (GetForegroundWindow() == handle) return;
-  act([handle] { SetForegroundWindow(handle); });
+  act([handle] {
+    SetForegroundWindow(handle);
+    BringWindowToTop(handle);
+  });
 }
 
 // Makes sure that keys go to the program and to no other.

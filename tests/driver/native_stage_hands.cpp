@@ -33,9 +33,11 @@ void NativeStage::keyDown(const controls::KeyStroke& stroke, controls::KeyAscii 
   throw CommandError("a key does not arrive as it was pressed");
 }
 
-// No key stays down, even if it has closed the program.
+// Also when the key has closed the program: no key stays down. A menu that Alt has opened, which
+// controls in memory do not have, is given up.
 void NativeStage::keyUp(const controls::KeyStroke& stroke) {
   send(keyboard_.up(stroke));
+  if (stroke.alt) cancelMouse();
 }
 
 void NativeStage::click(controls::Control& control) {
@@ -157,10 +159,10 @@ void NativeStage::choose(controls::MenuItem& item) {
   putInFront(*owner);
   HWND window = handleOf(*owner);
   const UINT command = GetMenuItemID(way.back().menu, way.back().position);
-  POINT place = {};
-  if (!placeInBar(window, way.front(), place)) return deliver(window, WM_COMMAND, command, 0);
   ui_.expectCommand(command);
   for (int i = 0; i < kTriesOfMenu; ++i) {
+    POINT place = {};
+    if (!placeInBar(window, way.front(), place)) return deliver(window, WM_COMMAND, command, 0);
     clickThrough(way, place);
     if (ui_.commandTaken()) return;
     support::noteRetry("a menu");

@@ -1,18 +1,17 @@
 #include "fuzz/invariants.h"
 
+#include <array>
+#include <string_view>
+
 namespace fuzz {
 
 namespace {
 
 using driver::Json;
+using Fields = std::map<std::string, std::string>;
 
-Json ask(driver::Driver& driver, const std::string& command) {
-  return Json::parse(driver.answer(command));
-}
-
-bool isTrue(driver::Driver& driver, const std::string& command) {
-  return ask(driver, command).value("value", Json(nullptr)) == Json(true);
-}
+constexpr auto kFields =
+    std::to_array<std::string_view>({"txtNper", "txtRate", "txtPmt", "txtPV", "txtFV"});
 
 std::string findBrokenState(const Json& shown) {
   const std::string entry = shown["entry"];
@@ -27,34 +26,89 @@ std::string findBrokenState(const Json& shown) {
   return "";
 }
 
-std::string findBrokenMarks(driver::Driver& driver, const Json& shown) {
-  if (isTrue(driver, "get mnuEditFloatingDecimal Checked") != (shown["floating"] == 1))
-    return "the mark of Floating Decimal is out of step";
-  if (isTrue(driver, "get mnuEditStationaryDecimal Checked") != (shown["stationary"] == 1))
-    return "the mark of Stationary Decimal is out of step";
-  if (isTrue(driver, "get mnuWinTapeOff Checked") != (shown["tape_off"] == 1))
-    return "the mark of Tape Off is out of step";
-  const std::string focus = shown["focus"];
-  if (!isTrue(driver, "get " + focus + " Enabled") || !isTrue(driver, "get " + focus + " Visible"))
-    return "the focus is on " + focus + ", which cannot have it";
-  return "";
+// What may end the financial calculator, and so store its fields as they are seen before.
+bool mayStore(const std::string& command) {
+  return command.starts_with("close ") || command.starts_with("askclose ") ||
+         command == "endsession" || command.starts_with("menu ");
 }
 
 }  // namespace
 
-std::string findBroken(driver::Driver& driver) {
-  if (!isTrue(driver, "get frmCalc Loaded") || !isTrue(driver, "get frmCalc Visible")) return "";
-  const Json shown = ask(driver, "snapshot");
-  const std::string broken = findBrokenState(shown);
-  return broken.empty() ? findBrokenMarks(driver, shown) : broken;
+Json Watch::ask(const std::string& command) {
+  return Json::parse(driver_.answer(command));
 }
 
-Json storedFields(driver::Driver& driver) {
-  return ask(driver, "store dump")["value"].value("Annuity", Json::object());
+bool Watch::isTrue(const std::string& command) {
+  return value(command) == Json(true);
 }
 
-Json fieldsAtRest(driver::Driver& driver) {
-  return isTrue(driver, "get frmAnnuity Loaded") ? Json() : storedFields(driver);
+Json Watch::snapshot() {
+  if (!isTrue("get frmCalc Loaded") || !isTrue("get frmCalc Visible")) return nullptr;
+  return ask("snapshot");
+}
+
+std::string Watch::findBrokenMarks(const Json& shown) {
+  if (isTrue("get mnuEditFloatingDecimal Checked") != (shown["floating"] == 1))
+    return "the mark of Floating Decimal is out of step";
+  if (isTrue("get mnuEditStationaryDecimal Checked") != (shown["stationary"] == 1))
+    return "the mark of Stationary Decimal is out of step";
+  if (isTrue("get mnuWinTapeOff Checked") != (shown["tape_off"] == 1))
+    return "the mark of Tape Off is out of step";
+  const std::string focus = shown["focus"];
+  if (!isTrue("get " + focus + " Enabled") || !isTrue("get " + focus + " Visible"))
+    return "the focus is on " + focus + ", which cannot have it";
+  return "";
+}
+
+Fields Watch::fields() {
+  Fields fields;
+  if (!isTrue("get frmAnnuity Loaded")) return fields;
+  for (const std::string_view name : kFields)
+    fields[std::string(name)] =
+        value("get frmAnnuity." + std::string(name) + " Text").get<std::string>();
+  return fields;
+}
+
+Fields Watch::storedFields() {
+  Fields stored;
+  for (const std::string_view name : kFields) {
+    const Json text = value("store get Annuity " + std::string(name));
+    if (text.is_string()) stored[std::string(name)] = text.get<std::string>();
+  }
+  return stored;
+}
+
+// What is stored of a field is what was stored before, or what the user saw in it.
+std::string Watch::findReplacedField(const Fields& shown, const Fields& stored) {
+  const Fields now = storedFields();
+  for (const auto& [name, text] : stored)
+    if (!now.contains(name)) return "what was stored of " + name + " is gone";
+  for (const auto& [name, text] : now) {
+    const auto before = stored.find(name);
+    if (before != stored.end() && before->second == text) continue;
+    const auto seen = shown.find(name);
+    if (seen == shown.end() || seen->second != text)
+      return "what was stored of " + name + " is replaced by what was not restored";
+  }
+  return "";
+}
+
+std::string Watch::carryOut(const std::string& command) {
+  const bool watched =
+      !command.starts_with("st") && (mayStore(command) || !isTrue("get frmAnnuity Loaded"));
+  Step step{.command = command, .before = snapshot(), .after = {}};
+  const Fields shown = watched ? fields() : Fields();
+  const Fields stored = watched ? storedFields() : Fields();
+  ask("events");
+  driver_.answer(command);
+  step.after = snapshot();
+  if (command != "events") step.boxShown = !ask("events")["boxes"].empty();
+  if (watched)
+    if (const auto broken = findReplacedField(shown, stored); !broken.empty()) return broken;
+  if (const auto broken = money_.findBroken(step); !broken.empty()) return broken;
+  if (!step.after.is_object()) return "";
+  const std::string broken = findBrokenState(step.after);
+  return broken.empty() ? findBrokenMarks(step.after) : broken;
 }
 
 }  // namespace fuzz
