@@ -68,7 +68,7 @@ bool TextBox::replaceSelection(std::string_view text) {
     window().desktop().beep();
     return false;
   }
-  const Selection selection = loadSelection();
+  const Selection selection = wholeCharacters(loadSelection());
   std::string before = loadPart(selection.start, selection.length);
   if (before == text) {
     setSelStart(selection.start + selection.length);
@@ -92,6 +92,13 @@ bool TextBox::hasPairAt(int start) const {
   return pair == "\r\n" || (pair.size() == 4 && (pair[0] & kFirstOfFourBytes) == kFirstOfFourBytes);
 }
 
+TextBox::Selection TextBox::wholeCharacters(Selection selection) const {
+  if (selection.length == 0) return selection;
+  const int start = selection.start - (hasPairAt(selection.start - 1) ? 1 : 0);
+  const int end = selection.start + selection.length;
+  return {start, end + (hasPairAt(end - 1) ? 1 : 0) - start};
+}
+
 void TextBox::backspace() {
   const auto [start, length] = loadSelection();
   takeAway(length > 0 ? start : std::max(0, start - 1), start + length);
@@ -103,8 +110,6 @@ void TextBox::deleteForward() {
 }
 
 void TextBox::takeAway(int start, int end) {
-  if (hasPairAt(start - 1)) --start;
-  if (hasPairAt(end - 1)) ++end;
   storeSelection(start, end - start);
   replaceSelection("");
 }
@@ -149,14 +154,19 @@ bool TextBox::pasteText(std::string text) {
   return changed;
 }
 
+bool TextBox::copySelection() {
+  const auto [start, length] = wholeCharacters(loadSelection());
+  return window().desktop().setClipboardText(loadPart(start, length));
+}
+
 void TextBox::copy() {
   if (selLength() == 0) return;
-  if (!window().desktop().setClipboardText(selectedText())) window().desktop().beep();
+  if (!copySelection()) window().desktop().beep();
 }
 
 bool TextBox::cut() {
   if (selLength() == 0) return false;
-  if (window().desktop().setClipboardText(selectedText())) return replaceSelection("");
+  if (copySelection()) return replaceSelection("");
   window().desktop().beep();
   return false;
 }

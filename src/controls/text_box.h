@@ -140,6 +140,9 @@ class TextBox : public Control {
   bool pasteByMouse();
   bool pasteText(std::string text);
   bool hasPairAt(int start) const;
+  // Longer by the other half of a pair that it cuts.
+  Selection wholeCharacters(Selection selection) const;
+  bool copySelection();
   MouseEdit carryOut(BoxCommand chosen);
   void actOnCharacter(KeyAscii character);
   void insert(KeyAscii character);

@@ -162,6 +162,27 @@ TEST_P(TextBoxContract, SelectionEndingInsideACharacterRemovesItWhole) {
   EXPECT_EQ(box_.text(), "z");
 }
 
+TEST_P(TextBoxContract, TypingOverHalfACharacterReplacesItWholeAndUndoBringsItBack) {
+  const std::string text = "a\xF0\x9F\x92\xB0\xF0\x9F\x92\xB0z";
+  for (const int start : {1, 2}) {
+    box_.setText(text);
+    box_.select(start, 2);
+    type("7");
+    EXPECT_EQ(box_.text(), start == 1 ? "a7\xF0\x9F\x92\xB0z" : "a7z") << "from " << start;
+    EXPECT_TRUE(box_.undo());
+    EXPECT_EQ(box_.text(), text) << "from " << start;
+  }
+}
+
+TEST_P(TextBoxContract, CuttingHalfACharacterTakesItAlongWhole) {
+  box_.setText("a\xF0\x9F\x92\xB0z");
+  box_.select(2, 2);
+  EXPECT_TRUE(box_.cut());
+  EXPECT_EQ(box_.text(), "a");
+  box_.paste();
+  EXPECT_EQ(box_.text(), "a\xF0\x9F\x92\xB0z");
+}
+
 TEST_P(TextBoxContract, AppendingMovesTheCaretToTheEnd) {
   box_.setText("Top");
   takeLog();

@@ -70,7 +70,7 @@ std::string Money::findWrongTotal(const Step& step) {
   const bool adds = textOf(step.after, "caption") == "Add Mode, Tallyrex" &&
                     textOf(step.before, "caption") == textOf(step.after, "caption");
   // C&Total prints the total that it has set to zero.
-  const bool clears = isClick(step, "cmdClearCalc") || isClick(step, "cmdClearAll") ||
+  const bool clears = step.command.find("cmdClear") != std::string::npos ||
                       step.command.starts_with("press Alt+") ||
                       textOf(step.before, "focus").starts_with("cmdClear");
   const bool hidden = step.before.value("tape_off", 0) == 1 || step.after.value("tape_off", 0) == 1;
