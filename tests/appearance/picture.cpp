@@ -19,7 +19,9 @@ double light(COLORREF color) {
 
 }  // namespace
 
+// First what the window around still has to paint: it would be painted over the picture.
 Picture::Picture(HWND window) {
+  RedrawWindow(GetAncestor(window, GA_ROOT), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
   RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
   RECT client;
   GetClientRect(window, &client);

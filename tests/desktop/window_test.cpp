@@ -65,8 +65,8 @@ TEST_F(WindowTest, DraggingTheCornerResizesWindowAndTape) {
   const int tapeWidth = tell("get txtTape Width")["value"];
   RECT frame = {};
   GetWindowRect(mainWindow(), &frame);
-  stage().drag({frame.right - 2, frame.bottom - 2},
-               {frame.right - 2 + kPixels, frame.bottom - 2 + kPixels});
+  stage().dragFrame({frame.right - 2, frame.bottom - 2},
+                    {frame.right - 2 + kPixels, frame.bottom - 2 + kPixels});
   EXPECT_EQ(tell("get frmCalc Width")["value"], width + twips(kPixels));
   EXPECT_EQ(tell("get txtTape Width")["value"], tapeWidth + twips(kPixels));
 }
@@ -75,11 +75,11 @@ TEST_F(WindowTest, DraggingStopsAtTheMicroWindowSize) {
   tell("move frmCalc 1500 1500");
   RECT frame = {};
   GetWindowRect(mainWindow(), &frame);
-  stage().drag({frame.right - 2, frame.bottom - 2}, {frame.left + 10, frame.top + 10});
+  stage().dragFrame({frame.right - 2, frame.bottom - 2}, {frame.left + 10, frame.top + 10});
   EXPECT_EQ(tell("get frmCalc Width")["value"], 2280);
   EXPECT_EQ(tell("get frmCalc Height")["value"], 1095);
   GetWindowRect(mainWindow(), &frame);
-  stage().drag({frame.left + 1, frame.top + 1}, {frame.right + 300, frame.bottom + 300});
+  stage().dragFrame({frame.left + 1, frame.top + 1}, {frame.right + 300, frame.bottom + 300});
   // The system may stop one pixel short.
   const int pixel = twips(1);
   EXPECT_NEAR(tell("get frmCalc Width")["value"].get<int>(), 2280, pixel);
@@ -101,7 +101,7 @@ TEST_F(WindowTest, DraggingTheTitleMovesTheWindow) {
   RECT frame = {};
   GetWindowRect(mainWindow(), &frame);
   const POINT title = {(frame.left + frame.right) / 2, frame.top + 12};
-  stage().drag(title, {title.x + kPixels, title.y + kPixels});
+  stage().dragFrame(title, {title.x + kPixels, title.y + kPixels});
   EXPECT_EQ(tell("get frmCalc Left")["value"], twips(frame.left + kPixels));
   EXPECT_EQ(tell("get frmCalc Width")["value"], width);
 }

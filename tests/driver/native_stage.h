@@ -27,7 +27,7 @@ class NativeStage : public Stage {
   /// Sends keyboard input in one call, and waits until the program has processed it.
   void sendKeys(std::vector<INPUT> inputs);
   /// Drags with the left mouse button from one place of the screen to another.
-  void drag(POINT from, POINT to);
+  void dragFrame(POINT from, POINT to);
 
   void inspect(const std::function<void()>& body) override { ui_.inspect(body); }
   controls::Window* findWindow(std::string_view name) override;

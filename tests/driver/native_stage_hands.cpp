@@ -14,6 +14,7 @@ constexpr int kTriesOfMenu = 10;
 constexpr DWORD kReportIsLate = 100;
 // If the action itself shows a message, it is not answered before that.
 constexpr UINT kAnswerIsLate = 1000;
+constexpr int kTriesOfDrag = 3;
 
 }  // namespace
 
@@ -91,10 +92,21 @@ bool NativeStage::moveButton(MouseButton button, bool up, POINT place, HWND seen
   return false;
 }
 
-void NativeStage::drag(POINT from, POINT to) {
-  if (!moveButton(MouseButton::Left, false, from, WindowFromPoint(from), nullptr) ||
-      !moveButton(MouseButton::Left, true, to, nullptr, nullptr))
-    throw CommandError("the mouse does not stay where it is put");
+// The system loses a move now and then that ends as soon as it has begun: the window stays as it
+// was.
+void NativeStage::dragFrame(POINT from, POINT to) {
+  HWND window = WindowFromPoint(from);
+  RECT before = {};
+  GetWindowRect(window, &before);
+  for (int i = 0; i < kTriesOfDrag; ++i) {
+    if (!moveButton(MouseButton::Left, false, from, window, nullptr) ||
+        !moveButton(MouseButton::Left, true, to, nullptr, nullptr))
+      throw CommandError("the mouse does not stay where it is put");
+    RECT now = {};
+    GetWindowRect(window, &now);
+    if (!EqualRect(&now, &before)) return;
+    support::noteRetry("a drag");
+  }
 }
 
 void NativeStage::clickSurely(POINT place) {
