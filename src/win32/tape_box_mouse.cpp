@@ -104,7 +104,7 @@ void TapeBox::pressAgain(const Message& message) {
 }
 
 bool TapeBox::isThirdClick(POINT point) const {
-  const DWORD now = static_cast<DWORD>(GetMessageTime());
+  const auto now = static_cast<DWORD>(GetMessageTime());
   return doubleClickTime_ != 0 && now - doubleClickTime_ <= GetDoubleClickTime() &&
          std::abs(point.x - doubleClickPlace_.x) <= GetSystemMetrics(SM_CXDOUBLECLK) &&
          std::abs(point.y - doubleClickPlace_.y) <= GetSystemMetrics(SM_CYDOUBLECLK);

@@ -3,9 +3,14 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
+#include <utility>
 
 namespace appearance {
 namespace {
+
+// A window is taken to be painted when it is the same twice in a row, that many milliseconds apart.
+constexpr DWORD kRest = 20;
+constexpr int kMostLooks = 20;
 
 double light(int part) {
   const double share = part / 255.0;
@@ -28,7 +33,12 @@ Picture::Picture(HWND window) {
   width_ = client.right;
   height_ = client.bottom;
   const HDC context = GetDC(window);
-  copyFrom(context);
+  std::vector<COLORREF> before;
+  for (int i = 0; i < kMostLooks && (i == 0 || points_ != before); ++i) {
+    before = std::exchange(points_, {});
+    Sleep(kRest);
+    copyFrom(context);
+  }
   ReleaseDC(window, context);
 }
 
