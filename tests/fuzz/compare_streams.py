@@ -1,11 +1,11 @@
 #!/usr/bin/env python3
 """Has two drivers carry out the same random commands, and compares their answers.
 
-    compare_streams.py [--seed N] [--seconds N] [--length N] STREAM DRIVER -- OTHER-DRIVER...
+    compare_streams.py [--seed N] [--seconds N] [--streams N] [--length N] STREAM DRIVER -- OTHER-DRIVER...
 
-STREAM is tallyrex-print-stream. Streams are carried out one after another until the time is over. A stream whose
-answers differ is carried out once more, since a busy machine can lose a click; a difference that comes back, and
-the second that does not, ends it. What led there is printed as a scenario.
+STREAM is tallyrex-print-stream. Streams are carried out one after another until the time or their number is over. A
+stream whose answers differ is carried out once more, since a busy machine can lose a click; a difference that comes
+back, and too many that do not, end it. What led there is printed as a scenario.
 """
 import argparse
 import json
@@ -15,6 +15,7 @@ import threading
 import time
 
 HANGS = 60  # Seconds after which a driver that has not answered is ended.
+MOST_REPEATED = 3
 
 
 class Driver:
@@ -62,6 +63,7 @@ def main(arguments):
     parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
     parser.add_argument("--seed", type=int, default=1)
     parser.add_argument("--seconds", type=float, default=20)
+    parser.add_argument("--streams", type=int, default=sys.maxsize)
     parser.add_argument("--length", type=int, default=60, help="commands in a stream")
     parser.add_argument("stream")
     parser.add_argument("driver", nargs=argparse.REMAINDER)
@@ -73,13 +75,13 @@ def main(arguments):
     count = 0
     repeated = 0
     try:
-        while time.monotonic() < end:
+        while time.monotonic() < end and seed < options.seed + options.streams:
             commands = subprocess.run([options.stream, str(seed), str(options.length)], check=True,
                                       capture_output=True, text=True).stdout.splitlines()
             commands = ["reset", *commands]
             difference = compare(commands, drivers)
-            if difference and repeated == 0 and not any("ended" in answer for answer in difference[1]):
-                repeated = 1
+            if difference and repeated < MOST_REPEATED and not any("ended" in answer for answer in difference[1]):
+                repeated += 1
                 print("Done again: stream %d, after %s" % (seed, json.dumps(difference)))
                 difference = compare(commands, drivers)
             if difference:
