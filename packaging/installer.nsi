@@ -50,8 +50,8 @@ VIAddVersionKey FileVersion "${VERSION}"
 VIAddVersionKey CompanyName "${PUBLISHER}"
 VIAddVersionKey LegalCopyright "Copyright 2026 ${PUBLISHER}"
 !ifdef SIGN
-  !finalize '${SIGN} "%1"'
-  !uninstfinalize '${SIGN} "%1"'
+  !finalize `${SIGN} "%1"`
+  !uninstfinalize `${SIGN} "%1"`
 !endif
 
 !define MUI_ICON "${ICON}"

@@ -82,7 +82,7 @@ class EitherProgram:
         self.assertEqual(set(self.program.imports()) - SYSTEM_LIBRARIES, set())
 
     def test_its_icon_has_an_image_for_every_size(self):
-        self.assertEqual(self.program.icon_sizes(), [16, 24, 32, 48, 64, 256])
+        self.assertEqual(self.program.icon_sizes(), [16, 20, 24, 32, 40, 48, 64, 256])
 
     def test_its_properties_name_product_and_version(self):
         file_version, product_version, texts = self.program.version()
