@@ -9,7 +9,8 @@
 
 namespace desktop {
 
-/// The program in its real windows, started anew in add mode, and the input of its user.
+/// The program in its real windows, started again in add mode for each test, and the input of its
+/// user.
 class DesktopTest : public testing::Test {
  public:
   /// The stage is shared by all tests, since it belongs to the program's thread.

@@ -81,14 +81,14 @@ std::string Money::findWrongTotal(const Step& step) {
     return "";
   }
   for (const std::string& line : linesOf(after.substr(before.size()))) {
-    const std::string broken = addLine(line, after);
+    const std::string broken = addLine(line);
     if (!broken.empty()) return broken;
   }
   if (step.after.value("modes_enabled", false)) sum_ = 0;
   return "";
 }
 
-std::string Money::addLine(const std::string& line, const std::string&) {
+std::string Money::addLine(const std::string& line) {
   if (line.find_first_not_of(' ') == std::string::npos) return "";
   const std::size_t from = line.find_first_not_of(' ');
   const std::size_t end = line.find(' ', from);
