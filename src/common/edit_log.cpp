@@ -10,10 +10,10 @@ namespace {
 
 // What precedes the inserted bytes.
 struct Header {
-  std::uint32_t start = 0;
-  std::uint32_t removed = 0;
-  std::uint32_t bytes = 0;
-  std::uint32_t checksum = 0;
+  std::uint32_t start;
+  std::uint32_t removed;
+  std::uint32_t bytes;
+  std::uint32_t checksum;
 };
 static_assert(sizeof(Header) == 16);
 
@@ -33,9 +33,10 @@ std::uint32_t checksum(const Header& header, std::string_view inserted) {
 }  // namespace
 
 std::string editRecord(const TextEdit& edit) {
-  Header header{.start = static_cast<std::uint32_t>(edit.start),
-                .removed = static_cast<std::uint32_t>(edit.removed),
-                .bytes = static_cast<std::uint32_t>(edit.inserted.size())};
+  Header header = {};
+  header.start = static_cast<std::uint32_t>(edit.start);
+  header.removed = static_cast<std::uint32_t>(edit.removed);
+  header.bytes = static_cast<std::uint32_t>(edit.inserted.size());
   header.checksum = checksum(header, edit.inserted);
   std::string record(sizeof header, '\0');
   std::memcpy(record.data(), &header, sizeof header);
@@ -44,7 +45,7 @@ std::string editRecord(const TextEdit& edit) {
 
 std::string replayEdits(std::string_view records) {
   std::u16string text;
-  Header header;
+  Header header = {};
   while (records.size() >= sizeof header) {
     std::memcpy(&header, records.data(), sizeof header);
     records.remove_prefix(sizeof header);

@@ -16,17 +16,17 @@ bool isPlaceholder(char character) {
 struct Shape {
   std::string_view integer;
   std::string_view fraction;
-  bool hasPoint = false;
-  bool grouped = false;
-  int integerPlaces = 0;
-  int requiredIntegers = 0;
-  int decimals = 0;
-  int requiredDecimals = 0;
-  int percentSigns = 0;
+  bool hasPoint;
+  bool grouped;
+  int integerPlaces;
+  int requiredIntegers;
+  int decimals;
+  int requiredDecimals;
+  int percentSigns;
 };
 
 Shape shapeOf(std::string_view pattern) {
-  Shape shape;
+  Shape shape = {};
   const std::size_t point = std::min(pattern.find('.'), pattern.size());
   shape.hasPoint = point < pattern.size();
   shape.integer = pattern.substr(0, point);

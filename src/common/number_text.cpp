@@ -15,22 +15,18 @@ namespace {
 
 constexpr int kSignificantDigits = 15;
 
-// Ten to these powers is larger than every double, and less than half of the smallest one.
-constexpr long long kLargestPoint = 309;
-constexpr long long kSmallestPoint = -323;
-
 // Far beyond what the digits of any text in memory could bring back into the range of a double.
 constexpr long long kExponentLimit = 1'000'000'000'000'000;
 
 // The parts of a number as written.
 struct Written {
-  char sign = 0;  // '+', '-' or none; of a minus behind and of parentheses '-'
+  char sign;  // '+', '-' or 0; of a minus behind and of parentheses '-'
   std::string_view integer;
   std::string_view fraction;
-  bool hasPoint = false;
-  bool hasExponent = false;
-  long long exponent = 0;
-  bool plain = true;
+  bool hasPoint;
+  bool hasExponent;
+  long long exponent;
+  bool plain;
 };
 
 bool isBlank(char character) {
@@ -122,7 +118,7 @@ bool readBack(std::string_view& rest, bool parentheses, Written& written) {
 // Null for a text that is not a number.
 std::optional<Written> read(std::string_view text) {
   std::string_view rest = trimmed(text);
-  Written written;
+  Written written = {};
   written.plain = rest.size() == text.size();
   const bool parentheses = take(rest, '(');
   readFront(rest, written);
@@ -136,11 +132,11 @@ std::optional<Written> read(std::string_view text) {
 // exponent has been applied.
 struct Significand {
   std::string digits;
-  long long point = 0;
+  long long point;
 };
 
 Significand significandOf(const Written& written) {
-  Significand significand;
+  Significand significand = {};
   std::string& digits = significand.digits;
   digits.reserve(written.integer.size() + written.fraction.size());
   for (const char character : written.integer) {
@@ -156,8 +152,7 @@ Significand significandOf(const Written& written) {
 
 // The absolute value of the number; null when out of the range of a double.
 std::optional<double> magnitudeOf(const Significand& significand) {
-  if (significand.digits.empty() || significand.point < kSmallestPoint) return 0;
-  if (significand.point > kLargestPoint) return {};
+  if (significand.digits.empty()) return 0;
   const std::string text = "0." + significand.digits + "e" + std::to_string(significand.point);
   double value = 0;
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);

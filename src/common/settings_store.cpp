@@ -7,14 +7,12 @@
 namespace common {
 namespace {
 
-char lower(char character) {
-  return character >= 'A' && character <= 'Z' ? static_cast<char>(character - 'A' + 'a')
-                                              : character;
-}
+// In this bit alone, a small letter differs from its capital.
+constexpr int kSmall = 'a' - 'A';
 
 bool isWord(std::string_view text, std::string_view lowerCaseWord) {
   return std::equal(text.begin(), text.end(), lowerCaseWord.begin(), lowerCaseWord.end(),
-                    [](char left, char right) { return lower(left) == right; });
+                    [](char left, char right) { return (left | kSmall) == right; });
 }
 
 }  // namespace

@@ -5,6 +5,11 @@ namespace {
 
 constexpr char32_t kReplacement = 0xFFFD;
 
+// Whether a number stands for a character: none beyond the last one does, and no surrogate.
+bool isCharacter(char32_t number) {
+  return number < 0xD800 || (number > 0xDFFF && number <= 0x10FFFF);
+}
+
 bool isContinuation(char byte) {
   return (static_cast<unsigned char>(byte) & 0xC0) == 0x80;
 }
@@ -13,20 +18,19 @@ bool isContinuation(char byte) {
 char32_t decode(std::string_view text, std::size_t& at) {
   const auto first = static_cast<unsigned char>(text[at++]);
   if (first < 0x80) return first;
+  if (first < 0xC0 || first > 0xF4) return kReplacement;
   const int length = first >= 0xF0 ? 3 : first >= 0xE0 ? 2 : 1;
-  if (first < 0xC2 || first > 0xF4) return kReplacement;
   char32_t character = first & (0x3Fu >> length);
   for (int i = 0; i < length; ++i) {
     if (at == text.size() || !isContinuation(text[at])) return kReplacement;
     character = character << 6 | (static_cast<unsigned char>(text[at++]) & 0x3Fu);
   }
-  constexpr char32_t kSmallest[] = {0, 0x80, 0x800, 0x10000};
-  const bool surrogate = character >= 0xD800 && character <= 0xDFFF;
-  return character < kSmallest[length] || character > 0x10FFFF || surrogate ? kReplacement
-                                                                            : character;
+  constexpr char32_t kSmallest[] = {0x80, 0x800, 0x10000};
+  return character < kSmallest[length - 1] || !isCharacter(character) ? kReplacement : character;
 }
 
 void encode(char32_t character, std::string& text) {
+  if (!isCharacter(character)) character = kReplacement;
   const auto put = [&](char32_t byte) { text += static_cast<char>(byte); };
   if (character < 0x80) {
     put(character);
@@ -49,7 +53,6 @@ void encode(char32_t character, std::string& text) {
 
 std::u16string toUtf16(std::string_view text) {
   std::u16string result;
-  result.reserve(text.size());
   for (std::size_t at = 0; at < text.size();) {
     const char32_t character = decode(text, at);
     if (character < 0x10000) {
@@ -64,14 +67,11 @@ std::u16string toUtf16(std::string_view text) {
 
 std::string toUtf8(std::u16string_view text) {
   std::string result;
-  result.reserve(text.size());
   for (std::size_t at = 0; at < text.size(); ++at) {
     char32_t character = text[at];
     const bool high = character >= 0xD800 && character < 0xDC00;
     if (high && at + 1 < text.size() && text[at + 1] >= 0xDC00 && text[at + 1] < 0xE000) {
       character = 0x10000 + ((character - 0xD800) << 10) + (text[++at] - 0xDC00u);
-    } else if (character >= 0xD800 && character < 0xE000) {
-      character = kReplacement;
     }
     encode(character, result);
   }
@@ -79,9 +79,8 @@ std::string toUtf8(std::u16string_view text) {
 }
 
 std::string toUtf8(char32_t character) {
-  const bool surrogate = character >= 0xD800 && character <= 0xDFFF;
   std::string result;
-  encode(surrogate || character > 0x10FFFF ? kReplacement : character, result);
+  encode(character, result);
   return result;
 }
 

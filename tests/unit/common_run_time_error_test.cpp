@@ -23,6 +23,10 @@ TEST(RunTimeErrorText, HasAFallbackDescription) {
                                      "Please close this window and reload this form.");
 }
 
+TEST(RunTimeErrorText, IsShortWhereNothingTrapsTheError) {
+  EXPECT_STREQ(RunTimeError(kOverflow).what(), "run-time error");
+}
+
 TEST(Trap, RunsABodyToItsEnd) {
   bool ended = false;
   EXPECT_TRUE(trap([&] { ended = true; }, [](const RunTimeError&) { FAIL(); }));

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdint>
 #include <string>
 #include <utility>
 #include <vector>
@@ -45,16 +46,52 @@ TEST(Unicode, ReplacesBytesThatAreNotUtf8) {
 }
 
 TEST(Unicode, ReplacesOverlongFormsAndSurrogates) {
-  for (const char* text : {"\xC0\x80", "\xE0\x80\x80", "\xF0\x80\x80\x80", "\xED\xA0\x80",
-                           "\xF4\x90\x80\x80", "\xF5\x80\x80\x80"}) {
-    EXPECT_EQ(toUtf16(text).front(), u'\uFFFD') << testing::PrintToString(text);
-  }
+  const std::vector<std::pair<std::string, std::u16string>> samples = {
+      {"\xC0\x80", u"\uFFFD"},         {"\xC1\xBFz", u"\uFFFDz"},
+      {"\xE0\x80\x80", u"\uFFFD"},     {"\xE0\x9F\xBFz", u"\uFFFDz"},
+      {"\xF0\x80\x80\x80", u"\uFFFD"}, {"\xF0\x8F\xBF\xBFz", u"\uFFFDz"},
+      {"\xED\x9F\xBF", u"\uD7FF"},     {"\xED\xA0\x80", u"\uFFFD"},
+      {"\xED\xBF\xBFz", u"\uFFFDz"},   {"\xEE\x80\x80", u"\uE000"},
+  };
+  for (const auto& [narrow, wide] : samples) EXPECT_EQ(toUtf16(narrow), wide);
+}
+
+TEST(Unicode, ReplacesEachByteThatBeginsNoCharacter) {
+  const std::vector<std::pair<std::string, std::u16string>> samples = {
+      {"\xF4\x90\x80\x80", u"\uFFFD"},
+      {"\xF5\x80\x80\x80", u"\uFFFD\uFFFD\uFFFD\uFFFD"},
+      {"\xF8\x90\x80\x80", u"\uFFFD\uFFFD\uFFFD\uFFFD"},
+      {"\xBF\x80", u"\uFFFD\uFFFD"},
+      {"\xE2\x82\xC3\xA4", u"\uFFFD\u00E4"},
+  };
+  for (const auto& [narrow, wide] : samples) EXPECT_EQ(toUtf16(narrow), wide);
 }
 
 TEST(Unicode, ReplacesLoneSurrogates) {
   EXPECT_EQ(toUtf8(u"a\xD800"), "a\xEF\xBF\xBD");
   EXPECT_EQ(toUtf8(u"\xDC00z"), "\xEF\xBF\xBDz");
   EXPECT_EQ(toUtf8(u"\xD800\xD800\xDC00"), "\xEF\xBF\xBD\xF0\x90\x80\x80");
+  EXPECT_EQ(toUtf8(u"\xDFFF"), "\xEF\xBF\xBD");
+  EXPECT_EQ(toUtf8(u"\xDC00\xDC00"), "\xEF\xBF\xBD\xEF\xBF\xBD");
+  EXPECT_EQ(toUtf8(u"\xD800\xDBFF"), "\xEF\xBF\xBD\xEF\xBF\xBD");
+  EXPECT_EQ(toUtf8(u"\xD800\xE000"), "\xEF\xBF\xBD\xEE\x80\x80");
+}
+
+TEST(Unicode, SeesNothingBehindTheEndOfAText) {
+  const std::u16string_view pair = u"\xD83D\xDCC8";
+  EXPECT_EQ(toUtf8(pair.substr(0, 1)), "\xEF\xBF\xBD");
+  const std::string_view euro = "\xE2\x82\xAC";
+  EXPECT_EQ(toUtf16(euro.substr(0, 2)), u"\uFFFD");
+}
+
+TEST(Unicode, WritesOneCharacter) {
+  EXPECT_EQ(toUtf8(U'7'), "7");
+  EXPECT_EQ(toUtf8(U'\u20AC'), "\xE2\x82\xAC");
+  EXPECT_EQ(toUtf8(char32_t{0xD7FF}), "\xED\x9F\xBF");
+  EXPECT_EQ(toUtf8(char32_t{0xE000}), "\xEE\x80\x80");
+  EXPECT_EQ(toUtf8(char32_t{0x10FFFF}), "\xF4\x8F\xBF\xBF");
+  for (const std::uint32_t number : {0xD800U, 0xDFFFU, 0x110000U, 0xFFFFFFFFU})
+    EXPECT_EQ(toUtf8(static_cast<char32_t>(number)), "\xEF\xBF\xBD") << number;
 }
 
 }  // namespace
