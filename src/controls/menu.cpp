@@ -43,9 +43,9 @@ bool MenuItem::choose() {
   return true;
 }
 
+// All menu shortcuts use Ctrl.
 bool MenuItem::hasShortcut(const KeyStroke& stroke) const {
-  return !shortcut_.empty() && stroke.control && !stroke.alt && !stroke.shift &&
-         stroke.key == shortcut_.back();
+  return !shortcut_.empty() && stroke.control && !stroke.shift && stroke.key == shortcut_.back();
 }
 
 }  // namespace controls

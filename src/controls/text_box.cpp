@@ -88,8 +88,9 @@ bool TextBox::replaceSelection(std::string_view text) {
 bool TextBox::hasPairAt(int start) const {
   if (start < 0 || start + 2 > length()) return false;
   const std::string pair = loadPart(start, 2);
-  constexpr char kFirstOfFourBytes = '\xF0';
-  return pair == "\r\n" || (pair.size() == 4 && (pair[0] & kFirstOfFourBytes) == kFirstOfFourBytes);
+  // Only a pair has four bytes, and only a character of four bytes begins so.
+  constexpr unsigned char kFirstOfFourBytes = 0xF0;
+  return pair == "\r\n" || static_cast<unsigned char>(pair[0]) >= kFirstOfFourBytes;
 }
 
 TextBox::Selection TextBox::wholeCharacters(Selection selection) const {
@@ -106,7 +107,7 @@ void TextBox::backspace() {
 
 void TextBox::deleteForward() {
   const auto [start, length] = loadSelection();
-  takeAway(start, length > 0 ? start + length : std::min(start + 1, this->length()));
+  takeAway(start, std::min(start + std::max(length, 1), this->length()));
 }
 
 void TextBox::takeAway(int start, int end) {

@@ -21,7 +21,7 @@ bool Window::isTabStop(const Control& control) const {
   if (!control.takesFocus()) return false;
   const auto* option = dynamic_cast<const OptionButton*>(&control);
   if (!option || option->value()) return true;
-  // A group without a chosen button is entered at its first.
+  // In a group without a chosen button, each is a tab stop.
   for (const auto& other : controls_) {
     const auto* sibling = dynamic_cast<const OptionButton*>(other.get());
     if (!sibling || sibling->layout().optionGroup != control.layout().optionGroup) continue;
@@ -66,9 +66,7 @@ bool Window::takeKey(const KeyStroke& stroke) {
   return takeArrow(stroke);
 }
 
-// All menu shortcuts use Ctrl.
 bool Window::takeShortcut(const KeyStroke& stroke) {
-  if (!stroke.control) return false;
   for (const auto& item : menuItems_) {
     if (!item->hasShortcut(stroke)) continue;
     item->choose();
@@ -92,8 +90,8 @@ bool Window::takeHelp(const KeyStroke& stroke) {
 // The access key of a label focuses the next control; any other control is clicked. All access keys
 // are ASCII.
 bool Window::takeAccessKey(KeyCode character) {
-  constexpr KeyCode kLastOfAscii = 127;
-  if (character <= 0 || character > kLastOfAscii) return false;
+  constexpr KeyCode kAscii = 0x7F;
+  if (character == 0 || (character & ~kAscii) != 0) return false;
   const char wanted = static_cast<char>(std::toupper(character));
   const std::vector<Control*> order = tabOrder();
   for (auto here = order.begin(); here != order.end(); ++here) {

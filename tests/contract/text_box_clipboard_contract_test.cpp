@@ -20,6 +20,84 @@ TEST_P(TextBoxContract, PasteHandlerMayChangeOrDiscardTheText) {
   EXPECT_EQ(box_.text(), "<a>");
 }
 
+TEST_P(TextBoxContract, DiscardedPasteLeavesTheSelection) {
+  box_.onPaste = [](std::string& text) { text.clear(); };
+  box_.onPasted = [this] { note("pasted"); };
+  box_.onMouseUp = [this](controls::MouseEdit edit) {
+    note(edit == controls::MouseEdit::None ? "none" : "edit");
+  };
+  box_.setText("1995");
+  box_.select(1, 2);
+  takeLog();
+  paste(box_, "23");
+  box_.closeMenu(controls::BoxCommand::Paste);
+  EXPECT_EQ(box_.text(), "1995");
+  EXPECT_EQ(box_.selectedText(), "99");
+  EXPECT_EQ(takeLog(), Log{"none"});
+}
+
+TEST_P(TextBoxContract, PasteIsReportedAlsoWhenItChangesNothing) {
+  box_.onPasted = [this] { note("pasted"); };
+  box_.setText("1995");
+  box_.select(1, 2);
+  takeLog();
+  paste(box_, "99");
+  EXPECT_EQ(box_.selStart(), 3);
+  EXPECT_EQ(box_.selLength(), 0);
+  EXPECT_EQ(takeLog(), Log{"pasted"});
+  paste(box_, "7");
+  EXPECT_EQ(box_.text(), "19975");
+  EXPECT_EQ(takeLog(), (Log{"user", "pasted"}));
+}
+
+TEST_P(TextBoxContract, CutAndCopyOfNothingLeaveTheClipboard) {
+  kind_->desktop().setClipboardText("77");
+  box_.setText("12345");
+  box_.setSelStart(2);
+  takeLog();
+  box_.copy();
+  EXPECT_FALSE(box_.cut());
+  EXPECT_EQ(box_.text(), "12345");
+  EXPECT_EQ(takeLog(), Log{});
+  EXPECT_EQ(kind_->desktop().clipboardText().text, "77");
+}
+
+TEST_P(TextBoxContract, UndoBringsTheLastEditBackAndThenRedoesIt) {
+  box_.setText("12345");
+  EXPECT_FALSE(box_.canUndo());
+  EXPECT_FALSE(box_.undo());
+  box_.select(1, 2);
+  type("7");
+  takeLog();
+  EXPECT_TRUE(box_.canUndo());
+  EXPECT_TRUE(box_.undo());
+  EXPECT_EQ(box_.text(), "12345");
+  EXPECT_EQ(box_.selStart(), 3);
+  EXPECT_TRUE(box_.undo());
+  EXPECT_EQ(box_.text(), "1745");
+  EXPECT_EQ(box_.selStart(), 2);
+  EXPECT_EQ(takeLog(), (Log{"user", "user"}));
+}
+
+TEST_P(TextBoxContract, AssignmentsAreNotUndone) {
+  const auto edit = [this] {
+    box_.moveCaretToEnd();
+    type("7");
+    EXPECT_TRUE(box_.canUndo());
+    takeLog();
+  };
+  edit();
+  box_.setText("12");
+  EXPECT_FALSE(box_.undo());
+  EXPECT_EQ(box_.text(), "12");
+  EXPECT_EQ(takeLog(), Log{"program"});
+  edit();
+  box_.append("3");
+  EXPECT_FALSE(box_.undo());
+  EXPECT_EQ(box_.text(), "1273");
+  EXPECT_EQ(takeLog(), Log{"program"});
+}
+
 TEST_P(TextBoxContract, PasteCommandGoesToItsHandler) {
   box_.onPasteCommand = [this](const std::optional<std::string>& text) {
     note(text.value_or("-"));
@@ -56,6 +134,30 @@ TEST_P(TextBoxContract, ShiftDeleteCutsAndCtrlInsertCopies) {
   press(controls::kKeyInsert);
   EXPECT_EQ(box_.text(), "123");
   EXPECT_EQ(kind_->desktop().clipboardText().text, "45");
+}
+
+TEST_P(TextBoxContract, InsertAndDeleteWithOtherModifiersDoNothing) {
+  kind_->desktop().setClipboardText("77");
+  box_.setText("12345");
+  box_.select(1, 2);
+  takeLog();
+  press(controls::kKeyInsert);
+  kind_->press({.key = controls::kKeyInsert, .shift = true, .control = true}, 0);
+  kind_->press({.key = controls::kKeyDelete, .control = true}, 0);
+  kind_->press({.key = controls::kKeyDelete, .shift = true, .control = true}, 0);
+  EXPECT_EQ(box_.text(), "12345");
+  EXPECT_EQ(box_.selectedText(), "23");
+  EXPECT_EQ(takeLog(), Log{});
+  EXPECT_EQ(kind_->desktop().clipboardText().text, "77");
+}
+
+TEST_P(TextBoxContract, TellsWhichEditKeysItTakes) {
+  EXPECT_TRUE(box_.takeEditKey({.key = controls::kKeyDelete}));
+  EXPECT_TRUE(box_.takeEditKey({.key = controls::kKeyDelete, .shift = true}));
+  EXPECT_TRUE(box_.takeEditKey({.key = controls::kKeyDelete, .control = true}));
+  EXPECT_TRUE(box_.takeEditKey({.key = controls::kKeyInsert, .control = true}));
+  EXPECT_FALSE(box_.takeEditKey({.key = controls::kKeyInsert}));
+  EXPECT_FALSE(box_.takeEditKey({.key = controls::kKeyHome}));
 }
 
 TEST_P(TextBoxContract, LockedClipboardChangesNothing) {
@@ -115,8 +217,11 @@ TEST_P(TextBoxContract, MousePasteGoesToTheCaretDespiteAPasteHandler) {
 class OneLineContract : public ContractTest {};
 
 TEST_F(OneLineContract, PasteStopsAtALineBreak) {
-  paste(first_, "12\r\n34");
-  EXPECT_EQ(first_.text(), "12");
+  for (const char* text : {"quick\r\n34", "quick\n34", "quick\r34", "quick"}) {
+    first_.setText("");
+    paste(first_, text);
+    EXPECT_EQ(first_.text(), "quick") << testing::PrintToString(text);
+  }
 }
 
 TEST_F(OneLineContract, OverlongEditIsRefused) {
@@ -126,6 +231,7 @@ TEST_F(OneLineContract, OverlongEditIsRefused) {
   first_.selectAll();
   paste(first_, std::string(controls::kLongestEdit + 1, '7'));
   EXPECT_EQ(first_.text(), "12");
+  EXPECT_FALSE(first_.replaceSelection(std::string(controls::kLongestEdit + 1, '7')));
 }
 
 TEST_F(OneLineContract, PasteHandlerDecidesAboutLineBreaks) {

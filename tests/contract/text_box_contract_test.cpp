@@ -35,6 +35,12 @@ TEST_P(TextBoxContract, SelectionIsClampedToTheText) {
   box_.select(-4, 2);
   EXPECT_EQ(box_.selStart(), 0);
   EXPECT_EQ(box_.selLength(), 2);
+  box_.select(1, -2);
+  EXPECT_EQ(box_.selStart(), 1);
+  EXPECT_EQ(box_.selLength(), 0);
+  box_.setSelLength(1);
+  EXPECT_EQ(box_.selStart(), 1);
+  EXPECT_EQ(box_.selLength(), 1);
   box_.setSelStart(99);
   EXPECT_EQ(box_.selStart(), 3);
 }
@@ -70,7 +76,10 @@ TEST_P(TextBoxContract, BackspaceDeletesTheSelectionOrTheCharacterBefore) {
   box_.select(1, 2);
   type("\b");
   EXPECT_EQ(box_.text(), "15");
-  EXPECT_EQ(takeLog(), (Log{"user", "user"}));
+  box_.select(1, 1);
+  type("\b");
+  EXPECT_EQ(box_.text(), "1");
+  EXPECT_EQ(takeLog(), (Log{"user", "user", "user"}));
 }
 
 TEST_P(TextBoxContract, DeleteDeletesTheSelectionOrTheCharacterAfter) {
@@ -80,10 +89,13 @@ TEST_P(TextBoxContract, DeleteDeletesTheSelectionOrTheCharacterAfter) {
   press(controls::kKeyDelete);
   EXPECT_EQ(box_.text(), "1245");
   EXPECT_EQ(box_.selStart(), 2);
-  box_.select(0, 3);
+  box_.select(0, 2);
+  press(controls::kKeyDelete);
+  EXPECT_EQ(box_.text(), "45");
+  box_.select(0, 1);
   press(controls::kKeyDelete);
   EXPECT_EQ(box_.text(), "5");
-  EXPECT_EQ(takeLog(), (Log{"user", "user"}));
+  EXPECT_EQ(takeLog(), (Log{"user", "user", "user"}));
 }
 
 TEST_P(TextBoxContract, EditWithoutEffectRaisesNoChange) {
@@ -151,6 +163,47 @@ TEST_P(TextBoxContract, BackspaceAndDeleteRemoveASurrogatePairWhole) {
   }
 }
 
+TEST_P(TextBoxContract, SurrogatePairIsRemovedWholeAtEitherEndOfTheText) {
+  const std::string pair = "\xF0\x9F\x92\xB0";
+  for (const std::string& text : {pair, pair + "z", "a" + pair}) {
+    const int start = text.front() == 'a' ? 1 : 0;
+    box_.setText(text);
+    box_.setSelStart(start + 1);
+    type("\b");
+    EXPECT_EQ(box_.length(), static_cast<int>(text.size()) - 4) << text;
+    box_.setText(text);
+    box_.setSelStart(start + 1);
+    press(controls::kKeyDelete);
+    EXPECT_EQ(box_.length(), static_cast<int>(text.size()) - 4) << text;
+  }
+}
+
+TEST_P(TextBoxContract, TwoLettersOfTwoOrThreeBytesAreNoPair) {
+  for (const char* text : {"\u00E4\u00F6", "a\u20AC", "\u20ACa", "\u20AC\u20AC"}) {
+    box_.setText(text);
+    box_.setSelStart(1);
+    type("\b");
+    EXPECT_EQ(box_.length(), 1) << text;
+  }
+}
+
+TEST_P(TextBoxContract, EditIsAnnouncedBeforeItHappens) {
+  box_.onEdit = [this](const common::TextEdit& edit) {
+    note(std::to_string(edit.start) + "-" + std::to_string(edit.removed) + "+" +
+         std::string(edit.inserted) + " at " + box_.text());
+  };
+  box_.setText("12");
+  box_.setText("345");
+  box_.append("67");
+  box_.select(1, 2);
+  type("8");
+  type("\b");
+  box_.undo();
+  EXPECT_EQ(takeLog(),
+            (Log{"0-0+12 at ", "program", "0-2+345 at 12", "program", "3-0+67 at 345", "program",
+                 "1-2+8 at 34567", "user", "1-1+ at 3867", "user", "1-0+8 at 367", "user"}));
+}
+
 TEST_P(TextBoxContract, SelectionEndingInsideACharacterRemovesItWhole) {
   box_.setText("a\xF0\x9F\x92\xB0\xF0\x9F\x92\xB0z");
   box_.select(2, 2);
@@ -204,8 +257,10 @@ TEST_P(TextBoxContract, AlignmentChangesWithoutTouchingTheText) {
   box_.setText("12345");
   box_.select(1, 2);
   takeLog();
-  box_.setAlignment(controls::Alignment::Left);
-  box_.setAlignment(controls::Alignment::Right);
+  for (const auto alignment : {controls::Alignment::Left, controls::Alignment::Right}) {
+    box_.setAlignment(alignment);
+    EXPECT_EQ(box_.alignment(), alignment);
+  }
   EXPECT_EQ(box_.text(), "12345");
   EXPECT_EQ(box_.selStart(), 1);
   EXPECT_EQ(box_.selLength(), 2);

@@ -74,11 +74,13 @@ TEST_F(WindowContract, ControlOfABackgroundWindowGetsTheFocusLater) {
 
 TEST_F(WindowContract, TabMovesThroughTheControlsAndBack) {
   Log order;
-  for (int i = 0; i < 7; ++i) {
+  for (int i = 0; i < 9; ++i) {
     order.push_back(window_->focusedControl()->name());
     press(kKeyTab);
   }
-  EXPECT_EQ(order, (Log{"first", "second", "button", "toggle", "left", "tape", "first"}));
+  // Of the options only the chosen one, or all while none is.
+  EXPECT_EQ(order,
+            (Log{"first", "second", "button", "toggle", "left", "yes", "no", "tape", "first"}));
   kind_->press({.key = kKeyTab, .shift = true}, 0);
   EXPECT_TRUE(first_.focused());
   kind_->press({.key = kKeyTab, .shift = true}, 0);
@@ -190,6 +192,22 @@ TEST_F(WindowContract, AccessKeyClicksAButtonOrFocusesTheFieldOfALabel) {
   EXPECT_TRUE(button_.focused());
   kind_->press({.key = 'S', .alt = true}, 0);
   EXPECT_TRUE(second_.focused());
+}
+
+TEST_F(WindowContract, AccessKeyPassesOverWhatIsDisabledOrHidden) {
+  button_.onClick = [this] { note("click"); };
+  button_.setEnabled(false);
+  kind_->press({.key = 'G', .alt = true}, 0);
+  button_.setEnabled(true);
+  button_.setVisible(false);
+  kind_->press({.key = 'G', .alt = true}, 0);
+  second_.setEnabled(false);
+  kind_->press({.key = 'S', .alt = true}, 0);
+  EXPECT_EQ(window_->focusedControl(), &toggle_);
+  window_->control("label").setVisible(false);
+  kind_->press({.key = 'S', .alt = true}, 0);
+  EXPECT_EQ(window_->focusedControl(), &toggle_);
+  EXPECT_EQ(takeLog(), Log{});
 }
 
 TEST_F(WindowContract, F1AsksTheWindowForHelp) {
