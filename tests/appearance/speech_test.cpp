@@ -12,22 +12,23 @@ namespace {
 struct Heard {
   DWORD event;
   HWND window;
+  LONG object;
   std::wstring name;
 };
 
 std::vector<Heard> heard;
 
-void CALLBACK listen(HWINEVENTHOOK, DWORD event, HWND window, LONG, LONG, DWORD, DWORD) {
+void CALLBACK listen(HWINEVENTHOOK, DWORD event, HWND window, LONG object, LONG, DWORD, DWORD) {
   wchar_t name[256] = L"";
   GetWindowTextW(window, name, 256);
-  heard.push_back({event, window, name});
+  heard.push_back({event, window, object, name});
 }
 
 class Speech : public AppearanceTest {
  protected:
   void SetUp() override {
     AppearanceTest::SetUp();
-    hook_ = SetWinEventHook(EVENT_OBJECT_NAMECHANGE, EVENT_OBJECT_LIVEREGIONCHANGED, nullptr,
+    hook_ = SetWinEventHook(EVENT_OBJECT_LOCATIONCHANGE, EVENT_OBJECT_LIVEREGIONCHANGED, nullptr,
                             listen, GetCurrentProcessId(), 0, WINEVENT_OUTOFCONTEXT);
     ASSERT_NE(hook_, nullptr);
     heard.clear();
@@ -57,6 +58,23 @@ class Speech : public AppearanceTest {
   }
   static bool hearsOf(HWND window, DWORD event) {
     return hears([&](const Heard& each) { return each.event == event && each.window == window; });
+  }
+  static bool hasHeardOfCaret(HWND window) {
+    return std::any_of(heard.begin(), heard.end(), [&](const Heard& each) {
+      return each.event == EVENT_OBJECT_LOCATIONCHANGE && each.window == window &&
+             each.object == OBJID_CARET;
+    });
+  }
+  /// What the system answers a screen reader that asks for the caret's rectangle.
+  static void expectCaretAt(HWND box, int place) {
+    GUITHREADINFO thread = {};
+    thread.cbSize = sizeof thread;
+    ASSERT_TRUE(GetGUIThreadInfo(GetWindowThreadProcessId(box, nullptr), &thread));
+    EXPECT_EQ(thread.hwndCaret, box);
+    const LRESULT point = SendMessageW(box, EM_POSFROMCHAR, static_cast<WPARAM>(place), 0);
+    EXPECT_EQ(thread.rcCaret.left, static_cast<short>(LOWORD(point)));
+    EXPECT_EQ(thread.rcCaret.top, static_cast<short>(HIWORD(point)));
+    EXPECT_GT(thread.rcCaret.bottom, thread.rcCaret.top);
   }
 
  private:
@@ -99,6 +117,23 @@ TEST_F(Speech, TapeTellsOfItsTextAndItsSelection) {
   tell("type \"a\"");
   EXPECT_TRUE(hearsOf(tape, EVENT_OBJECT_VALUECHANGE));
   EXPECT_TRUE(hearsOf(tape, EVENT_OBJECT_TEXTSELECTIONCHANGED));
+}
+
+// Windows raises the event for the system's caret; Wine does not, for its own edit box either.
+TEST_F(Speech, TapeTellsWhereItsCaretIsAsTheEntryDoes) {
+  const HWND entry = control("frmCalc", "txtEntry");
+  const HWND tape = control("frmCalc", "txtTape");
+  tell("type \"12\"");
+  tell("press Home");
+  tell("focus txtTape");
+  tell("type \"abc\"");
+  tell("press Left");
+  expectCaretAt(tape, tell("get txtTape SelStart")["value"]);
+  tell("press Home");
+  expectCaretAt(tape, tell("get txtTape SelStart")["value"]);
+  // It comes after the caret's own event.
+  EXPECT_TRUE(hearsOf(tape, EVENT_OBJECT_TEXTSELECTIONCHANGED));
+  EXPECT_EQ(hasHeardOfCaret(tape), hasHeardOfCaret(entry));
 }
 
 }  // namespace
