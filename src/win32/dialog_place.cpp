@@ -1,7 +1,8 @@
 #include "win32/dialog_place.h"
 
-#include <algorithm>
 #include <utility>
+
+#include "win32/work_area.h"
 
 namespace win32 {
 namespace {
@@ -15,24 +16,17 @@ bool isDialog(HWND window) {
   return lstrcmpW(name, L"#32770") == 0;
 }
 
-LONG within(LONG place, LONG size, LONG from, LONG to) {
-  return std::max(from, std::min(place, to - size));
-}
-
 void placeOver(HWND owner, HWND dialog) {
   RECT below;
   RECT box;
-  MONITORINFO monitor = {};
-  monitor.cbSize = sizeof monitor;
   GetWindowRect(owner, &below);
   GetWindowRect(dialog, &box);
-  GetMonitorInfoW(MonitorFromWindow(owner, MONITOR_DEFAULTTONEAREST), &monitor);
-  const RECT& room = monitor.rcWork;
-  const LONG width = box.right - box.left;
-  const LONG height = box.bottom - box.top;
-  const LONG left = within((below.left + below.right - width) / 2, width, room.left, room.right);
-  const LONG top = within((below.top + below.bottom - height) / 2, height, room.top, room.bottom);
-  SetWindowPos(dialog, nullptr, left, top, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+  OffsetRect(&box, (below.left + below.right - box.left - box.right) / 2,
+             (below.top + below.bottom - box.top - box.bottom) / 2);
+  const RECT area = workAreaOf(MonitorFromWindow(owner, MONITOR_DEFAULTTONEAREST));
+  const POINT corner = cornerWithin(area, box);
+  SetWindowPos(dialog, nullptr, corner.x, corner.y, 0, 0,
+               SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 }  // namespace

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "win32/work_area.h"
+
 namespace win32 {
 namespace {
 
@@ -41,19 +43,16 @@ Scale Scale::ofScreen() {
   return Scale(static_cast<UINT>(dpi));
 }
 
-Scale Scale::at(UINT monitorDpi, HWND window, const controls::Rect& designed) {
+Scale Scale::at(UINT monitorDpi, HWND window, const controls::Rect& needed) {
   const Scale plain(monitorDpi);
   int percent = textPercent();
   if (percent == kPlainText) return plain;
-  MONITORINFO monitor = {};
-  monitor.cbSize = sizeof monitor;
-  GetMonitorInfoW(MonitorFromWindow(window, MONITOR_DEFAULTTONEAREST), &monitor);
-  const RECT& room = monitor.rcWork;
-  const auto fitting = [](LONG pixels, int wanted) {
-    return static_cast<int>(pixels) * 100 / wanted;
+  const RECT area = workAreaOf(MonitorFromWindow(window, MONITOR_DEFAULTTONEAREST));
+  const auto fitting = [&plain](LONG room, controls::Twips margin, controls::Twips size) {
+    return (static_cast<int>(room) - plain.toPixels(margin)) * 100 / plain.toPixels(size);
   };
-  percent = std::min(percent, fitting(room.right - room.left, plain.toPixels(designed.width)));
-  percent = std::min(percent, fitting(room.bottom - room.top, plain.toPixels(designed.height)));
+  percent = std::min(percent, fitting(area.right - area.left, needed.left, needed.width));
+  percent = std::min(percent, fitting(area.bottom - area.top, needed.top, needed.height));
   return Scale(monitorDpi, std::max(percent, kPlainText));
 }
 

@@ -15,8 +15,8 @@ class Scale {
   /// The scale of the whole screen, which does not change while the user is logged on.
   static Scale ofScreen();
   /// The scale of a window at the resolution of its monitor, with the user's text size, limited so
-  /// that the window as designed fits on the monitor.
-  static Scale at(UINT monitorDpi, HWND window, const controls::Rect& designed);
+  /// that a window of the needed size fits on the monitor, that far from its corner.
+  static Scale at(UINT monitorDpi, HWND window, const controls::Rect& needed);
 
   /// Pixels per inch of the window, text size included.
   int dpi() const { return dpi_; }

@@ -54,7 +54,7 @@ Window::Window(Desktop& desktop, const controls::WindowLayout& layout)
     : controls::Window(desktop, layout),
       screen_(desktop),
       handle_(createHandle()),
-      scale_(Scale::at(Scale::of(handle_).monitorDpi(), handle_, layout.place)),
+      scale_(Scale::at(Scale::of(handle_).monitorDpi(), handle_, neededOnMonitor())),
       fonts_(scale_) {
   if (!layout.menu.empty()) menu_.reset(CreateMenu());
   build();

@@ -75,6 +75,8 @@ class Window : public controls::Window {
   void limitDragging(MINMAXINFO& limits) const;
   SIZE clientSize(controls::Twips width, controls::Twips height) const;
   SIZE frameSize() const;
+  controls::Rect neededOnMonitor() const;
+  POINT cornerFor(const SIZE& size) const;
   void place();
   Placement measure() const;
   void noteGeometry();

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "win32/native_control.h"
+#include "win32/work_area.h"
 
 namespace win32 {
 
@@ -21,6 +22,22 @@ SIZE Window::frameSize() const {
   return {frame.right - frame.left, frame.bottom - frame.top};
 }
 
+// What the monitor must have room for: a window at its designed place, or, since a window of fixed
+// size is moved onto its monitor, at any place.
+controls::Rect Window::neededOnMonitor() const {
+  controls::Rect needed = layout().place;
+  if (!layout().resizable) needed.left = needed.top = 0;
+  return needed;
+}
+
+// Moving it onto its monitor does not change its bounds.
+POINT Window::cornerFor(const SIZE& size) const {
+  const POINT wanted = {screenScale_.toPixels(bounds().left), screenScale_.toPixels(bounds().top)};
+  if (layout().resizable) return wanted;
+  const RECT place = {wanted.x, wanted.y, wanted.x + size.cx, wanted.y + size.cy};
+  return cornerWithin(workAreaOf(MonitorFromRect(&place, MONITOR_DEFAULTTONEAREST)), place);
+}
+
 // The system's frame depends on the theme, the resolution of the new monitor, and the number of
 // menu lines in a narrow window, so the first attempt may not result in the wanted client area.
 void Window::place() {
@@ -29,8 +46,9 @@ void Window::place() {
   for (int attempt = 0; attempt < kAttempts; ++attempt) {
     const int dpi = scale_.dpi();
     const SIZE wanted = clientSize(bounds().width, bounds().height);
-    SetWindowPos(handle_, nullptr, screenScale_.toPixels(bounds().left),
-                 screenScale_.toPixels(bounds().top), wanted.cx + frame.cx, wanted.cy + frame.cy,
+    const SIZE size = {wanted.cx + frame.cx, wanted.cy + frame.cy};
+    const POINT corner = cornerFor(size);
+    SetWindowPos(handle_, nullptr, corner.x, corner.y, size.cx, size.cy,
                  SWP_NOZORDER | SWP_NOACTIVATE);
     if (scale_.dpi() != dpi) {
       frame = frameSize();
@@ -152,13 +170,13 @@ void Window::notePlacement(const Placed& before) {
 // The window and its contents keep their size in twips on the new monitor; a maximized one still
 // fills its screen, and a minimized one is adjusted when it is restored.
 void Window::takeResolution(const Message& message) {
-  rescale(Scale::at(LOWORD(message.wParam), handle_, layout().place),
+  rescale(Scale::at(LOWORD(message.wParam), handle_, neededOnMonitor()),
           *reinterpret_cast<const RECT*>(message.lParam));
 }
 
 // The user may have changed the text size.
 void Window::takeTextSize() {
-  const Scale now = Scale::at(scale_.monitorDpi(), handle_, layout().place);
+  const Scale now = Scale::at(scale_.monitorDpi(), handle_, neededOnMonitor());
   if (now.dpi() == scale_.dpi()) return;
   RECT place;
   GetWindowRect(handle_, &place);

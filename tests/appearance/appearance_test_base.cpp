@@ -5,6 +5,9 @@
 namespace appearance {
 namespace {
 
+constexpr wchar_t kAccessibility[] = L"Software\\Microsoft\\Accessibility";
+constexpr wchar_t kTextSize[] = L"TextScaleFactor";
+
 /// The screen's device context with the font of a control.
 class Ruler {
  public:
@@ -63,6 +66,15 @@ void AppearanceTest::setResolution(HWND window, int dpi) {
 void AppearanceTest::setResolution(HWND window, int dpi, const RECT& suggested) {
   RECT place = suggested;
   SendMessageW(window, WM_DPICHANGED, MAKEWPARAM(dpi, dpi), reinterpret_cast<LPARAM>(&place));
+}
+
+void AppearanceTest::chooseTextSize(int percent) {
+  RegSetKeyValueW(HKEY_CURRENT_USER, kAccessibility, kTextSize, REG_DWORD, &percent,
+                  sizeof percent);
+}
+
+void AppearanceTest::forgetTextSize() {
+  RegDeleteKeyValueW(HKEY_CURRENT_USER, kAccessibility, kTextSize);
 }
 
 RECT AppearanceTest::placeOf(HWND window) {

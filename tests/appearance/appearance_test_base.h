@@ -27,6 +27,10 @@ class AppearanceTest : public desktop::DesktopTest {
   /// The same with a place for the window, which is the system's suggestion.
   static void setResolution(HWND window, int dpi, const RECT& suggested);
 
+  /// Sets the text size of the user's accessibility settings, 100 to 225 percent.
+  static void chooseTextSize(int percent);
+  static void forgetTextSize();
+
   static RECT placeOf(HWND window);
   static SIZE clientSize(HWND window);
   static LOGFONTW fontOf(HWND control);
