@@ -66,7 +66,7 @@ class TapeBox : public Native<controls::TextBox> {
   int goalX() const;
   void pressMouse(const Message& message);
   void pressAgain(const Message& message);
-  bool isThirdClick(POINT point) const;
+  bool isThirdClick() const;
   void startDrag(Unit unit, Span span);
   Span spanAt(int place, Unit unit) const;
   void dragTo(POINT point);
@@ -79,6 +79,8 @@ class TapeBox : public Native<controls::TextBox> {
   // Wheel movement that has not yet added up to a line.
   int wheelRest_ = 0;
   std::optional<Goal> goal_;
+  // Where the mouse was last. While it is held outside the tape, a timer goes on dragging there.
+  POINT mouse_ = {};
   bool dragging_ = false;
   Unit dragUnit_ = Unit::Character;
   Span dragFrom_ = {0, 0};

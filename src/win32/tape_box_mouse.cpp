@@ -32,14 +32,9 @@ std::optional<LRESULT> TapeBox::takeScrolling(const Message& message) {
     case WM_MOUSEHWHEEL:
       turnWheel(-GET_WHEEL_DELTA_WPARAM(message.wParam), true);
       return 0;
-    default: {
-      if (!dragging_) return 0;
-      POINT mouse;
-      GetCursorPos(&mouse);
-      ScreenToClient(handle(), &mouse);
-      dragTo(mouse);
+    default:
+      if (dragging_) dragTo(mouse_);
       return 0;
-    }
   }
 }
 
@@ -63,7 +58,8 @@ std::optional<LRESULT> TapeBox::takeMouse(const Message& message) {
       pressMouse(message);
       return 0;
     case WM_MOUSEMOVE:
-      if (dragging_) dragTo(mousePlace(message));
+      // The system also sends one, without a button, when windows move under the pointer.
+      if (dragging_ && (message.wParam & MK_LBUTTON)) dragTo(mouse_ = mousePlace(message));
       return 0;
     case WM_LBUTTONUP:
       if (dragging_) ReleaseCapture();
@@ -83,14 +79,14 @@ std::optional<LRESULT> TapeBox::takeMouse(const Message& message) {
 
 // The position is determined before the focus moves, since a focus handler may scroll the tape.
 void TapeBox::pressMouse(const Message& message) {
-  const POINT point = mousePlace(message);
-  const int place = view_.placeAt(point);
+  mouse_ = mousePlace(message);
+  const int place = view_.placeAt(mouse_);
   const int firstLine = view_.firstLine();
   const int anchor = isDown(VK_SHIFT) ? view_.anchor() : place;
   SetFocus(handle());
   mouseDown();
   view_.scrollTo(firstLine);
-  if (isThirdClick(point)) return startDrag(Unit::Line, spanAt(place, Unit::Line));
+  if (isThirdClick()) return startDrag(Unit::Line, spanAt(place, Unit::Line));
   doubleClickTime_ = 0;
   view_.select(anchor, place);
   startDrag(Unit::Character, {anchor, anchor});
@@ -98,16 +94,17 @@ void TapeBox::pressMouse(const Message& message) {
 
 void TapeBox::pressAgain(const Message& message) {
   doubleClickTime_ = static_cast<DWORD>(GetMessageTime());
-  doubleClickPlace_ = mousePlace(message);
+  mouse_ = doubleClickPlace_ = mousePlace(message);
   startDrag(Unit::Word, spanAt(view_.caret(), Unit::Word));
   doubleClick();
 }
 
-bool TapeBox::isThirdClick(POINT point) const {
-  const auto now = static_cast<DWORD>(GetMessageTime());
-  return doubleClickTime_ != 0 && now - doubleClickTime_ <= GetDoubleClickTime() &&
-         std::abs(point.x - doubleClickPlace_.x) <= GetSystemMetrics(SM_CXDOUBLECLK) &&
-         std::abs(point.y - doubleClickPlace_.y) <= GetSystemMetrics(SM_CYDOUBLECLK);
+bool TapeBox::isThirdClick() const {
+  // The time of a message that was sent, not posted, may be a little before an earlier one's.
+  const auto passed = static_cast<LONG>(static_cast<DWORD>(GetMessageTime()) - doubleClickTime_);
+  return doubleClickTime_ != 0 && passed <= static_cast<LONG>(GetDoubleClickTime()) &&
+         std::abs(mouse_.x - doubleClickPlace_.x) <= GetSystemMetrics(SM_CXDOUBLECLK) &&
+         std::abs(mouse_.y - doubleClickPlace_.y) <= GetSystemMetrics(SM_CYDOUBLECLK);
 }
 
 void TapeBox::startDrag(Unit unit, Span span) {

@@ -76,6 +76,20 @@ TEST_F(TapeEdit, ClickLaterOrElsewhereIsAFirstOne) {
   expectSelected(14, 14);
 }
 
+// On a slow computer the pointer is ahead of the messages.
+TEST_F(TapeEdit, TimerOfADragGoesByTheMouseMessagesAlone) {
+  write(L"one two three four five\r\n");
+  click(14);
+  send(WM_TIMER, 1);
+  expectSelected(14, 14);
+  click(18, WM_MOUSEMOVE);
+  send(WM_TIMER, 1);
+  expectSelected(14, 18);
+  send(WM_MOUSEMOVE, 0);
+  expectSelected(14, 18);
+  send(WM_LBUTTONUP);
+}
+
 TEST_F(TapeEdit, CaretRemembersItsColumnAcrossAShortLine) {
   tell("menu mnuWinPadTape");
   tell("focus txtTape");
