@@ -12,6 +12,9 @@ namespace {
 // The longest text that is read, including the zero. No program path is longer.
 constexpr std::size_t kLongestText = 1024;
 
+// The room for a text at the first try, including the zero: almost every text fits.
+constexpr std::size_t kUsualText = 64;
+
 constexpr REGSAM kReadAndWrite = KEY_READ | KEY_WRITE | KEY_CREATE_LINK;
 static_assert(kReadAndWrite == 0x2003F);
 
@@ -39,7 +42,7 @@ std::optional<DWORD> readDoubleWord(HKEY key, const std::wstring& name) {
 std::optional<std::wstring> readText(HKEY key, const std::wstring& name) {
   std::wstring text;
   LSTATUS status = ERROR_MORE_DATA;
-  for (DWORD size = 0; status == ERROR_MORE_DATA;) {
+  for (DWORD size = kUsualText * sizeof(wchar_t); status == ERROR_MORE_DATA;) {
     text.resize(size / sizeof(wchar_t) + 1);
     size = static_cast<DWORD>(text.size() * sizeof(wchar_t));
     // This also matches an expandable value, which is expanded.

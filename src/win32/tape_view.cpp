@@ -62,7 +62,7 @@ void TapeView::refresh() {
   keepInView();
   updateScrollBars();
   if (hasCaret_) placeCaret();
-  InvalidateRect(window_, nullptr, FALSE);
+  if (IsWindowVisible(window_)) InvalidateRect(window_, nullptr, FALSE);
 }
 
 RECT TapeView::clientArea() const {

@@ -58,11 +58,14 @@ std::optional<LRESULT> Window::takeFocus(const Message& message) {
     focusNative();
     return 0;
   }
-  if (LOWORD(message.wParam) != WA_INACTIVE) {
-    takeTextSize();
-    noteActivated();
-  }
-  return {};
+  if (LOWORD(message.wParam) == WA_INACTIVE) return {};
+  takeTextSize();
+  noteActivated();
+  const bool minimized = HIWORD(message.wParam) != 0;
+  if (minimized || !focusedControl()) return {};
+  // The system would give the focus to the window first, which then would pass it on.
+  focusNative();
+  return 0;
 }
 
 std::optional<LRESULT> Window::takeControl(const Message& message) {
