@@ -1,5 +1,7 @@
 #include "engine/amount.h"
 
+#include <cmath>
+
 #include "common/number_text.h"
 
 namespace engine {
@@ -7,8 +9,12 @@ namespace engine {
 // The text decides: it has at most 15 digits.
 Amount amountOf(double value) {
   std::string text = common::toText(value);
-  const double said = common::tryNumber(text).value_or(value);
-  return {std::move(text), said};
+  const double shown = common::toNumber(text);
+  return {std::move(text), shown};
+}
+
+bool isShowable(double value) {
+  return std::isfinite(value) && common::tryNumber(common::toText(value)).has_value();
 }
 
 }  // namespace engine

@@ -10,7 +10,11 @@ struct Amount {
   double value = 0;
 };
 
-/// A number with its shortest text.
+/// A showable number with its shortest text.
 Amount amountOf(double value);
+
+/// Whether a number is finite and its shortest text can be read again: next to the largest double,
+/// rounding to 15 digits leads beyond it.
+bool isShowable(double value);
 
 }  // namespace engine

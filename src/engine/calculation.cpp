@@ -1,5 +1,7 @@
 #include "engine/calculation.h"
 
+#include <array>
+#include <cassert>
 #include <cmath>
 
 #include "common/run_time_error.h"
@@ -8,22 +10,11 @@ namespace engine {
 
 namespace {
 
+// In the order of the operators. Equals has no mark: the total closes the calculation at once.
+constexpr std::array kMarks = {Mark::Plus, Mark::Minus, Mark::Times, Mark::Divide, Mark::Root};
+
 Mark markOf(Operator key) {
-  switch (key) {
-    case Operator::Plus:
-      return Mark::Plus;
-    case Operator::Minus:
-      return Mark::Minus;
-    case Operator::Times:
-      return Mark::Times;
-    case Operator::Divide:
-      return Mark::Divide;
-    case Operator::Root:
-      return Mark::Root;
-    case Operator::Equals:
-      break;
-  }
-  return Mark::Total;
+  return kMarks.at(static_cast<std::size_t>(key));
 }
 
 Outcome checkRange(double total, double largestTotal, Outcome outcome) {
@@ -37,7 +28,7 @@ Outcome checkRange(double total, double largestTotal, Outcome outcome) {
 Outcome Calculation::add(const Amount& amount, Operator key, double largestTotal) {
   if (key == Operator::Plus || key == Operator::Minus) {
     const double sum = resultOf(key, amount.value);
-    if (!std::isfinite(sum)) return Refusal{common::kOverflow};
+    if (!isShowable(sum)) return Refusal{common::kOverflow};
     total_ = sum;
     lastMark_ = markOf(key);
   }
@@ -66,7 +57,7 @@ Outcome Calculation::calculateWith(Operator waiting, const Amount& amount) {
   if (waiting == Operator::Divide && amount.value == 0) return Refusal{common::kDivisionByZero};
   if (waiting == Operator::Root && amount.value < 0) return Refusal{common::kInvalidProcedureCall};
   const double result = resultOf(waiting, amount.value);
-  if (!std::isfinite(result)) return Refusal{common::kOverflow};
+  if (!isShowable(result)) return Refusal{common::kOverflow};
   total_ = result;
   lastMark_ = markOf(waiting);
   return TapeLine{amount, lastMark_};
@@ -82,12 +73,10 @@ double Calculation::resultOf(Operator key, double amount) const {
       return total_ * amount;
     case Operator::Divide:
       return total_ / amount;
-    case Operator::Root:
+    default:
+      assert(key == Operator::Root);
       return std::sqrt(amount);
-    case Operator::Equals:
-      break;
   }
-  return total_;
 }
 
 void Calculation::close() {

@@ -19,9 +19,12 @@ constexpr controls::Twips kWidthOfALongTotal = 2300;
 
 std::optional<Amount> Entry::amountIn(const std::string& text) const {
   Amount amount = {.text = text};
-  const bool isNumber =
-      common::trap([&] { amount.value = common::toNumber(text); },
-                   [&](const common::RunTimeError& error) { showError(desktop_, error.number()); });
+  const bool isNumber = common::trap(
+      [&] {
+        amount.value = common::toNumber(text);
+        if (!isShowable(amount.value)) throw common::RunTimeError(common::kOverflow);
+      },
+      [&](const common::RunTimeError& error) { showError(desktop_, error.number()); });
   return isNumber ? std::optional(amount) : std::nullopt;
 }
 
@@ -40,7 +43,7 @@ void Entry::clear() {
 }
 
 void Entry::showValue(const std::string& text) {
-  field_.rewrite(text, 0);
+  field_.reformat(text);
   box_.moveCaretToEnd();
   origin_ = Origin::Value;
 }
@@ -89,7 +92,7 @@ void Entry::changeSign() {
   if (text.empty()) return;
   const int caret = box_.selStart();
   if (hasSign(text)) {
-    field_.rewrite(text.substr(1), std::max(caret - 1, 0));
+    field_.rewrite(text.substr(1), caret - 1);
   } else {
     field_.rewrite("-" + text, caret + 1);
   }

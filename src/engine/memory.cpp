@@ -1,7 +1,5 @@
 #include "engine/memory.h"
 
-#include <cmath>
-
 #include "common/number_text.h"
 #include "common/run_time_error.h"
 #include "engine/show_error.h"
@@ -32,7 +30,7 @@ void Memory::keep(double base) {
   const auto amount = entry_.amountIn(text);
   if (!amount) return;
   const double sum = base + amount->value;
-  if (!std::isfinite(sum)) {
+  if (!isShowable(sum)) {
     showError(desktop_, common::kOverflow);
     return;
   }
