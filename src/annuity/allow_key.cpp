@@ -7,7 +7,7 @@ namespace annuity {
 namespace {
 
 // Comma, and the characters of Ctrl+C, Ctrl+V, Ctrl+X and Ctrl+Z.
-constexpr std::array<controls::KeyAscii, 5> kAlwaysAllowed = {',', 3, 22, 24, 26};
+constexpr std::array kAlwaysAllowed = {controls::KeyAscii{','}, 3, 22, 24, 26};
 
 bool isAllowed(controls::KeyAscii key, std::string_view kind, std::string_view text) {
   if (key == controls::kKeyEnter || key == controls::kKeyBackspace) return true;

@@ -13,12 +13,12 @@ using controls::TextBox;
 
 namespace {
 
-// Separators follow the keyed digits; a key that only moves the caret changes none.
-void tidyMoney(TextBox& field, KeyCode key) {
+// Separators follow the digits only when these have changed.
+void tidyMoney(TextBox& field, bool digitsChanged) {
   NumberField number(field);
   number.repairSign();
   number.dropSeparatorsBehindPoint();
-  if (!controls::isNavigationKey(key)) number.reformat(groupThousands(field.text()));
+  if (digitsChanged) number.reformat(groupThousands(field.text()));
   number.dropLeadingCommas();
 }
 
@@ -29,11 +29,11 @@ void frmAnnuity::wireMoneyField(TextBox& field) {
     if (key == controls::kKeyBackspace) NumberField(field).stepOverSeparator();
     takeKey(field, key);
   };
-  field.onKeyUp = [&field](KeyCode key) { tidyMoney(field, key); };
+  field.onKeyUp = [&field](KeyCode key) { tidyMoney(field, !controls::isNavigationKey(key)); };
   // No key comes up behind what the mouse or another program does.
-  field.onPasted = [&field] { tidyMoney(field, 0); };
+  field.onPasted = [&field] { tidyMoney(field, true); };
   field.onMouseUp = [&field](controls::MouseEdit edit) {
-    if (edit != controls::MouseEdit::None) tidyMoney(field, 0);
+    if (edit != controls::MouseEdit::None) tidyMoney(field, true);
   };
 }
 
@@ -50,7 +50,7 @@ void frmAnnuity::takeKey(TextBox& field, KeyAscii& key) {
 bool frmAnnuity::takeEnterAsTab(KeyAscii& key) {
   if (key != controls::kKeyEnter) return false;
   key = 0;
-  window_->sendKey(controls::kKeyTab, 0);
+  window_->sendKey(controls::kKeyTab, controls::kKeyTab);
   return true;
 }
 

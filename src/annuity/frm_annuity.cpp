@@ -13,7 +13,8 @@ frmAnnuity::frmAnnuity(controls::Desktop& desktop, Program& program)
       window_(desktop.createWindow(frmAnnuityLayout())),
       fields_{&window_->textBox("txtNper"), &window_->textBox("txtRate"),
               &window_->textBox("txtPmt"), &window_->textBox("txtPV"), &window_->textBox("txtFV")},
-      optNper{&window_->optionButton("optNper(0)"), &window_->optionButton("optNper(1)")},
+      optTermInMonths(window_->optionButton("optNper(0)")),
+      optTermInYears(window_->optionButton("optNper(1)")),
       optDueAtBeginning(window_->optionButton("optDue(1)")),
       cmdPrintToTape(window_->button("cmdPrintToTape")),
       lblResultType(window_->control("lblResultType")),
@@ -63,7 +64,7 @@ void frmAnnuity::calculate() {
 AnnuityProblem frmAnnuity::problem() const {
   AnnuityProblem problem;
   for (const Quantity quantity : kQuantities) problem.texts[quantity] = fields_[quantity]->text();
-  problem.termInMonths = optNper[0]->value();
+  problem.termInMonths = optTermInMonths.value();
   problem.dueAtBeginning = optDueAtBeginning.value();
   return problem;
 }

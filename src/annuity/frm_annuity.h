@@ -1,6 +1,5 @@
 #pragma once
 
-#include <array>
 #include <memory>
 #include <string>
 
@@ -80,7 +79,8 @@ class frmAnnuity {
   Program& program_;
   std::unique_ptr<controls::Window> window_;
   PerQuantity<controls::TextBox*> fields_;
-  std::array<controls::OptionButton*, 2> optNper;
+  controls::OptionButton& optTermInMonths;
+  controls::OptionButton& optTermInYears;
   controls::OptionButton& optDueAtBeginning;
   controls::Button& cmdPrintToTape;
   controls::Control& lblResultType;

@@ -31,7 +31,7 @@ void frmAnnuity::print() {
 std::string frmAnnuity::record() const {
   const auto valueOnTape = [this](Quantity quantity) {
     const std::string text = fields_[quantity]->text();
-    if (quantity == Quantity::Term) return termOnTape(text, optNper[0]->value());
+    if (quantity == Quantity::Term) return termOnTape(text, optTermInMonths.value());
     return quantity == Quantity::Rate ? rateOnTape(text) : moneyOnTape(text);
   };
   std::vector<TapeEntry> entries;

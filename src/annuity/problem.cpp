@@ -12,12 +12,12 @@ namespace {
 
 /// The quantities as arguments of the time-value functions; the unknown is 0.
 struct Flows {
-  double rate = 0;
-  double nper = 0;
-  double pmt = 0;
-  double pv = 0;
-  double fv = 0;
-  int due = 0;
+  double rate;
+  double nper;
+  double pmt;
+  double pv;
+  double fv;
+  int due;
 };
 
 // The window groups amounts while they are keyed; a term or a rate is taken as typed.
@@ -32,14 +32,14 @@ Flows flowsOf(const AnnuityProblem& problem, Quantity unknown, const Configurati
   const auto number = [&](Quantity quantity) {
     return quantity == unknown ? 0 : numberOf(quantity, problem.texts[quantity]);
   };
-  Flows flows;
-  flows.rate = number(Quantity::Rate) * 0.01 / 12;
-  flows.nper = common::finite(number(Quantity::Term) * (problem.termInMonths ? 1 : 12));
-  flows.pmt = number(Quantity::Payment) * configuration.signPmt;
-  flows.pv = number(Quantity::PresentValue) * configuration.signPV;
-  flows.fv = number(Quantity::FutureValue) * configuration.signFV;
-  flows.due = problem.dueAtBeginning ? 1 : 0;
-  return flows;
+  return {
+      .rate = number(Quantity::Rate) * 0.01 / 12,
+      .nper = common::finite(number(Quantity::Term) * (problem.termInMonths ? 1 : 12)),
+      .pmt = number(Quantity::Payment) * configuration.signPmt,
+      .pv = number(Quantity::PresentValue) * configuration.signPV,
+      .fv = number(Quantity::FutureValue) * configuration.signFV,
+      .due = problem.dueAtBeginning ? 1 : 0,
+  };
 }
 
 std::string termAnswer(double months, bool inMonths) {

@@ -42,7 +42,6 @@ void frmAnnuity::writeCaptions() {
   setCaption("optNper(0)", "&Months");
   setCaption("optNper(1)", "&Years");
   setCaption("cmdCalculate", "Calculate");
-  setCaption("lblAnswer", "");
   setCaption("lblResultType", "Answer:");
   setCaption("optDue(0)", "the end (default)");
   setCaption("optDue(1)", "the beginning");
@@ -64,8 +63,8 @@ void frmAnnuity::restorePlace(const controls::Rect& main) {
 
 void frmAnnuity::restoreFields() {
   const common::SettingsStore& settings = desktop_.settings();
-  optNper[0]->setValue(common::readTruth(settings, kSection, "OptNper0", true));
-  optNper[1]->setValue(common::readTruth(settings, kSection, "OptNper1", false));
+  optTermInMonths.setValue(common::readTruth(settings, kSection, "OptNper0", true));
+  optTermInYears.setValue(common::readTruth(settings, kSection, "OptNper1", false));
   for (const Quantity quantity : kQuantities) {
     TextBox& field = *fields_[quantity];
     const std::string_view fallback = quantity == Quantity::FutureValue ? "0" : "";
@@ -80,13 +79,12 @@ void frmAnnuity::unload() {
 
 void frmAnnuity::save() {
   if (!restored_) return;
-  restored_ = false;
   common::SettingsStore& settings = desktop_.settings();
   const controls::Rect& place = window_->bounds();
   settings.write(kPlaceSection, "Left" + window_->name(), common::toText(place.left));
   settings.write(kPlaceSection, "Top" + window_->name(), common::toText(place.top));
-  settings.write(kSection, "OptNper0", common::truthText(optNper[0]->value()));
-  settings.write(kSection, "OptNper1", common::truthText(optNper[1]->value()));
+  settings.write(kSection, "OptNper0", common::truthText(optTermInMonths.value()));
+  settings.write(kSection, "OptNper1", common::truthText(optTermInYears.value()));
   for (const TextBox* field : fields_.values)
     settings.write(kSection, field->name(), field->text());
 }

@@ -41,7 +41,8 @@ Factors usableFactors(double rate, double nper, int due) {
   const bool powerOfNothing = rate == -1 && nper < 0;
   const Factors factors = factorsAt(rate, nper, due);
   if (powerOfNothing || std::isnan(factors.q)) throw RunTimeError(kInvalidProcedureCall);
-  if (!std::isfinite(factors.q) || !std::isfinite(factors.s)) throw RunTimeError(kOverflow);
+  // s overflows with q, and before it.
+  if (!std::isfinite(factors.s)) throw RunTimeError(kOverflow);
   return factors;
 }
 
@@ -77,10 +78,9 @@ Factors slopesAt(double rate, double nper, int due, const Factors& factors) {
   const double qSlope = nper * factors.q / (1 + rate);
   const double k = 1 + rate * due;
   const double gained = factors.s / k;  // (q - 1) / rate
-  // Near 0 the difference cancels out; the series is precise enough for a step.
+  // Near 0 the difference cancels out; its limit is precise enough for a step.
   const bool nearZero = std::abs(nper * rate) < 1e-5;
-  const double gainedSlope =
-      nearZero ? nper * (nper - 1) * (0.5 + (nper - 2) / 3 * rate) : (qSlope - gained) / rate;
+  const double gainedSlope = nearZero ? nper * (nper - 1) / 2 : (qSlope - gained) / rate;
   return {qSlope, due * gained + k * gainedSlope};
 }
 

@@ -77,13 +77,6 @@ void AddingMachine::clearEntry() {
 }
 
 void AddingMachine::clearTotal() {
-  clearCalculation();
-  entry_.setFocus();
-  entry_.moveCaretToEnd();
-}
-
-void AddingMachine::clearCalculation() {
-  entry_.showValue("0");
   if (mode_ == Mode::Product) mode_ = Mode::Add;
   calculation_.clearTotal();
   postToTape({{"0", 0}, Mark::Total});
@@ -96,10 +89,9 @@ void AddingMachine::clearTape() {
 }
 
 void AddingMachine::clearAll() {
-  clearCalculation();
+  clearTotal();
   clearEntry();
   clearTape();
-  lastAmount_ = 0;
 }
 
 }  // namespace engine

@@ -73,7 +73,6 @@ class AddingMachine {
   void showPercent(const Amount& amount);
   bool entryIsTyped(const std::string& text) const;
   void askForPlusOrMinus(const std::string& text);
-  void clearCalculation();
 
   void postToTape(const TapeLine& line);
   void postFailure(const Failure& failure);

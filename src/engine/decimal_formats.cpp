@@ -15,7 +15,7 @@ using common::kWholePattern;
 namespace {
 
 constexpr std::string_view kSmallNumberPattern = "###.00000000000000";
-constexpr std::array<double, 10> kScale = {1, 0.1, 0.01, 1e-3, 1e-4, 1e-5, 1e-6, 1e-7, 1e-8, 1e-9};
+constexpr std::array kScale = {1.0, 0.1, 0.01, 1e-3, 1e-4, 1e-5, 1e-6, 1e-7, 1e-8, 1e-9};
 
 bool hasDigit(std::string_view text) {
   return text.find_first_of("0123456789") != std::string_view::npos;
@@ -23,19 +23,16 @@ bool hasDigit(std::string_view text) {
 
 // A minus before zeros is kept as the sign of the digits to come.
 std::string keepSign(std::string_view typed, std::string formatted) {
-  const bool lost = typed.starts_with('-') && !formatted.starts_with('-');
-  if (lost && common::tryNumber(typed) == 0.0) formatted.insert(0, 1, '-');
+  if (typed.starts_with('-') && common::tryNumber(typed) == 0.0) formatted.insert(0, 1, '-');
   return formatted;
 }
 
 std::string groupWhole(std::string_view text) {
-  if (!hasDigit(text)) return std::string(text);
   return keepSign(text, formatText(text, kWholePattern));
 }
 
 int trailingZeros(std::string_view digits) {
-  const auto last = digits.find_last_not_of('0');
-  return static_cast<int>(digits.size() - (last == std::string_view::npos ? 0 : last + 1));
+  return static_cast<int>(digits.size() - digits.find_last_not_of('0')) - 1;
 }
 
 }  // namespace
@@ -58,9 +55,8 @@ std::string formatFloating(std::string_view text) {
 }
 
 std::string formatKeyed(std::string_view text, int places) {
-  if (!hasDigit(text)) return std::string(text);
   const auto point = text.find('.');
-  if (point == std::string_view::npos) return keepSign(text, formatText(text, kWholePattern));
+  if (point == std::string_view::npos) return groupWhole(text);
   const int typed = static_cast<int>(text.size() - point) - 1;
   const std::string pattern =
       typed == 0 ? std::string(kWholePattern) + "." : decimalsPattern(std::min(typed, places));
@@ -75,8 +71,7 @@ std::string formatStationary(std::string_view text, int places) {
   const double value = common::toNumber(digits);
   // Scaling loses trailing zeros; they are appended again.
   const int zeros = value == 0 ? 0 : trailingZeros(digits);
-  const std::string scaled =
-      places == 0 ? digits : common::toText(value * kScale[static_cast<std::size_t>(places)]);
+  const std::string scaled = common::toText(value * kScale.at(static_cast<std::size_t>(places)));
   std::string shown = keepSign(digits, formatKeyed(scaled, places));
   if (zeros == 0 || places == 0) return shown;
   if (shown.find('.') != std::string::npos)
@@ -85,7 +80,6 @@ std::string formatStationary(std::string_view text, int places) {
 }
 
 std::string formatValue(std::string_view text, int places) {
-  if (!hasDigit(text)) return std::string(text);
   return keepSign(text, formatText(text, decimalsPattern(places)));
 }
 

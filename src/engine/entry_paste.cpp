@@ -6,7 +6,7 @@ namespace engine {
 
 // Where the comma is the decimal sign, 12,50 does not mean 1,250.
 void EntryPaste::paste(const std::optional<std::string>& text) {
-  const std::string pasted = controls::withoutLineEnd(text.value_or(""));
+  const std::string pasted = controls::withoutLineEnd(text.value_or(std::string()));
   if (common::hasOddCommas(pasted)) {
     refuse();
   } else {
@@ -47,13 +47,12 @@ void EntryPaste::refuse() {
 }
 
 // Extra decimals are cut off, not rounded.
-std::string EntryPaste::withPlaces(std::string text) const {
+std::string EntryPaste::withPlaces(const std::string& text) const {
   const auto point = text.find('.');
   if (decimals_.floating() || point == std::string::npos) return text;
   const auto places = static_cast<std::size_t>(decimals_.places());
   const auto kept = places == 0 ? point : point + 1 + places;
-  if (text.size() > kept) text.resize(kept);
-  return text;
+  return text.substr(0, kept);
 }
 
 }  // namespace engine

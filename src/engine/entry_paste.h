@@ -24,7 +24,7 @@ class EntryPaste {
  private:
   void take(const std::string& text);
   void refuse();
-  std::string withPlaces(std::string text) const;
+  std::string withPlaces(const std::string& text) const;
 
   Entry& entry_;
   const Decimals& decimals_;

@@ -92,9 +92,8 @@ void AddingMachine::postToTape(const TapeLine& line) {
 // Prints the reason and starts a new calculation.
 void AddingMachine::postFailure(const Failure& failure) {
   tape_.printFailure(failure.reason);
-  clearCalculation();
+  clearTotal();
   desktop_.showMessage({.text = "The entry caused an error: " + std::string(failure.reason)});
-  entry_.setFocus();
 }
 
 // The modes can be changed only between two calculations.

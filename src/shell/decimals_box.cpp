@@ -52,7 +52,6 @@ void DecimalsBox::floatingChanged() {
   mnuEditStationaryDecimal_.setEnabled(!floating);
   controls_.txtDec.setEnabled(!floating);
   controls_.txtDec.setBackColor(floating ? Color::buttonFace() : Color::window());
-  if (!floating) controls_.chkShiftDec.setCaption("");
   controls_.txtEntry.setFocus();
 }
 
