@@ -1,5 +1,6 @@
 #include "inmemory/window.h"
 
+#include "inmemory/button.h"
 #include "inmemory/desktop.h"
 #include "inmemory/text_box.h"
 
@@ -18,7 +19,7 @@ std::unique_ptr<controls::Control> Window::makeControl(const controls::ControlLa
     case ControlKind::TextBox:
       return std::make_unique<TextBox>(*this, layout);
     case ControlKind::Button:
-      return std::make_unique<controls::Button>(*this, layout);
+      return std::make_unique<Button>(*this, layout);
     case ControlKind::ToggleButton:
       return std::make_unique<controls::ToggleButton>(*this, layout);
     case ControlKind::OptionButton:

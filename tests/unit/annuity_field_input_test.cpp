@@ -53,5 +53,23 @@ TEST_F(MoneyField, GroupsWhatItsOwnMenuLeavesAtOnce) {
   EXPECT_EQ(box_.text(), "134");
 }
 
+// What is left to be typed of a character.
+controls::KeyAscii afterPress(controls::Control& control, controls::KeyAscii key) {
+  control.onKeyPress(key);
+  return key;
+}
+
+TEST_F(MoneyField, DiscardsWhatItDoesNotAccept) {
+  EXPECT_EQ(afterPress(box_, '7'), '7');
+  EXPECT_EQ(desktop_.beeps, 0);
+  EXPECT_EQ(afterPress(box_, 'x'), 0);
+  EXPECT_EQ(desktop_.beeps, 1);
+}
+
+TEST_F(MoneyField, DiscardsEnter) {
+  EXPECT_EQ(afterPress(box_, controls::kKeyEnter), 0);
+  EXPECT_EQ(desktop_.beeps, 0);
+}
+
 }  // namespace
 }  // namespace annuity

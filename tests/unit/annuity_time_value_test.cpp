@@ -110,6 +110,14 @@ TEST(TimeValue, AtMinus100PercentOnlyTheLastPaymentCounts) {
   EXPECT_EQ(annuity::pmt(-1, 12, 1000, -70, 0), 70);
 }
 
+// (1 + rate)^nper is 1E+305 here, and what payments of 1 grow to is beyond the range.
+TEST(TimeValue, OverflowOfTheEndValueIsAnError) {
+  constexpr double kPeriods = 70'229'097;
+  EXPECT_EQ(errorOf([] { return annuity::pmt(1e-5, kPeriods, 1000, 0, 0); }), 6);
+  EXPECT_EQ(errorOf([] { return annuity::pv(1e-5, kPeriods, 0, 1000, 0); }), 6);
+  EXPECT_EQ(errorOf([] { return annuity::fv(1e-5, kPeriods, 0, 1000, 0); }), 6);
+}
+
 TEST(TimeValue, NeverReturnsNegativeZero) {
   EXPECT_FALSE(std::signbit(annuity::fv(0, 12, 0, 0, 0)));
   EXPECT_FALSE(std::signbit(annuity::pv(0.01, 12, 0, 0, 1)));
@@ -146,13 +154,14 @@ double lastDigitsAbove(double value, int steps) {
   return value;
 }
 
-// The tolerance is 16 units of the last place, and 4 more for each unit of the exponent: here 35
-// and 70 units of an amount are within it, 45 and 90 beyond.
+// The tolerance is 16 units of the last place, and 4 more for each unit of the exponent: here 37
+// and 145 units of an amount are within it, 38 and 170 beyond.
 TEST(NPer, RoundsOnlyWithinFloatingPointError) {
-  EXPECT_EQ(annuity::nper(0, -100, lastDigitsAbove(1200, 35), 0, 0), 12);
-  EXPECT_NE(annuity::nper(0, -100, lastDigitsAbove(1200, 45), 0, 0), 12);
-  EXPECT_EQ(annuity::nper(0.00625, -699.2145085527792, lastDigitsAbove(100000, 70), 0, 0), 360);
-  EXPECT_NE(annuity::nper(0.00625, -699.2145085527792, lastDigitsAbove(100000, 90), 0, 0), 360);
+  EXPECT_EQ(annuity::nper(0, -100, lastDigitsAbove(1200, 37), 0, 0), 12);
+  EXPECT_NE(annuity::nper(0, -100, lastDigitsAbove(1200, 38), 0, 0), 12);
+  const double payment = annuity::pmt(0.025, 360, 100000, 0, 0);
+  EXPECT_EQ(annuity::nper(0.025, payment, lastDigitsAbove(100000, 145), 0, 0), 360);
+  EXPECT_NE(annuity::nper(0.025, payment, lastDigitsAbove(100000, 170), 0, 0), 360);
 }
 
 // Two payments of 10 grow to 10 (2 + rate).
@@ -167,6 +176,23 @@ TEST(Rate, StartsFromTheGuess) {
   EXPECT_NEAR(annuity::rate(208, -700, 137600, 8000, 0, -0.08), -0.08749999147846454, 1e-9);
   EXPECT_EQ(errorOf([] { return annuity::rate(360, -699.21, 100000, 0, 0, -1); }), 5);
   EXPECT_EQ(errorOf([] { return annuity::rate(45, -790, 4105, 0, 0, -3.8092); }), 5);
+}
+
+// Whether an amount is saved up depends on the signs alone, however small the amounts are.
+TEST(Rate, IsFoundForEverySignOfSmallAmounts) {
+  EXPECT_NEAR(annuity::rate(120, -0.5, 0, 1, 0), -0.5, 1e-9);
+  EXPECT_NEAR(annuity::rate(120, 0.5, 0, -1, 0), -0.5, 1e-9);
+  EXPECT_NEAR(annuity::rate(60, 0.5, 0, -0.5, 1), -0.5, 1e-9);
+  EXPECT_NEAR(annuity::rate(60, -0.5, 0, 0.75, 0), -2.0 / 3, 1e-9);
+  EXPECT_NEAR(annuity::rate(2, -0.5, 100, 0.5, 0), -0.995, 1e-9);
+  EXPECT_NEAR(annuity::rate(24, -0.5, 1, -1, 1), 1, 1e-9);
+  EXPECT_NEAR(annuity::rate(360, -1, 0.5, 50, 0), 2, 1e-9);
+  EXPECT_NEAR(annuity::rate(480, -1, 1, -700000, 0), 1, 1e-9);
+}
+
+TEST(Rate, TakesTwentyStepsAndNoMore) {
+  EXPECT_NEAR(annuity::rate(2, -0.5, 1, -100000, 1), 446.713875008, 1e-8);
+  EXPECT_EQ(errorOf([] { return annuity::rate(3, -10, 10, 150000, 1); }), 5);
 }
 
 TEST(Rate, RefusesRatesNextToMinusOne) {

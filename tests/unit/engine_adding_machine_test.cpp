@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <memory>
+
 #include "common/run_time_error.h"
 #include "engine/show_error.h"
 #include "inmemory/desktop.h"
@@ -17,6 +19,42 @@ TEST(ShowError, ShowsOneMessage) {
   EXPECT_EQ(desktop.boxes[0].box.text, "Error:11 Division by zero");
   EXPECT_EQ(desktop.boxes[0].box.title, "Tallyrex");
   EXPECT_EQ(desktop.boxes[0].box.buttons, controls::Buttons::Ok);
+}
+
+class EntryKey : public testing::Test {
+ protected:
+  // What is left to be typed of a character.
+  controls::KeyAscii afterPress(controls::KeyAscii key) {
+    machine_.keyPress(key);
+    return key;
+  }
+
+  inmemory::Desktop desktop_;
+  std::unique_ptr<controls::Window> window_ = desktop_.createWindow(shell::frmCalcLayout());
+  MachineControls controls_{*window_};
+  AddingMachine machine_{controls_};
+};
+
+TEST_F(EntryKey, DigitIsTyped) {
+  EXPECT_EQ(afterPress('7'), '7');
+  EXPECT_EQ(desktop_.beeps, 0);
+}
+
+TEST_F(EntryKey, OperatorIsDiscarded) {
+  EXPECT_EQ(afterPress('+'), 0);
+  EXPECT_EQ(desktop_.beeps, 0);
+}
+
+TEST_F(EntryKey, LetterIsDiscardedWithABeep) {
+  EXPECT_EQ(afterPress('x'), 0);
+  EXPECT_EQ(desktop_.beeps, 1);
+}
+
+TEST_F(EntryKey, PasteCharacterIsKept) {
+  constexpr controls::KeyAscii kCtrlV = 22;
+  EXPECT_EQ(afterPress(kCtrlV), kCtrlV);
+  EXPECT_EQ(afterPress(kCtrlV - 1), 0);
+  EXPECT_EQ(desktop_.beeps, 1);
 }
 
 // The number of messages after an edit by the context menu has left `text` in the entry.

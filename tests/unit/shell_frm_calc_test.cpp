@@ -2,8 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <memory>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "inmemory/desktop.h"
 #include "inmemory/window.h"
@@ -21,6 +24,16 @@ class DriveRootDesktop : public inmemory::Desktop {
 class LockedClipboardDesktop : public inmemory::Desktop {
  public:
   bool setClipboardText(std::string_view) override { return false; }
+};
+
+/// Where the user acts while Notepad is being started.
+class SlowNotepadDesktop : public inmemory::Desktop {
+ public:
+  bool startProgramAndPaste(const std::string& program) override {
+    if (const auto act = std::exchange(meanwhile, nullptr)) act();
+    return inmemory::Desktop::startProgramAndPaste(program);
+  }
+  std::function<void()> meanwhile;
 };
 
 class EmptyProgram : public Program {
@@ -137,6 +150,43 @@ TEST(MainWindow, FailedCopyIsNotPastedIntoNotepad) {
   EXPECT_EQ(shown.desktop.boxes[0].box.text, "Error finding or displaying NotePad.exe");
   shown.choose("mnuEditCopyTape");
   EXPECT_EQ(shown.desktop.beeps, 1);
+}
+
+TEST(MainWindow, BeepsWhileTheTapeIsOnItsWayToNotepad) {
+  Shown<SlowNotepadDesktop> shown;
+  shown.choose("mnuWinPadTape");
+  shown.desktop.meanwhile = [&] { shown.choose("mnuEditTapeToNotepad"); };
+  shown.choose("mnuEditTapeToNotepad");
+  EXPECT_EQ(shown.desktop.beeps, 1);
+  EXPECT_EQ(shown.desktop.launches.size(), 1u);
+  shown.choose("mnuEditTapeToNotepad");
+  EXPECT_EQ(shown.desktop.beeps, 1);
+  EXPECT_EQ(shown.desktop.launches.size(), 2u);
+}
+
+TEST(MainWindow, TapeDrawsAndSpeaksItsLines) {
+  Shown<inmemory::Desktop> shown;
+  const controls::TextBox& tape = shown.box("txtTape");
+  EXPECT_EQ(tape.styleOfLine("12.00 * "), controls::LineStyle::Total);
+  EXPECT_EQ(tape.spokenLine("12.00 * "), "total 12.00");
+}
+
+TEST(MainWindow, KeypadSendsTheKeysOfTheKeyboard) {
+  Shown<inmemory::Desktop> shown;
+  std::vector<controls::KeyCode> released;
+  shown.box("txtEntry").onKeyUp = [&](controls::KeyCode key) { released.push_back(key); };
+  for (const auto* name : {"cmdNumber(0)", "cmdNumber(9)", "cmdPeriod", "cmdArrow"})
+    shown.calc.window().button(name).click();
+  constexpr controls::KeyCode kPoint = 190;
+  EXPECT_EQ(released, (std::vector<controls::KeyCode>{'0', '9', kPoint, controls::kKeyBackspace}));
+}
+
+TEST(MainWindow, FigureTypedOnAKeyIsDiscardedThere) {
+  Shown<inmemory::Desktop> shown;
+  controls::KeyAscii key = '7';
+  shown.calc.window().button("cmdPlus").onKeyPress(key);
+  EXPECT_EQ(key, 0);
+  EXPECT_EQ(shown.box("txtEntry").text(), "7");
 }
 
 }  // namespace
