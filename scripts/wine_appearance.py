@@ -11,6 +11,7 @@ METRICS = DESKTOP + r"\WindowMetrics"
 FONTS = r"HKEY_CURRENT_USER\Software\Wine\Fonts\Replacements"
 COLORS = r"HKEY_CURRENT_USER\Control Panel\Colors"
 THEME = r"HKEY_CURRENT_USER\Software\Microsoft\Windows\CurrentVersion\ThemeManager"
+ACCESSIBILITY = r"HKEY_CURRENT_USER\Software\Microsoft\Accessibility"
 HIGH_CONTRAST = r"HKEY_CURRENT_USER\Control Panel\Accessibility\HighContrast"
 
 BLACK, WHITE, YELLOW = "0 0 0", "255 255 255", "255 255 0"
@@ -39,6 +40,10 @@ def scaling(percent):
     return Appearance("%d-percent" % percent, {DESKTOP: {"LogPixels": "dword:%08x" % (96 * percent // 100)}})
 
 
+def text_size(percent):
+    return Appearance("text-%d-percent" % percent, {ACCESSIBILITY: {"TextScaleFactor": "dword:%08x" % percent}})
+
+
 def large_font(points, bold=False):
     """A font of the system's own texts, as the registry holds it."""
     face = "Tahoma".encode("utf-16-le").ljust(64, b"\0")
@@ -50,6 +55,7 @@ def large_font(points, bold=False):
 # Small enough for a page, and large enough for smooth text.
 APPEARANCE_OF_DOCUMENTS = scaling(125)
 APPEARANCES = [scaling(percent) for percent in (100, 125, 150, 200, 300)] + [
+    text_size(150), text_size(225),
     Appearance("high-contrast", {
         COLORS: {name: '"%s"' % color for name, color in CONTRAST_COLORS.items()},
         HIGH_CONTRAST: {"Flags": '"127"'},
