@@ -48,10 +48,26 @@ bool showsValue(const controls::Control& control, HWND handle) {
   return true;
 }
 
-// A key may show a symbol instead of its caption.
+// The text of a key is its name for screen readers, which may say more than its face.
+std::string nameOfKey(const controls::Control& key) {
+  const controls::ControlLayout& layout = key.layout();
+  const bool lit = key.backColor() != controls::Color::buttonFace();
+  if (lit && !layout.litName.empty()) return std::string(layout.litName);
+  if (!layout.accessibleName.empty()) return std::string(layout.accessibleName);
+  return layout.face.empty() ? key.caption() : std::string(layout.face);
+}
+
 bool showsCaption(const controls::Control& control, HWND handle) {
-  const bool isText = control.kind() == ControlKind::Label || control.kind() == ControlKind::Frame;
-  return !isText || textOn(handle) == control.caption();
+  switch (control.kind()) {
+    case ControlKind::TextBox:
+      return true;
+    case ControlKind::Button:
+    case ControlKind::ToggleButton:
+      // A key that speaks shows another text for a moment.
+      return control.layout().spoken || textOn(handle) == nameOfKey(control);
+    default:
+      return textOn(handle) == control.caption();
+  }
 }
 
 std::string differenceOf(controls::Control& control, const win32::Scale& scale) {
