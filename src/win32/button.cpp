@@ -13,16 +13,8 @@ constexpr UINT kConfirmationTime = 1500;
 
 }  // namespace
 
-Button::Button(Window& frame, const controls::ControlLayout& layout)
-    : Native(frame, layout, {L"BUTTON", BS_PUSHBUTTON, 0, keyName(layout, layout.caption)}),
-      face_(frame, *this) {}
-
-void Button::takeNotification(UINT code) {
-  if (code == BN_CLICKED) click();
-}
-
-LRESULT Button::customDraw(NMCUSTOMDRAW& draw) {
-  return face_.draw(draw, confirmation_.empty() ? KeyFace::Shows::Key : KeyFace::Shows::CheckMark);
+KeyFace::Shows Button::shows() const {
+  return confirmation_.empty() ? KeyFace::Shows::Key : KeyFace::Shows::CheckMark;
 }
 
 void Button::confirm(std::string_view text) {
@@ -46,40 +38,21 @@ std::optional<LRESULT> Button::take(const Message& message) {
   return 0;
 }
 
-void Button::refresh() {
-  face_.refresh();
-  Native::refresh();
-}
-
 std::wstring Button::windowText() const {
   if (!confirmation_.empty()) return confirmation_;
   const bool lit = backColor() != controls::Color::buttonFace();
   if (lit && !Native::layout().litName.empty()) return wide(Native::layout().litName);
-  return keyName(Native::layout(), caption());
+  return Key::windowText();
 }
 
-// A colour that means something is part of the name, too.
+// A color with a meaning is part of the name, too.
 void Button::showBackColor() {
   Native::showBackColor();
   if (!Native::layout().litName.empty()) putText();
 }
 
-ToggleButton::ToggleButton(Window& frame, const controls::ControlLayout& layout)
-    : Native(frame, layout,
-             {L"BUTTON", BS_CHECKBOX | BS_PUSHLIKE, 0, keyName(layout, layout.caption)}),
-      face_(frame, *this) {}
-
-void ToggleButton::takeNotification(UINT code) {
-  if (code == BN_CLICKED) click();
-}
-
-LRESULT ToggleButton::customDraw(NMCUSTOMDRAW& draw) {
-  return face_.draw(draw, value() == 1 ? KeyFace::Shows::KeyDown : KeyFace::Shows::Key);
-}
-
-void ToggleButton::refresh() {
-  face_.refresh();
-  Native::refresh();
+KeyFace::Shows ToggleButton::shows() const {
+  return value() == 1 ? KeyFace::Shows::KeyDown : KeyFace::Shows::Key;
 }
 
 void ToggleButton::showValue() {
