@@ -1,9 +1,12 @@
 @echo off
 rem Finds or installs the tools, builds everything, and runs every test:  test.cmd [/Y]
 rem The tests take over the keyboard, the mouse and the clipboard, so it asks first; /Y answers for you.
+rem tests\README.md lists what they change and put back.
 setlocal
 if /i "%~1"=="/Y" goto build
-echo The tests open and close windows, type on the keyboard, move the mouse and use the clipboard, for several minutes.
+echo The tests take over the keyboard, the mouse and the clipboard for several minutes. They open and close windows of
+echo Tallyrex and Notepad, and change colors of Windows; run as administrator, also values in the machine's registry.
+echo They put everything back. If they are killed, the next run does; Ctrl+C is safe.
 echo Save your work, close Tallyrex and Notepad, and leave the computer alone until the last line is printed.
 choice /c YN /m "Start now"
 if errorlevel 2 exit /b 1

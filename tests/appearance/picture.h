@@ -5,6 +5,8 @@
 #include <cstddef>
 #include <vector>
 
+#include "support/kept_state.h"
+
 namespace appearance {
 
 /// What is seen of a window's client area.
@@ -45,16 +47,13 @@ double contrast(COLORREF one, COLORREF other);
 /// A colour of the system that is another until the end of the test.
 class OtherSystemColor {
  public:
-  OtherSystemColor(int index, COLORREF color) : index_(index), before_(GetSysColor(index)) {
-    SetSysColors(1, &index_, &color);
+  OtherSystemColor(int index, COLORREF color) {
+    support::keepSystemColor(index);
+    SetSysColors(1, &index, &color);
   }
-  ~OtherSystemColor() { SetSysColors(1, &index_, &before_); }
+  ~OtherSystemColor() { support::putBackSystemColors(); }
   OtherSystemColor(const OtherSystemColor&) = delete;
   OtherSystemColor& operator=(const OtherSystemColor&) = delete;
-
- private:
-  int index_;
-  COLORREF before_;
 };
 
 }  // namespace appearance

@@ -4,10 +4,12 @@
 
 #include "desktop/desktop_test.h"
 #include "support/retries.h"
+#include "support/taken_desktop.h"
+
+namespace {
 
 // The program runs on the main thread, as usual; the tests act as its user on another.
-int main(int count, char** arguments) {
-  testing::InitGoogleTest(&count, arguments);
+int runTests() {
   driver::NativeStage stage;
   desktop::DesktopTest::setStage(stage);
   int result = 1;
@@ -19,4 +21,11 @@ int main(int count, char** arguments) {
   stage.run();
   person.join();
   return result;
+}
+
+}  // namespace
+
+int main(int count, char** arguments) {
+  testing::InitGoogleTest(&count, arguments);
+  return support::withDesktop(runTests);
 }

@@ -30,7 +30,7 @@ void NativeDesktop::beep() {
 }
 
 bool NativeDesktop::startProgram(const std::string& program) {
-  const std::vector<HWND> before = windowsOfOthers();
+  const std::vector<HWND> before = windowsOfStarted();
   if (!win32::Desktop::startProgram(program)) return false;
   std::ranges::copy(windowsSince(before), std::back_inserter(launched_));
   happenings_.launches.push_back({program, "", {}});
@@ -39,7 +39,7 @@ bool NativeDesktop::startProgram(const std::string& program) {
 
 // The keys are recorded once the pasted text has arrived in the other window.
 bool NativeDesktop::startProgramAndPaste(const std::string& program) {
-  const std::vector<HWND> before = windowsOfOthers();
+  const std::vector<HWND> before = windowsOfStarted();
   starting_ = true;
   const bool started = win32::Desktop::startProgramAndPaste(program);
   if (!started) {
@@ -58,7 +58,7 @@ bool NativeDesktop::startProgramAndPaste(const std::string& program) {
 
 // The text is recorded once it has arrived in the window of the started program.
 bool NativeDesktop::openText(const std::string& program, std::string_view text) {
-  const std::vector<HWND> before = windowsOfOthers();
+  const std::vector<HWND> before = windowsOfStarted();
   if (!win32::Desktop::openText(program, text)) return false;
   const HWND window = waitForWindowSince(before);
   if (window) launched_.push_back(window);

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "driver/native_handles.h"
+#include "support/started_programs.h"
 #include "support/wait.h"
 #include "support/windows.h"
 #include "win32/text.h"
@@ -14,7 +15,7 @@ namespace {
 constexpr ULONGLONG kPatience = 3000;
 
 BOOL CALLBACK takeWindow(HWND window, LPARAM found) {
-  if (IsWindowVisible(window) && !isOurs(window))
+  if (IsWindowVisible(window) && !isOurs(window) && support::isStartedHere(window))
     reinterpret_cast<std::vector<HWND>*>(found)->push_back(window);
   return TRUE;
 }
@@ -35,14 +36,14 @@ HWND textBoxOf(HWND window) {
 
 }  // namespace
 
-std::vector<HWND> windowsOfOthers() {
+std::vector<HWND> windowsOfStarted() {
   std::vector<HWND> windows;
   EnumWindows(takeWindow, reinterpret_cast<LPARAM>(&windows));
   return windows;
 }
 
 std::vector<HWND> windowsSince(const std::vector<HWND>& before) {
-  std::vector<HWND> windows = windowsOfOthers();
+  std::vector<HWND> windows = windowsOfStarted();
   std::erase_if(windows, [&before](HWND window) {
     return std::ranges::find(before, window) != before.end();
   });

@@ -7,14 +7,13 @@
 
 namespace driver {
 
-/// The open windows of other programs. A new one after a program was started belongs to that
-/// program.
-std::vector<HWND> windowsOfOthers();
+/// The open windows of the programs that were started here.
+std::vector<HWND> windowsOfStarted();
 std::vector<HWND> windowsSince(const std::vector<HWND>& before);
 
 /// Waits until the text box of the window has a text. False if it takes too long.
 bool waitForText(HWND window);
-/// Waits until a window of another program has opened, and returns it; null if it takes too long.
+/// Waits until a window of a started program has opened, and returns it; null if it takes too long.
 HWND waitForWindowSince(const std::vector<HWND>& before);
 /// The text in the text box of the window, once there is one; empty if it takes too long.
 std::string textShownIn(HWND window);

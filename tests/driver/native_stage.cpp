@@ -10,6 +10,7 @@
 #include "driver/native_settings.h"
 #include "support/clipboard.h"
 #include "support/retries.h"
+#include "support/wine.h"
 #include "win32/message_loop.h"
 
 namespace driver {

@@ -1,7 +1,5 @@
 #include "support/retries.h"
 
-#include <windows.h>
-
 #include <cstdio>
 #include <map>
 #include <mutex>
@@ -32,10 +30,6 @@ bool retriesAreFew() {
   }
   if (all > kMost) std::fprintf(stderr, "Too many retries: %d, at most %d\n", all, kMost);
   return all <= kMost;
-}
-
-bool isWine() {
-  return GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "wine_get_version") != nullptr;
 }
 
 }  // namespace support

@@ -2,6 +2,7 @@
 
 #include "desktop/program/picture.h"
 #include "desktop/program/program_test.h"
+#include "support/wine.h"
 
 namespace program {
 namespace {
@@ -16,6 +17,7 @@ class HelpTest : public ProgramTest {
 
   void SetUp() override {
     ProgramTest::SetUp();
+    if (!isWine()) GTEST_SKIP() << "only Wine still has the viewer of this kind of help";
     if (GetFileAttributesW(program().helpFile().c_str()) == INVALID_FILE_ATTRIBUTES)
       GTEST_SKIP() << "the help has not been built";
     contents_ = pageOf(HELP_INDEX, 0);
@@ -46,15 +48,14 @@ class HelpTest : public ProgramTest {
     return Picture(client).dots();
   }
 
-  HWND awaitViewer() {
-    const HWND viewer =
-        awaitWindow("the help viewer", [this] { return openedWindow(L"MS_WINHELP"); });
+  static HWND awaitViewer() {
+    const HWND viewer = awaitWindow("the help viewer", [] { return openedWindow(L"MS_WINHELP"); });
     SetForegroundWindow(viewer);
     return viewer;
   }
 
   /// The image of a page in the viewer; empty without a viewer.
-  Page pageOf(UINT command, ULONG_PTR data) {
+  static Page pageOf(UINT command, ULONG_PTR data) {
     if (!WinHelpW(GetDesktopWindow(), pathForViewer().c_str(), command, data)) return {};
     const HWND viewer = awaitViewer();
     // The image is complete when it has not changed for a while.

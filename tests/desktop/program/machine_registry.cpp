@@ -1,24 +1,15 @@
 #include "desktop/program/machine_registry.h"
 
-#include <algorithm>
+#include "support/kept_state.h"
 
 namespace program {
 
-MachineKey::MachineKey(const std::wstring& path) {
-  if (RegCreateKeyExW(HKEY_LOCAL_MACHINE, path.c_str(), 0, nullptr, 0, KEY_READ | KEY_WRITE,
-                      nullptr, &key_, nullptr) != ERROR_SUCCESS)
-    key_ = nullptr;
-}
-
-MachineKey::~MachineKey() {
-  if (!key_) return;
-  for (const Value& value : before_) {
-    RegDeleteValueW(key_, value.name.c_str());
-    if (value.type != REG_NONE)
-      RegSetValueExW(key_, value.name.c_str(), 0, value.type, value.data.data(),
-                     static_cast<DWORD>(value.data.size()));
-  }
-  RegCloseKey(key_);
+bool MachineKey::isWritable() {
+  HKEY key = nullptr;
+  if (RegOpenKeyExW(HKEY_LOCAL_MACHINE, L"SOFTWARE", 0, KEY_WRITE, &key) != ERROR_SUCCESS)
+    return false;
+  RegCloseKey(key);
+  return true;
 }
 
 void MachineKey::set(const std::wstring& name, const std::wstring& text) {
@@ -42,27 +33,14 @@ void MachineKey::set(const std::wstring& name, DWORD number) {
 }
 
 void MachineKey::remove(const std::wstring& name) {
-  remember(name);
-  RegDeleteValueW(key_, name.c_str());
-}
-
-void MachineKey::remember(const std::wstring& name) {
-  const auto isIt = [&name](const Value& value) { return value.name == name; };
-  if (std::ranges::any_of(before_, isIt)) return;
-  Value value;
-  value.name = name;
-  DWORD size = 0;
-  if (RegQueryValueExW(key_, name.c_str(), nullptr, &value.type, nullptr, &size) == ERROR_SUCCESS) {
-    value.data.resize(size);
-    RegQueryValueExW(key_, name.c_str(), nullptr, nullptr, value.data.data(), &size);
-  }
-  before_.push_back(std::move(value));
+  support::keepRegistryValue(HKEY_LOCAL_MACHINE, path_, name);
+  RegDeleteKeyValueW(HKEY_LOCAL_MACHINE, path_.c_str(), name.c_str());
 }
 
 void MachineKey::put(const std::wstring& name, DWORD type, const void* data, std::size_t bytes) {
-  remember(name);
-  RegSetValueExW(key_, name.c_str(), 0, type, static_cast<const BYTE*>(data),
-                 static_cast<DWORD>(bytes));
+  support::keepRegistryValue(HKEY_LOCAL_MACHINE, path_, name);
+  RegSetKeyValueW(HKEY_LOCAL_MACHINE, path_.c_str(), name.c_str(), type, data,
+                  static_cast<DWORD>(bytes));
 }
 
 }  // namespace program

@@ -3,20 +3,17 @@
 #include <windows.h>
 
 #include <string>
-#include <vector>
+#include <utility>
 
 namespace program {
 
-/// A key under the machine's registry root for a test, which is restored when the test ends.
+/// A key under the machine's registry root. Whatever a test writes there is put back at its end.
 class MachineKey {
  public:
-  explicit MachineKey(const std::wstring& path);
-  ~MachineKey();
-  MachineKey(const MachineKey&) = delete;
-  MachineKey& operator=(const MachineKey&) = delete;
+  explicit MachineKey(std::wstring path) : path_(std::move(path)) {}
 
   /// Only administrators may write here.
-  bool isWritable() const { return key_ != nullptr; }
+  static bool isWritable();
   void set(const std::wstring& name, const std::wstring& text);
   /// Without the terminating zero.
   void setUnterminated(const std::wstring& name, const std::wstring& text);
@@ -28,18 +25,9 @@ class MachineKey {
   void remove(const std::wstring& name);
 
  private:
-  struct Value {
-    std::wstring name;
-    DWORD type = REG_NONE;
-    std::vector<BYTE> data;
-  };
-
-  /// Remembers the values before the first change.
-  void remember(const std::wstring& name);
   void put(const std::wstring& name, DWORD type, const void* data, std::size_t bytes);
 
-  HKEY key_ = nullptr;
-  std::vector<Value> before_;
+  std::wstring path_;
 };
 
 }  // namespace program

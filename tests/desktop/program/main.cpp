@@ -3,7 +3,9 @@
 #include <cstdio>
 
 #include "desktop/program/program_test.h"
+#include "desktop/program/replaced_notepad.h"
 #include "support/retries.h"
+#include "support/taken_desktop.h"
 
 // The tests of the finished program, which is started for each of them:
 //   tallyrex-program-tests PROGRAM HELPFILE
@@ -13,8 +15,11 @@ int wmain(int count, wchar_t** arguments) {
     std::fputs("tallyrex-program-tests PROGRAM HELPFILE\n", stderr);
     return 2;
   }
-  program::TestedProgram tested(arguments[1], arguments[2]);
-  program::ProgramTest::setProgram(tested);
-  const int result = RUN_ALL_TESTS();
-  return support::retriesAreFew() ? result : 1;
+  return support::withDesktop([arguments] {
+    program::putBackNotepad();
+    program::TestedProgram tested(arguments[1], arguments[2]);
+    program::ProgramTest::setProgram(tested);
+    const int result = RUN_ALL_TESTS();
+    return support::retriesAreFew() ? result : 1;
+  });
 }

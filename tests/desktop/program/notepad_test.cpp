@@ -4,6 +4,7 @@
 #include "desktop/program/program_test.h"
 #include "desktop/program/replaced_notepad.h"
 #include "support/clipboard.h"
+#include "support/wine.h"
 
 namespace program {
 namespace {
@@ -32,7 +33,7 @@ class NotepadTest : public ProgramTest {
     return tape;
   }
 
-  HWND textOfNotepad() const {
+  static HWND textOfNotepad() {
     const HWND notepad = openedWindow(L"Notepad");
     if (!notepad) return nullptr;
     for (const auto* name : {L"Edit", L"RichEditD2DPT"})
@@ -50,7 +51,7 @@ class NotepadTest : public ProgramTest {
     })) << seen.size()
         << " characters instead of " << tape.size();
     EXPECT_TRUE(clipboardText() == tape);
-    EXPECT_TRUE(eventually([this] { return GetForegroundWindow() == openedWindow(L"Notepad"); }))
+    EXPECT_TRUE(eventually([] { return GetForegroundWindow() == openedWindow(L"Notepad"); }))
         << "Notepad is not in front";
     EXPECT_TRUE(textOf(program().tape()) == tape);
   }
@@ -78,19 +79,6 @@ class NotepadTest : public ProgramTest {
     expectText(program().entry(), L"5");
   }
 
-  /// As the user starts it.
-  static void startNotepad() {
-    STARTUPINFOW startup = {};
-    startup.cb = sizeof startup;
-    PROCESS_INFORMATION process = {};
-    std::wstring command = L"notepad.exe";
-    if (!CreateProcessW(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
-                        &startup, &process))
-      throw NotSeen("Notepad");
-    CloseHandle(process.hThread);
-    CloseHandle(process.hProcess);
-  }
-
   static void bringToFront(HWND window) {
     await("a window in front", [window] {
       SetForegroundWindow(window);
@@ -108,6 +96,20 @@ class NotepadTest : public ProgramTest {
     answer(VK_RETURN);
     expectInNotepad(tape);
   }
+};
+
+/// Another program in the place of Notepad.
+class ReplacedNotepadTest : public NotepadTest {
+ protected:
+  void SetUp() override {
+    if (!isWine()) GTEST_SKIP() << "only on Wine may the system's Notepad be replaced";
+    NotepadTest::SetUp();
+  }
+
+  ReplacedNotepad& notepad() { return notepad_; }
+
+ private:
+  ReplacedNotepad notepad_;
 };
 
 TEST_F(NotepadTest, TakesATapeOfTenLines) {
@@ -162,15 +164,13 @@ TEST_F(NotepadTest, KeepsItsKeysWhileAnotherProgramTakesTheFront) {
 
 // What is typed while Notepad is awaited goes into the entry box, and the command is not carried
 // out twice.
-TEST_F(NotepadTest, AMissingOneIsReported) {
-  ReplacedNotepad notepad;
-  if (!notepad.byNothing()) GTEST_SKIP() << "the system's Notepad cannot be removed";
+TEST_F(ReplacedNotepadTest, AMissingOneIsReported) {
+  ASSERT_TRUE(notepad().byNothing());
   expectFailure();
 }
 
-TEST_F(NotepadTest, ASlowOneGetsTheTapeAndKeepsNobodyWaiting) {
-  ReplacedNotepad notepad;
-  if (!notepad.with(L"slow 8000")) GTEST_SKIP() << "the system's Notepad cannot be replaced";
+TEST_F(ReplacedNotepadTest, ASlowOneGetsTheTapeAndKeepsNobodyWaiting) {
+  ASSERT_TRUE(notepad().with(L"slow 8000"));
   start();
   const std::wstring tape = makeTape(10);
   pressWith(VK_CONTROL, 'N');
@@ -185,9 +185,8 @@ TEST_F(NotepadTest, ASlowOneGetsTheTapeAndKeepsNobodyWaiting) {
   EXPECT_EQ(textOf(program().entry()), L"123");
 }
 
-TEST_F(NotepadTest, ASlowOneGetsTheTapeOfAProgramThatHasBeenClosed) {
-  ReplacedNotepad notepad;
-  if (!notepad.with(L"slow 2000")) GTEST_SKIP() << "the system's Notepad cannot be replaced";
+TEST_F(ReplacedNotepadTest, ASlowOneGetsTheTapeOfAProgramThatHasBeenClosed) {
+  ASSERT_TRUE(notepad().with(L"slow 2000"));
   start();
   const std::wstring tape = makeTape(10);
   pressWith(VK_CONTROL, 'N');
@@ -201,17 +200,16 @@ TEST_F(NotepadTest, ASlowOneGetsTheTapeOfAProgramThatHasBeenClosed) {
   EXPECT_EQ(program().exitCode(), 0u);
 }
 
-TEST_F(NotepadTest, OneWhoseWindowClosesAtOnceIsReported) {
-  ReplacedNotepad notepad;
-  if (!notepad.with(L"vanishing")) GTEST_SKIP() << "the system's Notepad cannot be replaced";
+TEST_F(ReplacedNotepadTest, OneWhoseWindowClosesAtOnceIsReported) {
+  ASSERT_TRUE(notepad().with(L"vanishing"));
   expectFailure();
 }
 
 TEST_F(NotepadTest, OneThatIsOpenWithATextInItKeepsThatText) {
   start();
   const std::wstring tape = makeTape(10);
-  startNotepad();
-  const HWND old = awaitWindow("Notepad", [this] { return openedWindow(L"Notepad"); });
+  CloseHandle(startProgram(L"notepad.exe"));
+  const HWND old = awaitWindow("Notepad", [] { return openedWindow(L"Notepad"); });
   const HWND note = awaitWindow("its text", [old] { return childOfClass(old, L"Edit"); });
   bringToFront(old);
   type("99");
@@ -230,12 +228,32 @@ TEST_F(NotepadTest, OneThatIsOpenWithATextInItKeepsThatText) {
   EXPECT_EQ(textOf(note), L"99");
 }
 
+// One that a person has opened for something else.
+TEST_F(NotepadTest, OneThatTheTestHasNotStartedIsNotEnded) {
+  const HANDLE foreign = startProgram(L"notepad.exe", CREATE_BREAKAWAY_FROM_JOB);
+  const HWND window = awaitWindow("Notepad", [process = GetProcessId(foreign)] {
+    for (HWND shown : shownWindows())
+      if (processOf(shown) == process) return shown;
+    return static_cast<HWND>(nullptr);
+  });
+  EXPECT_EQ(classOf(window), L"Notepad");
+  CloseHandle(startProgram(L"notepad.exe"));
+  const HWND own = awaitWindow("another Notepad", [] { return openedWindow(L"Notepad"); });
+  EXPECT_NE(own, window);
+  endOpened();
+  EXPECT_EQ(openedWindow(L"Notepad"), nullptr);
+  EXPECT_FALSE(IsWindow(own));
+  EXPECT_TRUE(IsWindow(window));
+  EXPECT_EQ(WaitForSingleObject(foreign, 0), static_cast<DWORD>(WAIT_TIMEOUT));
+  TerminateProcess(foreign, 0);
+  CloseHandle(foreign);
+}
+
 // As where one window holds all documents: the starter hands over to it, and ends.
-TEST_F(NotepadTest, ATextInTheWindowThatComesToTheFrontIsLeftAlone) {
-  ReplacedNotepad notepad;
-  if (!notepad.with(L"tabbed")) GTEST_SKIP() << "the system's Notepad cannot be replaced";
-  startNotepad();
-  const HWND window = awaitWindow("the note", [this] { return openedWindow(L"Notepad"); });
+TEST_F(ReplacedNotepadTest, ATextInTheWindowThatComesToTheFrontIsLeftAlone) {
+  ASSERT_TRUE(notepad().with(L"tabbed"));
+  CloseHandle(startProgram(L"notepad.exe"));
+  const HWND window = awaitWindow("the note", [] { return openedWindow(L"Notepad"); });
   const HWND note = awaitWindow("its text", [window] { return childOfClass(window, L"Edit"); });
   start();
   const std::wstring tape = makeTape(10);

@@ -4,7 +4,7 @@
 
 #include "desktop/program/program_test.h"
 #include "support/clipboard.h"
-#include "support/retries.h"
+#include "support/wine.h"
 
 namespace program {
 namespace {

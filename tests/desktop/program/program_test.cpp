@@ -1,10 +1,11 @@
 #include "desktop/program/program_test.h"
 
-#include <algorithm>
 #include <utility>
 
 #include "desktop/program/kept_tapes.h"
+#include "support/kept_state.h"
 #include "support/retries.h"
+#include "support/wine.h"
 
 namespace program {
 namespace {
@@ -18,15 +19,19 @@ TestedProgram* ProgramTest::program_ = nullptr;
 void ProgramTest::SetUp() {
   settings_.clear();
   clearKeptTapes(program_->name());
-  shownBefore_ = shownWindows();
 }
 
 void ProgramTest::TearDown() {
   program().kill();
-  for (const auto* other : {L"Notepad", L"MS_WINHELP"})
-    while (const HWND window = openedWindow(other)) endProcessOf(window);
+  endOpened();
+  putBackRegistryValues();
   settings_.clear();
   clearKeptTapes(program_->name());
+}
+
+void ProgramTest::endOpened() {
+  for (const auto* other : {L"Notepad", L"MS_WINHELP"})
+    while (const HWND window = openedWindow(other)) endProcessOf(window);
 }
 
 void ProgramTest::close() {
@@ -112,11 +117,9 @@ bool ProgramTest::isPressed(const std::wstring& toggle) {
   return SendMessageW(key, BM_GETCHECK, 0, 0) == BST_CHECKED;
 }
 
-HWND ProgramTest::openedWindow(std::wstring_view windowClass) const {
-  for (HWND window : shownWindows()) {
-    const bool old = std::ranges::find(shownBefore_, window) != shownBefore_.end();
-    if (!old && classOf(window) == windowClass) return window;
-  }
+HWND ProgramTest::openedWindow(std::wstring_view windowClass) {
+  for (HWND window : shownWindows())
+    if (classOf(window) == windowClass && isStartedHere(window)) return window;
   return nullptr;
 }
 

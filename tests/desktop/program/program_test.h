@@ -8,6 +8,7 @@
 #include "desktop/program/hands.h"
 #include "desktop/program/tested_program.h"
 #include "desktop/program/user_settings.h"
+#include "support/started_programs.h"
 #include "support/wait.h"
 #include "support/windows.h"
 
@@ -55,15 +56,16 @@ class ProgramTest : public testing::Test {
   HWND openCalculator(int place, const std::wstring& title);
   /// Whether a toggle of the main window is down.
   static bool isPressed(const std::wstring& toggle);
-  /// A window of another program that was opened during the test; null without one.
-  HWND openedWindow(std::wstring_view windowClass) const;
-  /// Ends another program that was opened during the test, and waits for its end.
+  /// A window of another program that the test or the program has started; null without one.
+  static HWND openedWindow(std::wstring_view windowClass);
+  /// Ends such a program, and waits for its end.
   static void endProcessOf(HWND window);
+  /// Ends the editors and help viewers that have been started.
+  static void endOpened();
 
  private:
   static TestedProgram* program_;
   UserSettings settings_{program_->name()};
-  std::vector<HWND> shownBefore_;
 };
 
 }  // namespace program

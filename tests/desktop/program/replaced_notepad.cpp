@@ -4,7 +4,9 @@
 
 #include <vector>
 
+#include "support/kept_state.h"
 #include "support/registry.h"
+#include "support/wine.h"
 
 namespace program {
 namespace {
@@ -31,36 +33,42 @@ std::wstring standIn() {
   return own.substr(0, own.rfind(L'\\')) + L"\\tallyrex-stand-in-notepad.exe";
 }
 
-}  // namespace
-
-// A backup left behind by an interrupted run is the real Notepad.
-ReplacedNotepad::ReplacedNotepad() {
+// Where the real one is meanwhile.
+std::wstring refuge() {
   wchar_t temporary[MAX_PATH] = L"";
   GetTempPathW(MAX_PATH, temporary);
-  folder_ = temporary + std::wstring(L"TallyrexRealNotepad");
-  real_ = folder_ + L"\\notepad.exe";
-  CreateDirectoryW(folder_.c_str(), nullptr);
-  CopyFileW(notepads().front().c_str(), real_.c_str(), TRUE);
+  return temporary + std::wstring(L"TallyrexRealNotepad.exe");
+}
+
+}  // namespace
+
+void putBackNotepad() {
+  if (!support::isWine() || GetFileAttributesW(refuge().c_str()) == INVALID_FILE_ATTRIBUTES) return;
+  bool back = true;
+  for (const std::wstring& file : notepads())
+    back = CopyFileW(refuge().c_str(), file.c_str(), FALSE) && back;
+  if (back) DeleteFileW(refuge().c_str());
+}
+
+ReplacedNotepad::ReplacedNotepad() {
+  if (support::isWine()) CopyFileW(notepads().front().c_str(), refuge().c_str(), TRUE);
 }
 
 ReplacedNotepad::~ReplacedNotepad() {
-  bool back = true;
-  for (const std::wstring& file : notepads())
-    back = CopyFileW(real_.c_str(), file.c_str(), FALSE) && back;
+  putBackNotepad();
   SetEnvironmentVariableW(L"TALLYREX_NOTEPAD", nullptr);
-  RegDeleteKeyValueW(HKEY_CURRENT_USER, kOverrides, kOverridden);
-  if (!back) return;
-  DeleteFileW(real_.c_str());
-  RemoveDirectoryW(folder_.c_str());
 }
 
 bool ReplacedNotepad::with(const std::wstring& kind) {
+  if (!support::isWine()) return false;
+  support::keepRegistryValue(HKEY_CURRENT_USER, kOverrides, kOverridden);
   support::writeUserText(kOverrides, kOverridden, L"native");
   SetEnvironmentVariableW(L"TALLYREX_NOTEPAD", kind.c_str());
   return CopyFileW(standIn().c_str(), notepads().front().c_str(), FALSE) != FALSE;
 }
 
 bool ReplacedNotepad::byNothing() {
+  if (!support::isWine()) return false;
   bool gone = true;
   for (const std::wstring& file : notepads()) gone = DeleteFileW(file.c_str()) && gone;
   return gone;

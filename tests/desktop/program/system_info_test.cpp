@@ -12,7 +12,7 @@ class SystemInfoTest : public ProgramTest {
  protected:
   void SetUp() override {
     ProgramTest::SetUp();
-    if (!path_.isWritable() || !location_.isWritable())
+    if (!MachineKey::isWritable())
       GTEST_SKIP() << "only an administrator can say where the program is";
     path_.remove(L"PATH");
     location_.remove(L"MSINFO");
@@ -32,7 +32,7 @@ class SystemInfoTest : public ProgramTest {
   const std::wstring& makeFolder() {
     wchar_t temporary[MAX_PATH] = L"";
     GetTempPathW(MAX_PATH, temporary);
-    folder_ = temporary + (L"TallyrexInfo" + std::to_wstring(GetCurrentProcessId()));
+    folder_ = temporary + std::wstring(L"TallyrexInfo");
     CreateDirectoryW(folder_.c_str(), nullptr);
     if (!CopyFileW(program().file().c_str(), fileInFolder().c_str(), FALSE))
       throw NotSeen("a copy of the program");
@@ -50,7 +50,8 @@ class SystemInfoTest : public ProgramTest {
 
   static HWND standIn() {
     for (HWND window : shownWindows())
-      if (classOf(window) == L"TallyrexWindow" && !program().owns(window)) return window;
+      if (classOf(window) == L"TallyrexWindow" && isStartedHere(window) && !program().owns(window))
+        return window;
     return nullptr;
   }
 

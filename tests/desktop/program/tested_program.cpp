@@ -32,7 +32,7 @@ TestedProgram::TestedProgram(const std::wstring& program, const std::wstring& he
   wchar_t temporary[MAX_PATH] = L"";
   GetTempPathW(MAX_PATH, temporary);
   // Users' folders may have all kinds of letters in their names.
-  folder_ = temporary + name_ + std::to_wstring(GetCurrentProcessId()) + L" Z\u00E4hler \u8A08";
+  folder_ = temporary + name_ + L" Z\u00E4hler \u8A08";
   CreateDirectoryW(folder_.c_str(), nullptr);
   program_ = folder_ + L"\\" + name_ + L".exe";
   help_ = folder_ + L"\\" + name_ + L".hlp";

@@ -1,0 +1,93 @@
+#include "support/registry_key.h"
+
+#include <cstring>
+
+namespace support {
+namespace {
+
+constexpr DWORD kLongestName = 16'384;
+
+}  // namespace
+
+RegistryValue registryNumber(const std::wstring& name, DWORD number) {
+  RegistryValue value = {name, REG_DWORD, std::vector<BYTE>(sizeof number)};
+  std::memcpy(value.data.data(), &number, sizeof number);
+  return value;
+}
+
+RegistryValue registryText(const std::wstring& name, const std::wstring& text) {
+  const auto* bytes = reinterpret_cast<const BYTE*>(text.c_str());
+  return {name, REG_SZ, {bytes, bytes + (text.size() + 1) * sizeof(wchar_t)}};
+}
+
+RegistryKey RegistryKey::open(HKEY parent, const std::wstring& path, REGSAM access) {
+  HKEY key = nullptr;
+  RegOpenKeyExW(parent, path.c_str(), 0, access, &key);
+  return RegistryKey(key);
+}
+
+RegistryKey RegistryKey::make(HKEY parent, const std::wstring& path, DWORD options) {
+  HKEY key = nullptr;
+  RegCreateKeyExW(parent, path.c_str(), 0, nullptr, options, KEY_READ | KEY_WRITE, nullptr, &key,
+                  nullptr);
+  return RegistryKey(key);
+}
+
+RegistryKey::~RegistryKey() {
+  if (key_) RegCloseKey(key_);
+}
+
+bool RegistryKey::write(const RegistryValue& value) const {
+  return RegSetValueExW(key_, value.name.c_str(), 0, value.type, value.data.data(),
+                        static_cast<DWORD>(value.data.size())) == ERROR_SUCCESS;
+}
+
+std::optional<RegistryValue> RegistryKey::read(const std::wstring& name) const {
+  RegistryValue value;
+  value.name = name;
+  DWORD size = 0;
+  if (RegQueryValueExW(key_, name.c_str(), nullptr, &value.type, nullptr, &size) != ERROR_SUCCESS)
+    return {};
+  value.data.resize(size);
+  RegQueryValueExW(key_, name.c_str(), nullptr, nullptr, value.data.data(), &size);
+  return value;
+}
+
+DWORD RegistryKey::readNumber(const std::wstring& name) const {
+  DWORD number = 0;
+  DWORD size = sizeof number;
+  RegGetValueW(key_, nullptr, name.c_str(), RRF_RT_REG_DWORD, nullptr, &number, &size);
+  return number;
+}
+
+std::wstring RegistryKey::readText(const std::wstring& name) const {
+  const auto value = read(name);
+  if (!value || value->type != REG_SZ) return {};
+  std::wstring text(value->data.size() / sizeof(wchar_t), L'\0');
+  std::memcpy(text.data(), value->data.data(), text.size() * sizeof(wchar_t));
+  return text.c_str();
+}
+
+std::vector<RegistryValue> RegistryKey::values() const {
+  std::vector<RegistryValue> found;
+  std::wstring name(kLongestName, L'\0');
+  DWORD length = kLongestName;
+  for (DWORD i = 0; RegEnumValueW(key_, i, name.data(), &length, nullptr, nullptr, nullptr,
+                                  nullptr) == ERROR_SUCCESS;
+       ++i, length = kLongestName)
+    if (auto value = read(name.substr(0, length))) found.push_back(std::move(*value));
+  return found;
+}
+
+std::vector<std::wstring> RegistryKey::keys() const {
+  std::vector<std::wstring> found;
+  std::wstring name(kLongestName, L'\0');
+  DWORD length = kLongestName;
+  for (DWORD i = 0; RegEnumKeyExW(key_, i, name.data(), &length, nullptr, nullptr, nullptr,
+                                  nullptr) == ERROR_SUCCESS;
+       ++i, length = kLongestName)
+    found.push_back(name.substr(0, length));
+  return found;
+}
+
+}  // namespace support
