@@ -39,7 +39,7 @@ function(tallyrex_render_icon drawing)
     list(APPEND renderings COMMAND ${TALLYREX_RSVG_CONVERT} --width ${size} --height ${size}
                                    --output ${picture} ${source})
     # Large images stay compressed: as bitmaps they would be larger than the program.
-    if(size LESS 40)
+    if(size LESS 32)
       list(APPEND pictures ${picture})
     else()
       list(APPEND pictures --raw=${picture})

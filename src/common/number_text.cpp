@@ -6,7 +6,6 @@
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
-#include <system_error>
 
 #include "common/run_time_error.h"
 
@@ -154,12 +153,11 @@ Significand significandOf(const Written& written) {
 std::optional<double> magnitudeOf(const Significand& significand) {
   if (significand.digits.empty()) return 0;
   const std::string text = "0." + significand.digits + "e" + std::to_string(significand.point);
-  double value = 0;
-  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
-  const bool outOfRange = error == std::errc::result_out_of_range || std::isinf(value);
-  if (!outOfRange) return value;
-  if (significand.point > 0) return {};
-  return 0;
+  // The C library rounds as correctly as from_chars, which would weigh more of the program. It is
+  // in the C locale, whose point is '.'.
+  const double value = std::strtod(text.c_str(), nullptr);
+  if (std::isinf(value)) return {};
+  return value;
 }
 
 std::optional<double> valueOf(const Written& written) {

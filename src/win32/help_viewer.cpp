@@ -66,7 +66,7 @@ bool openInBrowser(const controls::HelpRequest& request) {
   std::wstring page;
   // The system drops the "#" part of an address, so each topic has its own page.
   if (request.data != 0)
-    page = findPage(file, name + L"-" + std::to_wstring(request.data) + L".html");
+    page = findPage(file, name + L"-" + wide(std::to_string(request.data)) + L".html");
   if (page.empty()) page = findPage(file, name + L".html");
   if (page.empty()) return false;
   const auto shellExecute = lateFunction<decltype(&ShellExecuteW)>(L"shell32.dll", "ShellExecuteW");

@@ -1,6 +1,6 @@
 #include "win32/tape_safe.h"
 
-#include <algorithm>
+#include <set>
 
 #include "win32/paths.h"
 #include "win32/text.h"
@@ -16,16 +16,15 @@ struct CloseSearch {
 using OwnedSearch = Owned<HANDLE, CloseSearch>;
 
 // The names of the tapes in a folder, from old to new: they start with the time.
-std::vector<std::wstring> tapesIn(const std::wstring& folder) {
-  std::vector<std::wstring> names;
+std::set<std::wstring> tapesIn(const std::wstring& folder) {
+  std::set<std::wstring> names;
   WIN32_FIND_DATAW found;
   const HANDLE search = FindFirstFileW((folder + L"\\*" + kExtension).c_str(), &found);
   if (search == INVALID_HANDLE_VALUE) return names;
   const OwnedSearch owned(search);
   do {
-    names.emplace_back(found.cFileName);
+    names.emplace(found.cFileName);
   } while (FindNextFileW(search, &found));
-  std::ranges::sort(names);
   return names;
 }
 
@@ -34,7 +33,7 @@ std::wstring newName() {
   FILETIME now;
   GetSystemTimeAsFileTime(&now);
   const ULARGE_INTEGER time = {{now.dwLowDateTime, now.dwHighDateTime}};
-  return std::to_wstring(time.QuadPart) + L"-" + std::to_wstring(GetCurrentProcessId()) +
+  return wide(std::to_string(time.QuadPart)) + L"-" + wide(std::to_string(GetCurrentProcessId())) +
          kExtension;
 }
 
