@@ -14,7 +14,9 @@ Amount amountOf(double value) {
 }
 
 bool isShowable(double value) {
-  return std::isfinite(value) && common::tryNumber(common::toText(value)).has_value();
+  // The 15 digits of the next larger double are 1.79769313486232E+308, beyond the largest double.
+  constexpr double kLargest = 1.797693134862315e308;
+  return std::abs(value) <= kLargest;
 }
 
 }  // namespace engine
