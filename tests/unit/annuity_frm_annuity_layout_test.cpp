@@ -65,6 +65,49 @@ TEST(FrmAnnuityLayout, OptionsOfAGroupAreMutuallyExclusive) {
   EXPECT_FALSE(layout.resizable);
 }
 
+TEST(FrmAnnuityLayout, WindowHasTheDesignedSize) {
+  const auto& layout = frmAnnuityLayout();
+  EXPECT_EQ(layout.name, "frmAnnuity");
+  EXPECT_EQ(layout.caption, "Financial Calc (Annuities)");
+  EXPECT_EQ(layout.place, (controls::Rect{900, 900, 7230, 5250}));
+}
+
+TEST(FrmAnnuityLayout, PictureButtonsHaveTheirPictures) {
+  const auto iconOf = [](std::string_view name) {
+    return std::ranges::find(frmAnnuityLayout().controls, name, &ControlLayout::name)->icon;
+  };
+  EXPECT_EQ(iconOf("cmdRotateLabels"), "rotate");
+  EXPECT_EQ(iconOf("cmdClearAll"), "clear");
+  EXPECT_EQ(iconOf("cmdHelp"), "help");
+  EXPECT_EQ(iconOf("cmdPrintToTape"), "print");
+}
+
+TEST(FrmAnnuityLayout, AnswerAndPrintButtonAreSpoken) {
+  EXPECT_EQ(
+      namesOf(frmAnnuityLayout(), [](const ControlLayout& control) { return control.spoken; }),
+      (std::vector<std::string_view>{"lblAnswer", "cmdPrintToTape"}));
+}
+
+constexpr Placed kPlaces[] = {
+    {"Label1", {180, 150, 4080, 240}},          {"Label2", {180, 555, 2040, 240}},
+    {"txtNper", {2310, 495, 1950, 330}},        {"Label3", {180, 975, 2040, 240}},
+    {"txtRate", {2310, 915, 1950, 330}},        {"Label4", {180, 1395, 2040, 240}},
+    {"txtPmt", {2310, 1335, 1950, 330}},        {"Label5", {180, 1815, 2040, 240}},
+    {"txtPV", {2310, 1755, 1950, 330}},         {"Label6", {180, 2235, 2040, 240}},
+    {"txtFV", {2310, 2175, 1950, 330}},         {"Label8", {180, 2565, 4080, 240}},
+    {"cmdCalculate", {2310, 2910, 1950, 435}},  {"lblResultType", {180, 3480, 4080, 285}},
+    {"lblAnswer", {180, 3780, 4080, 930}},      {"optNper(0)", {4500, 495, 1170, 330}},
+    {"optNper(1)", {5760, 495, 1170, 330}},     {"fraDueBy", {4500, 915, 2430, 1590}},
+    {"optDue(0)", {4680, 1230, 2070, 330}},     {"optDue(1)", {4680, 1620, 2070, 330}},
+    {"Label7", {4680, 2055, 2070, 240}},        {"cmdRotateLabels", {4500, 3930, 570, 570}},
+    {"cmdPrintToTape", {6360, 3930, 570, 570}}, {"cmdClearAll", {5120, 3930, 570, 570}},
+    {"cmdHelp", {5740, 3930, 570, 570}},
+};
+
+TEST(FrmAnnuityLayout, PlacesMatchTheList) {
+  expectPlaces(frmAnnuityLayout(), kPlaces);
+}
+
 constexpr Seen kListed[] = {
     {0, "Label1", kLabel, "Leave one blank to calculate its result.", "", "", "", kSans, 83, false,
      Alignment::Right},

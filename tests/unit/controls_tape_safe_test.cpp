@@ -29,6 +29,14 @@ TEST(TapeSafe, StoresTheHeaderWithTheFirstLine) {
   EXPECT_EQ(lost(safe), "Top\r\n1.00 + ");
 }
 
+TEST(TapeSafe, StoresATapeThatBeginsWithALine) {
+  inmemory::TapeSafe safe;
+  safe.record({.inserted = "Top\n1.00 + "});
+  EXPECT_EQ(lost(safe), "Top\n1.00 + ");
+  safe.record({.inserted = "Top\r"});
+  EXPECT_EQ(safe.size(), 0u);
+}
+
 TEST(TapeSafe, StoresANoteInTheHeader) {
   inmemory::TapeSafe safe;
   safe.record({.inserted = "Top"});

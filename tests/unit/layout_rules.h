@@ -96,6 +96,17 @@ inline void expectColumn(const WindowLayout& layout, const std::vector<std::stri
   }
 }
 
+struct Placed {
+  std::string_view name;
+  Rect place;
+};
+
+/// The controls stand where the list says, which is complete.
+inline void expectPlaces(const WindowLayout& layout, std::span<const Placed> list) {
+  EXPECT_EQ(layout.controls.size(), list.size());
+  for (const auto& [name, place] : list) EXPECT_EQ(placeOf(layout, name), place) << name;
+}
+
 /// What users and screen readers see of a control.
 struct Seen {
   int tabIndex;
@@ -110,6 +121,15 @@ struct Seen {
   bool bold = false;
   Alignment alignment = Alignment::Left;
 };
+
+/// The names of the controls for which something holds, in the order of the table.
+template <class Condition>
+std::vector<std::string_view> namesOf(const WindowLayout& layout, Condition holds) {
+  std::vector<std::string_view> names;
+  for (const ControlLayout& control : layout.controls)
+    if (holds(control)) names.push_back(control.name);
+  return names;
+}
 
 /// The controls match the list, which is complete.
 inline void expectSeen(const WindowLayout& layout, std::span<const Seen> list) {

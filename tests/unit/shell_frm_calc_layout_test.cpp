@@ -101,6 +101,31 @@ TEST(FrmCalcLayout, KeysOfAKindHaveTheSameSize) {
   }
 }
 
+constexpr Placed kPlaces[] = {
+    {"txtEntry", {0, 0, 2175, 375}},           {"cmdClearCurrent", {0, 435, 690, 450}},
+    {"cmdMemClear", {750, 435, 480, 450}},     {"cmdDivide", {2895, 435, 510, 450}},
+    {"cmdArrow", {3435, 435, 510, 450}},       {"cmdClearCalc", {0, 945, 690, 450}},
+    {"cmdMemRecall", {750, 945, 480, 450}},    {"cmdNumber(7)", {1290, 945, 495, 450}},
+    {"cmdNumber(8)", {1815, 945, 495, 450}},   {"cmdNumber(9)", {2340, 945, 495, 450}},
+    {"cmdTimes", {2895, 945, 510, 450}},       {"cmdPercent", {3435, 945, 510, 450}},
+    {"cmdClearTape", {0, 1425, 690, 450}},     {"cmdMemStore", {750, 1425, 480, 450}},
+    {"cmdNumber(4)", {1290, 1425, 495, 450}},  {"cmdNumber(5)", {1815, 1425, 495, 450}},
+    {"cmdNumber(6)", {2340, 1425, 495, 450}},  {"cmdMinus", {2895, 1425, 510, 450}},
+    {"cmdChangeSign", {3435, 1425, 510, 450}}, {"cmdClearAll", {0, 1905, 690, 450}},
+    {"cmdMemPlus", {750, 1905, 480, 930}},     {"cmdNumber(1)", {1290, 1905, 495, 450}},
+    {"cmdNumber(2)", {1815, 1905, 495, 450}},  {"cmdNumber(3)", {2340, 1905, 495, 450}},
+    {"cmdPlus", {2895, 1905, 510, 930}},       {"cmdEquals", {3435, 1905, 510, 930}},
+    {"cmdSquareRoot", {0, 2385, 690, 450}},    {"cmdNumber(0)", {1290, 2385, 1020, 450}},
+    {"cmdPeriod", {2340, 2385, 495, 450}},     {"chkFloatingDec", {1290, 435, 495, 450}},
+    {"chkShiftDec", {1815, 435, 495, 450}},    {"chkTapeOff", {2340, 435, 495, 450}},
+    {"txtTape", {4000, 40, 2570, 2795}},       {"Label1", {2400, 75, 1005, 240}},
+    {"txtDec", {3435, 0, 510, 375}},
+};
+
+TEST(FrmCalcLayout, PlacesMatchTheList) {
+  expectPlaces(frmCalcLayout(), kPlaces);
+}
+
 constexpr Seen kListed[] = {
     {0, "txtEntry", kBox, "", "", "Entry", "", kCourier, 120, true, Alignment::Right},
     {1, "cmdClearCurrent", kButton, "CE&ntry", "", "Clear e&ntry", "Clears only the entry.", kSans,
@@ -153,48 +178,85 @@ TEST(FrmCalcLayout, ControlsMatchTheList) {
   expectSeen(frmCalcLayout(), kListed);
 }
 
+using Names = std::vector<std::string_view>;
+
+TEST(FrmCalcLayout, ColorsTellKindsOfKeysApart) {
+  using controls::KeyKind;
+  const auto keys = [](KeyKind kind) {
+    return namesOf(frmCalcLayout(), [kind](const ControlLayout& control) {
+      return control.keyKind == kind && (control.kind == kButton || control.kind == kToggle);
+    });
+  };
+  EXPECT_EQ(keys(KeyKind::Plain),
+            (Names{"cmdNumber(7)", "cmdNumber(8)", "cmdNumber(9)", "cmdNumber(4)", "cmdNumber(5)",
+                   "cmdNumber(6)", "cmdNumber(1)", "cmdNumber(2)", "cmdNumber(3)", "cmdNumber(0)",
+                   "cmdPeriod"}));
+  EXPECT_EQ(keys(KeyKind::Operator), (Names{"cmdDivide", "cmdArrow", "cmdTimes", "cmdPercent",
+                                            "cmdMinus", "cmdChangeSign", "cmdSquareRoot"}));
+  EXPECT_EQ(keys(KeyKind::Strong), (Names{"cmdPlus", "cmdEquals"}));
+  EXPECT_EQ(keys(KeyKind::Clear),
+            (Names{"cmdClearCurrent", "cmdClearCalc", "cmdClearTape", "cmdClearAll"}));
+  EXPECT_EQ(keys(KeyKind::Memory),
+            (Names{"cmdMemClear", "cmdMemRecall", "cmdMemStore", "cmdMemPlus"}));
+  EXPECT_EQ(keys(KeyKind::Toggle), (Names{"chkFloatingDec", "chkShiftDec", "chkTapeOff"}));
+}
+
+TEST(FrmCalcLayout, TapeHasLinesAndTheEntryNarrowDigits) {
+  for (const auto& control : frmCalcLayout().controls) {
+    const bool tape = control.name == "txtTape";
+    const bool number = control.name == "txtEntry" || control.name == "txtDec";
+    EXPECT_EQ(control.multiLine, tape) << control.name;
+    EXPECT_EQ(control.columns, tape ? 26 : 0) << control.name;
+    EXPECT_EQ(control.font.characterWidth, number ? 100 : 0) << control.name;
+    EXPECT_EQ(control.litName, control.name == "cmdMemPlus" ? "&Memory plus, memory in use" : "")
+        << control.name;
+  }
+}
+
 TEST(FrmCalcLayout, MenusMatchTheList) {
   std::vector<std::string> menu;
   for (const auto& item : frmCalcLayout().menu)
     menu.push_back(std::string(2 * static_cast<std::size_t>(item.level), ' ') +
-                   std::string(item.caption) +
+                   std::string(item.caption) + "|" + std::string(item.name) +
                    (item.shortcut.empty() ? "" : "|" + std::string(item.shortcut)) +
                    (item.checked ? "|checked" : ""));
-  const std::vector<std::string> listed = {"&File",
-                                           "  &Save",
-                                           "  &Print",
-                                           "  E&xit",
-                                           "&Edit",
-                                           "  Cu&t|Ctrl+X",
-                                           "  &Copy|Ctrl+C",
-                                           "  &Paste|Ctrl+V",
-                                           "  -",
-                                           "  &Floating Decimal|Ctrl+F",
-                                           "  &Stationary Decimal|Ctrl+D",
-                                           "  -",
-                                           "  Copy &Entire Tape",
-                                           "  Tape to &Notepad|Ctrl+N",
-                                           "&Win",
-                                           "  &Always on Top",
-                                           "  &Micro Window|Ctrl+S",
-                                           "  M&odes",
-                                           "    &Adding Machine|Ctrl+A",
-                                           "    &Calculator|Ctrl+T|checked",
-                                           "  &Financial Calc",
-                                           "    Loan Calc",
-                                           "    Investment Calc",
-                                           "    Standard Calc",
-                                           "  &Pad Tape",
-                                           "  &Tape Off|Ctrl+O",
-                                           "&Help",
-                                           "  Tallyrex &Help",
-                                           "  -",
-                                           "  &About Tallyrex"};
+  const std::vector<std::string> listed = {"&File|mnuFile",
+                                           "  &Save|mnuFileSave",
+                                           "  &Print|mnuFilePrint",
+                                           "  E&xit|mnuFileExit",
+                                           "&Edit|mnuEdit",
+                                           "  Cu&t|mnuEditCut|Ctrl+X",
+                                           "  &Copy|mnuEditCopy|Ctrl+C",
+                                           "  &Paste|mnuEditPaste|Ctrl+V",
+                                           "  -|mnuEsep1",
+                                           "  &Floating Decimal|mnuEditFloatingDecimal|Ctrl+F",
+                                           "  &Stationary Decimal|mnuEditStationaryDecimal|Ctrl+D",
+                                           "  -|mnuEsep2",
+                                           "  Copy &Entire Tape|mnuEditCopyTape",
+                                           "  Tape to &Notepad|mnuEditTapeToNotepad|Ctrl+N",
+                                           "&Win|mnuWindow",
+                                           "  &Always on Top|mnuWinAlwaysOnTop",
+                                           "  &Micro Window|mnuWinMicroWindow|Ctrl+S",
+                                           "  M&odes|mnuWinModes",
+                                           "    &Adding Machine|mnuWinMode(0)|Ctrl+A",
+                                           "    &Calculator|mnuWinMode(1)|Ctrl+T|checked",
+                                           "  &Financial Calc|mnuWinFinancialCalc",
+                                           "    Loan Calc|mnuWinFinCalcLoan",
+                                           "    Investment Calc|mnuWinFinCalcInv",
+                                           "    Standard Calc|mnuFinCalcStandard",
+                                           "  &Pad Tape|mnuWinPadTape",
+                                           "  &Tape Off|mnuWinTapeOff|Ctrl+O",
+                                           "&Help|mnuHelp",
+                                           "  Tallyrex &Help|mnuHelpContents",
+                                           "  -|mnuHsep1",
+                                           "  &About Tallyrex|mnuHelpAbout"};
   EXPECT_EQ(menu, listed);
 }
 
 TEST(FrmCalcLayout, WindowHasTheDesignedSize) {
   const auto& layout = frmCalcLayout();
+  EXPECT_EQ(layout.name, "frmCalc");
+  EXPECT_EQ(layout.caption, "Calc Mode");
   EXPECT_EQ(layout.place, (controls::Rect{500, 500, 6690, 3525}));
   EXPECT_TRUE(layout.resizable);
   EXPECT_EQ(layout.smallestWidth, 2280);
