@@ -26,7 +26,7 @@ class Button : public ClickControl {
 
   /// Shows for a moment that the click has been carried out, and has a screen reader read out the
   /// text.
-  virtual void confirm(std::string_view) {}
+  virtual void confirm(std::string_view text) = 0;
 };
 
 /// A button that stays down until it is pressed again.

@@ -66,7 +66,7 @@ void Control::setBackColor(Color color) {
 
 char Control::accessKey() const {
   const auto ampersand = caption_.find('&');
-  if (ampersand == std::string::npos || ampersand + 1 == caption_.size()) return 0;
+  if (ampersand == std::string::npos) return 0;
   return static_cast<char>(std::toupper(static_cast<unsigned char>(caption_[ampersand + 1])));
 }
 

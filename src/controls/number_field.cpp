@@ -15,11 +15,9 @@ void NumberField::rewrite(std::string_view text, int caret) {
 }
 
 void NumberField::reformat(std::string_view text) {
-  const std::string before = box_.text();
-  if (text == before) return;
   const int caret = box_.selStart();
   const int moved = caret + static_cast<int>(common::toUtf16(text).size()) - box_.length();
-  const bool cutAtTheEnd = moved < 0 || before.starts_with(text);
+  const bool cutAtTheEnd = moved < 0 || box_.text().starts_with(text);
   rewrite(text, cutAtTheEnd ? caret : moved);
 }
 

@@ -119,8 +119,8 @@ class Window {
   virtual void showBounds() {}
   virtual void showVisible() {}
   virtual void showEnabled() {}
-  virtual void showState() {}
-  virtual void showOnTop() {}
+  virtual void showState() = 0;
+  virtual void showOnTop() = 0;
   /// Brings the window to the front. The implementation then calls noteActivated.
   virtual void bringToFront() = 0;
   /// The window is about to be hidden and `next` comes to the front.

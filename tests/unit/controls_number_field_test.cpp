@@ -71,6 +71,12 @@ TEST_F(NumberFieldTest, CaretStaysWhenMoreIsRemovedThanPrecedesIt) {
   EXPECT_EQ(shown(), "1.23 1+0");
 }
 
+TEST_F(NumberFieldTest, CaretIsInFrontOfTheTextThatIsLeftOfManyZeros) {
+  put("007", 2);
+  field_.reformat("7");
+  EXPECT_EQ(shown(), "7 0+0");
+}
+
 TEST_F(NumberFieldTest, BackspaceSkipsASeparator) {
   put("1,234", 2);
   field_.stepOverSeparator();
@@ -83,7 +89,13 @@ TEST_F(NumberFieldTest, BackspaceSkipsNothingAtTheStartOrOverASelection) {
   put("1,234", 2, 2);
   field_.stepOverSeparator();
   EXPECT_EQ(shown(), "1,234 2+2");
+  put("1,234", 2, 1);
+  field_.stepOverSeparator();
+  EXPECT_EQ(shown(), "1,234 2+1");
   put(",234", 0);
+  field_.stepOverSeparator();
+  EXPECT_EQ(shown(), ",234 0+0");
+  put(",234", 1);
   field_.stepOverSeparator();
   EXPECT_EQ(shown(), ",234 0+0");
 }

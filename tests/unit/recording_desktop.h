@@ -5,6 +5,7 @@
 #include <utility>
 #include <vector>
 
+#include "inmemory/button.h"
 #include "inmemory/desktop.h"
 #include "inmemory/text_box.h"
 
@@ -96,7 +97,7 @@ class Window : public controls::Window {
       case ControlKind::TextBox:
         return std::make_unique<TextBox>(*this, layout);
       case ControlKind::Button:
-        return std::make_unique<Control<controls::Button>>(*this, layout);
+        return std::make_unique<Control<inmemory::Button>>(*this, layout);
       case ControlKind::ToggleButton:
         return std::make_unique<ControlWithValue<controls::ToggleButton>>(*this, layout);
       case ControlKind::OptionButton:
