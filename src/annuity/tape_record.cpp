@@ -1,5 +1,7 @@
 #include "annuity/tape_record.h"
 
+#include <algorithm>
+
 #include "common/number_pattern.h"
 #include "common/unicode.h"
 
@@ -11,7 +13,7 @@ constexpr std::string_view kLineBreak = "\r\n";
 
 std::string blanksBeside(std::string_view text) {
   const std::size_t characters = common::toUtf16(text).size();
-  return std::string(characters < kColumns ? kColumns - characters : 0, ' ');
+  return std::string(kColumns - std::min(characters, kColumns), ' ');
 }
 
 std::string captionLine(std::string caption) {

@@ -104,7 +104,6 @@ Point balanceAt(const Factors& factors, const Factors& slopes, double pmt, doubl
 }  // namespace
 
 double pmt(double rate, double nper, double pv, double fv, int due) {
-  if (nper == 0) throw RunTimeError(kInvalidProcedureCall);
   const Factors factors = usableFactors(rate, nper, due);
   if (factors.s == 0) throw RunTimeError(kInvalidProcedureCall);
   return answer(-(fv + pv * factors.q) / factors.s);

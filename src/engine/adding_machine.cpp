@@ -79,7 +79,7 @@ void AddingMachine::clearEntry() {
 void AddingMachine::clearTotal() {
   if (mode_ == Mode::Product) mode_ = Mode::Add;
   calculation_.clearTotal();
-  postToTape({{"0", 0}, Mark::Total});
+  postToTape({amountOf(0), Mark::Total});
   entry_.takeAsResult();
 }
 

@@ -47,10 +47,10 @@ std::string formatFloating(std::string_view text) {
   const auto point = text.find('.');
   if (point == std::string_view::npos) return groupWhole(text);
   const std::string_view whole = text.substr(0, point);
-  const double wholeValue = hasDigit(whole) ? common::toNumber(whole) : 0;
+  const bool small = !hasDigit(whole) || common::toNumber(whole) < 1000;
   std::string formatted = groupWhole(whole) + std::string(text.substr(point));
   // Exponent notation of a small number is written out.
-  if (formatted.find('E') == std::string::npos || wholeValue >= 1000) return formatted;
+  if (formatted.find('E') == std::string::npos || !small) return formatted;
   return formatText(formatted, kSmallNumberPattern);
 }
 

@@ -4,8 +4,8 @@ namespace engine {
 
 int Decimals::places() const {
   const std::string text = places_.text();
-  const bool oneDigit = text.size() == 1 && text[0] >= '0' && text[0] <= '9';
-  return oneDigit ? text[0] - '0' : 0;
+  const bool some = text.size() == 1 && text[0] >= '1' && text[0] <= '9';
+  return some ? text[0] - '0' : 0;
 }
 
 void Decimals::fillEmptyBox() {

@@ -1,7 +1,5 @@
 #include "engine/entry.h"
 
-#include <algorithm>
-
 #include "common/number_pattern.h"
 #include "common/number_text.h"
 #include "common/run_time_error.h"
@@ -54,7 +52,6 @@ void Entry::showPasted(const std::string& text) {
   if (!decimals_.floating() && text.find('.') != std::string::npos)
     origin_ = Origin::ValueWithPoint;
   reformat();
-  box_.moveCaretToEnd();
 }
 
 void Entry::showTotal(double total) {
@@ -118,10 +115,8 @@ bool Entry::hasSign(const std::string& text) const {
 
 // Fixes a misplaced sign and misplaced separators.
 void Entry::repair() {
-  const std::string text = box_.text();
-  if (hasSign(text)) field_.repairSign();
-  const auto point = std::min(text.find('.'), text.size());
-  if (text.find(',', point) != std::string::npos) field_.dropSeparatorsBehindPoint();
+  if (hasSign(box_.text())) field_.repairSign();
+  field_.dropSeparatorsBehindPoint();
 }
 
 void Entry::reformat() {

@@ -60,7 +60,6 @@ class Entry {
   void tidy();
   void changeSign();
   void setFocus() { box_.setFocus(); }
-  void moveCaretToEnd() { box_.moveCaretToEnd(); }
 
   /// Whether the character may be typed. After a result, the box is emptied first.
   bool accepts(controls::KeyAscii key);

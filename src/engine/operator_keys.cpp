@@ -24,7 +24,6 @@ void AddingMachine::divide() {
 bool AddingMachine::postWith(Operator key) {
   if (!processEntry(key)) return false;
   entry_.format();
-  entry_.moveCaretToEnd();
   return true;
 }
 
@@ -114,7 +113,6 @@ void AddingMachine::showPercent(const Amount& amount) {
   entry_.takeAsResult();
   entry_.format();
   if (mode_ == Mode::Product) total();
-  entry_.moveCaretToEnd();
 }
 
 }  // namespace engine

@@ -1,5 +1,6 @@
 #include "engine/tape_line.h"
 
+#include <algorithm>
 #include <array>
 
 #include "common/number_pattern.h"
@@ -25,7 +26,8 @@ std::string tapeText(const TapeLine& line, const TapeForm& form) {
   text += {' ', kMarkCharacters.at(static_cast<std::size_t>(line.mark)), ' '};
   if (!form.padded) return text;
   if (form.floating) text.insert(0, 1, ' ');
-  if (text.size() < kTapeWidth) text.insert(0, kTapeWidth - text.size(), ' ');
+  constexpr auto kWidth = static_cast<std::size_t>(kTapeWidth);
+  text.insert(0, kWidth - std::min(text.size(), kWidth), ' ');
   return text;
 }
 

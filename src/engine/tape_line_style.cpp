@@ -1,5 +1,6 @@
 #include "engine/tape_line_style.h"
 
+#include <algorithm>
 #include <optional>
 
 #include "common/number_text.h"
@@ -25,9 +26,7 @@ struct Posting {
 
 // The amount and the symbol of a line that has both.
 std::optional<Posting> postingOf(std::string_view line) {
-  const std::size_t start = line.find_first_not_of(' ');
-  if (start == std::string_view::npos) return {};
-  line.remove_prefix(start);
+  line.remove_prefix(std::min(line.find_first_not_of(' '), line.size()));
   const std::size_t end = line.find(' ');
   if (end == std::string_view::npos || end + 1 >= line.size()) return {};
   const Posting posting = {line.substr(0, end), line[end + 1]};

@@ -21,7 +21,6 @@ bool AddingMachine::total() {
   }
   if (!(entryIsTyped(text) ? printEntryAndTotal(text) : printShown())) return false;
   entry_.format();
-  entry_.moveCaretToEnd();
   if (mode_ == Mode::Product) {
     mode_ = Mode::Add;
     calculation_.clearTotal();

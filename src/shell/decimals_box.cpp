@@ -20,12 +20,8 @@ DecimalsBox::DecimalsBox(const controls::Window& window, const engine::MachineCo
       mnuEditStationaryDecimal_(window.menuItem("mnuEditStationaryDecimal")) {}
 
 void DecimalsBox::restore(const Settings& settings) {
-  const bool stationary = settings.number("frmCalcchkShiftDec", 0) != 0;
-  const bool floating = settings.number("frmCalcchkFloatingDec", 0) != 0;
-  controls_.chkShiftDec.setValue(stationary);
-  controls_.chkFloatingDec.setValue(floating);
-  mnuEditStationaryDecimal_.setChecked(stationary);
-  mnuEditFloatingDecimal_.setChecked(floating);
+  controls_.chkShiftDec.setValue(settings.number("frmCalcchkShiftDec", 0) != 0);
+  controls_.chkFloatingDec.setValue(settings.number("frmCalcchkFloatingDec", 0) != 0);
   controls_.txtDec.setText(settings.text("frmCalctxtDec", "2"));
 }
 
@@ -36,9 +32,7 @@ void DecimalsBox::save(Settings& settings) const {
 }
 
 void DecimalsBox::toggleFloating() {
-  const bool on = controls_.chkFloatingDec.value() == 0;
-  controls_.chkFloatingDec.setValue(on);
-  mnuEditStationaryDecimal_.setEnabled(!on);
+  controls_.chkFloatingDec.setValue(1 - controls_.chkFloatingDec.value());
 }
 
 void DecimalsBox::toggleStationary() {
@@ -87,8 +81,7 @@ void DecimalsBox::paste(std::string& text) {
 }
 
 void DecimalsBox::lostFocus() {
-  controls_.txtDec.setBackColor(controls_.chkFloatingDec.value() == 1 ? Color::buttonFace()
-                                                                      : Color::window());
+  controls_.txtDec.setBackColor(Color::window());
   if (controls_.txtDec.text().empty()) controls_.txtDec.setText("0");
 }
 

@@ -28,7 +28,6 @@ frmCalc::frmCalc(controls::Desktop& desktop, Program& program)
   window_->onActivate = [this] { activate(); };
   window_->onClose = [this] { unload(); };
   window_->onHelp = [this] { showHelp(); };
-  controls_.txtEntry.setText("");
   controls_.txtTape.setText("Top");
 }
 

@@ -23,9 +23,7 @@ TapeOptions::TapeOptions(const controls::Window& window, const engine::MachineCo
     : window_(window), controls_(controls), mnuWinTapeOff_(window.menuItem("mnuWinTapeOff")) {}
 
 void TapeOptions::restore(const Settings& settings) {
-  const bool off = settings.number("frmCalcchkTapeOff", 0) != 0;
-  controls_.chkTapeOff.setValue(off);
-  mnuWinTapeOff_.setChecked(off);
+  controls_.chkTapeOff.setValue(settings.number("frmCalcchkTapeOff", 0) != 0);
   controls_.mnuWinPadTape.setChecked(settings.truth("frmCalcmnuWinPadTape"));
 }
 
