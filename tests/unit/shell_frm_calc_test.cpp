@@ -115,6 +115,14 @@ TEST(MainWindow, DecimalsBoxKeepsTheFocusWhenTabIsReleased) {
   EXPECT_TRUE(shown.box("txtEntry").focused());
 }
 
+TEST(MainWindow, DecimalsBoxDiscardsWhatIsNoDigit) {
+  Shown<inmemory::Desktop> shown;
+  controls::KeyAscii key = 'x';
+  shown.box("txtDec").onKeyPress(key);
+  EXPECT_EQ(key, 0);
+  EXPECT_EQ(shown.desktop.beeps, 1);
+}
+
 TEST(MainWindow, IsNotMovedAtTheStartUnlessItIsAlwaysOnTop) {
   {
     const Shown<CountingDesktop> shown;
