@@ -14,7 +14,7 @@ import sys
 import threading
 import time
 
-HANGS = 60  # Seconds after which a driver that has not answered is ended.
+HANGS = 120  # Seconds after which a driver is ended that has not answered; it may wait for another run first.
 MOST_REPEATED = 3
 
 

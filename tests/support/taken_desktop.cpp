@@ -75,6 +75,8 @@ class Borrowed {
     bindStartedPrograms();
     keepDesktop();
     SetConsoleCtrlHandler(putBackAtCtrlC, TRUE);
+    // Who starts this program may have told it to ignore Ctrl+C.
+    SetConsoleCtrlHandler(nullptr, FALSE);
   }
   ~Borrowed() {
     SetConsoleCtrlHandler(putBackAtCtrlC, FALSE);
