@@ -53,7 +53,7 @@ int KeyFace::iconSize() const {
   return MulDiv(kIconSize, frame_.scale().dpi(), 96);
 }
 
-// A caption may have changed since.
+// The caption can change.
 std::wstring KeyFace::text() const {
   return face_.empty() ? wide(key_.caption()) : face_;
 }
@@ -73,8 +73,8 @@ LRESULT KeyFace::draw(const NMCUSTOMDRAW& draw, Shows shows) const {
   return CDRF_SKIPDEFAULT;
 }
 
-// The key with the focus has a frame of two pixels in the colour of what is selected, which a line
-// parts from a face of any colour.
+// The focused key has a frame of two pixels in the highlight color, which a line separates from a
+// face of any color.
 void KeyFace::drawShape(const NMCUSTOMDRAW& draw, const KeyState& state,
                         const KeyColors& colors) const {
   constexpr controls::Twips kRadius = 60;
@@ -91,7 +91,7 @@ void KeyFace::drawShape(const NMCUSTOMDRAW& draw, const KeyState& state,
   drawKeyShape(draw.hdc, draw.rc, frame_.scale().toPixels(kRadius), layers);
 }
 
-// A face that is no caption shows each of its characters.
+// In a face that is not the caption, & is a character.
 UINT KeyFace::textFormat(HWND button) const {
   if (!key_.layout().face.empty()) return DT_CENTER | DT_NOPREFIX;
   const auto state = static_cast<UINT>(SendMessageW(button, WM_QUERYUISTATE, 0, 0));
@@ -124,7 +124,7 @@ void KeyFace::drawIcon(const NMCUSTOMDRAW& draw) const {
   }
 }
 
-// As large as the icon in whose place it is.
+// It is as large as the icon that it replaces.
 void KeyFace::drawCheckMark(const NMCUSTOMDRAW& draw, COLORREF color) const {
   const int size = iconSize();
   const LONG x = draw.rc.left + (draw.rc.right - draw.rc.left - size) / 2;

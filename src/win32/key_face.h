@@ -14,20 +14,19 @@ namespace win32 {
 
 class Window;
 
-/// What the system and a screen reader know a button by: the words for it, where its caption,
-/// symbol or picture does not say what it does.
+/// The name of a button for the system and screen readers, where its caption or symbol does not say
+/// what it does, and else that caption or symbol.
 std::wstring keyName(const controls::ControlLayout& layout, std::string_view caption);
 
-/// What is seen of a button: its shape in the colours of its kind, and on it the caption, a symbol
-/// or a picture.
+/// Draws a button: its shape in the colors of its kind, and on it the caption, a symbol or an icon.
 class KeyFace {
  public:
   KeyFace(Window& frame, const controls::Control& key);
 
-  /// The resolution or the system's colours have changed.
+  /// The resolution or the system colors have changed.
   void refresh();
-  /// A key is drawn with its face; one that is down, or that confirms a click with a check mark,
-  /// has the colors of a pressed toggle.
+  /// A key that is down, or that confirms a click with a check mark instead of its face, has the
+  /// colors of a pressed toggle.
   enum class Shows { Key, KeyDown, CheckMark };
   /// Draws it in place of the native button.
   LRESULT draw(const NMCUSTOMDRAW& draw, Shows shows) const;
@@ -44,7 +43,7 @@ class KeyFace {
   Window& frame_;
   const controls::Control& key_;
   std::wstring face_;
-  // One of the frame's that shows the face.
+  // Owned by the frame; has every character of the face.
   HFONT font_ = nullptr;
   OwnedIcon icon_;
 };

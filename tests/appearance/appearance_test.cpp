@@ -6,13 +6,13 @@
 #include "win32/light_icon.h"
 #include "win32/text.h"
 
-// That nothing is cut off and nothing stands askew, whatever the resolution.
+// At every resolution, nothing is cut off and nothing is misaligned.
 namespace appearance {
 namespace {
 
 using controls::ControlKind;
 
-/// A text that is seen on a label or a key.
+/// The text shown on a label or a key.
 struct Shown {
   HWND control;
   std::wstring text;
@@ -35,7 +35,7 @@ class AppearanceAt : public AppearanceTest, public testing::WithParamInterface<i
     return shown;
   }
 
-  /// What the frame of a button, or the circle of an option, leaves for the text.
+  /// The width for the text, beside the frame of a button or the circle of an option.
   int roomIn(const Shown& shown) {
     const LONG width = clientSize(shown.control).cx;
     if (shown.kind == ControlKind::Label) return width;
@@ -56,7 +56,7 @@ class AppearanceAt : public AppearanceTest, public testing::WithParamInterface<i
     }
   }
 
-  /// The figures of the box's line are as far from its upper edge as from its lower, to a pixel.
+  /// The digits are vertically centered in the box, to a pixel.
   void expectCentered(HWND box) {
     const TEXTMETRICW metrics = metricsOf(box);
     POINT line = {0, 0};
@@ -68,7 +68,7 @@ class AppearanceAt : public AppearanceTest, public testing::WithParamInterface<i
     EXPECT_NEAR(figuresTop, figuresBottom, 1);
   }
 
-  /// Where a character of the tape begins.
+  /// The left edge of a character of the tape.
   static int tapeX(HWND tape, int character) {
     return static_cast<short>(
         LOWORD(SendMessageW(tape, EM_POSFROMCHAR, static_cast<WPARAM>(character), 0)));
@@ -94,7 +94,7 @@ TEST_P(AppearanceAt, TextsOfTheAboutBoxFit) {
   tell("close frmAbout");
 }
 
-TEST_P(AppearanceAt, LargeAnswersStayInTheirLineAndTwoLinesInTheirPlace) {
+TEST_P(AppearanceAt, LargeAnswersFitOnOneLineAndTwoLinesFitTheirPlace) {
   tell("menu mnuWinFinCalcLoan");
   const HWND answer = control("frmAnnuity", "lblAnswer");
   setResolution(window("frmAnnuity"), GetParam());
@@ -102,7 +102,7 @@ TEST_P(AppearanceAt, LargeAnswersStayInTheirLineAndTwoLinesInTheirPlace) {
   EXPECT_LE(sizeOf(answer, L"188  Years\r\n11.88  Months").cy, clientSize(answer).cy);
 }
 
-TEST_P(AppearanceAt, FiguresStandInTheMiddleOfTheirBox) {
+TEST_P(AppearanceAt, DigitsAreVerticallyCentered) {
   tell("menu mnuWinFinCalcLoan");
   setResolution(window("frmCalc"), GetParam());
   setResolution(window("frmAnnuity"), GetParam());
@@ -111,14 +111,14 @@ TEST_P(AppearanceAt, FiguresStandInTheMiddleOfTheirBox) {
     expectCentered(control("frmAnnuity", box));
 }
 
-TEST_P(AppearanceAt, EntryBoxShowsAllThatItTakes) {
+TEST_P(AppearanceAt, EntryBoxIsWideEnoughForItsLongestNumber) {
   const HWND entry = control("frmCalc", "txtEntry");
   setResolution(window("frmCalc"), GetParam());
   constexpr int kCaret = 1;
   EXPECT_LE(sizeOf(entry, L"888,888,888,888,888").cx + kCaret, clientSize(entry).cx);
 }
 
-TEST_P(AppearanceAt, PaddedTapeShowsItsHeaderAndTheSignsOfItsFigures) {
+TEST_P(AppearanceAt, PaddedTapeShowsItsHeaderAndTheSignsOfItsAmounts) {
   setResolution(window("frmCalc"), GetParam());
   tell("menu mnuWinPadTape");
   const HWND paper = control("frmCalc", "txtTape");
@@ -133,8 +133,8 @@ TEST_P(AppearanceAt, PaddedTapeShowsItsHeaderAndTheSignsOfItsFigures) {
   EXPECT_GT(tapeX(paper, sign), 0);
 }
 
-// Outlines are as sharp at every resolution, and figures of one width stand in columns.
-TEST_P(AppearanceAt, FontsAreOutlinesAndThoseOfFiguresFixed) {
+// Outline fonts are sharp at every resolution, and digits of equal width line up in columns.
+TEST_P(AppearanceAt, FontsAreOutlinesAndDigitsHaveEqualWidth) {
   setResolution(window("frmCalc"), GetParam());
   for (const char* name : {"txtEntry", "txtDec", "txtTape"}) {
     const BYTE pitch = metricsOf(control("frmCalc", name)).tmPitchAndFamily;
@@ -150,7 +150,7 @@ INSTANTIATE_TEST_SUITE_P(Resolutions, AppearanceAt, testing::ValuesIn(kResolutio
 
 class Appearance : public AppearanceTest {
  protected:
-  /// Whether a point of the box beside its line, and one within, come to have the colour in time.
+  /// Whether two pixels of the box, beside its line of text and within it, get the color in time.
   static bool becomes(HWND box, COLORREF color) {
     constexpr ULONGLONG kPatience = 5000;
     constexpr int kWithinEdge = 3;
@@ -168,7 +168,7 @@ class Appearance : public AppearanceTest {
   }
 };
 
-TEST_F(Appearance, BoxesTakeTheSystemsNewColorsAtOnce) {
+TEST_F(Appearance, BoxesFollowAChangeOfTheSystemColorsAtOnce) {
   const HWND box = control("frmCalc", "txtDec");
   const COLORREF before = GetSysColor(COLOR_WINDOW);
   EXPECT_TRUE(becomes(box, before));
@@ -179,7 +179,7 @@ TEST_F(Appearance, BoxesTakeTheSystemsNewColorsAtOnce) {
   EXPECT_TRUE(becomes(box, before));
 }
 
-TEST_F(Appearance, BarOfThePlainTapeIsAlwaysThere) {
+TEST_F(Appearance, ScrollBarOfThePlainTapeIsAlwaysVisible) {
   const HWND tape = control("frmCalc", "txtTape");
   EXPECT_TRUE(GetWindowLongW(tape, GWL_STYLE) & WS_VSCROLL);
   const SIZE size = clientSize(tape);
@@ -191,7 +191,7 @@ TEST_F(Appearance, BarOfThePlainTapeIsAlwaysThere) {
   EXPECT_EQ(clientSize(tape).cx, size.cx);
 }
 
-TEST_F(Appearance, ClickBesideTheLineOfABoxIsAClickIntoIt) {
+TEST_F(Appearance, ClickAboveOrBelowTheTextOfABoxIsInsideIt) {
   const HWND entry = control("frmCalc", "txtEntry");
   const RECT box = placeOf(entry);
   const LONG middle = (box.left + box.right) / 2;
@@ -199,7 +199,7 @@ TEST_F(Appearance, ClickBesideTheLineOfABoxIsAClickIntoIt) {
     EXPECT_EQ(SendMessageW(entry, WM_NCHITTEST, 0, MAKELPARAM(middle, y)), HTCLIENT);
 }
 
-TEST_F(Appearance, PictureForADarkKeyHasLightLines) {
+TEST_F(Appearance, IconOnADarkKeyHasLightLines) {
   constexpr int kSide = 16;
   constexpr std::size_t kPixels = std::size_t{kSide} * kSide;
   const std::vector<BYTE> mask(kPixels / 8);
@@ -220,7 +220,7 @@ TEST_F(Appearance, PictureForADarkKeyHasLightLines) {
   EXPECT_EQ(drawn[2], 0xFFC7CED7);
 }
 
-TEST_F(Appearance, AboutBoxCannotBePutAside) {
+TEST_F(Appearance, AboutBoxCannotBeMinimized) {
   tell("menu mnuHelpAbout");
   const LONG style = GetWindowLongW(window("frmAbout"), GWL_STYLE);
   EXPECT_EQ(style & (WS_MINIMIZEBOX | WS_MAXIMIZEBOX | WS_THICKFRAME), 0);

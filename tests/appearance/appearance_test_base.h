@@ -19,12 +19,12 @@ class AppearanceTest : public desktop::DesktopTest {
   HWND window(const std::string& name);
   HWND control(const std::string& window, const std::string& name);
 
-  /// Opens the loan calculator and has it answer, so that each of its controls is visible.
+  /// Opens the loan calculator and calculates an answer, so that each of its controls is visible.
   void openAnsweredLoan();
 
   /// Tells the window that its monitor has another resolution, as the system does.
   static void setResolution(HWND window, int dpi);
-  /// The same with a place for the window, which is the system's suggestion.
+  /// The same with the place that the system suggests for the window.
   static void setResolution(HWND window, int dpi, const RECT& suggested);
 
   /// Sets the text size of the user's accessibility settings, 100 to 225 percent.
@@ -35,7 +35,7 @@ class AppearanceTest : public desktop::DesktopTest {
   static SIZE clientSize(HWND window);
   static LOGFONTW fontOf(HWND control);
   static TEXTMETRICW metricsOf(HWND control);
-  /// What a text takes in the control's font; several lines where it breaks at this width.
+  /// The size of a text in the control's font; wrapped at this width, if it is not 0.
   static SIZE sizeOf(HWND control, const std::wstring& text, int width = 0);
 };
 

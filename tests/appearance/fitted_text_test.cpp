@@ -4,7 +4,7 @@
 #include "appearance/appearance_test_base.h"
 #include "win32/text.h"
 
-// An entry that is longer than its box is wide is shown whole.
+// An entry that is too wide for its box is drawn narrower, so that all of it is visible.
 namespace appearance {
 namespace {
 
@@ -22,7 +22,7 @@ class FittedText : public AppearanceTest, public testing::WithParamInterface<int
     stage().inspect([&] { stage().findWindow("frmCalc")->textBox("txtEntry").setText(text); });
   }
 
-  /// What the window shows of the box.
+  /// The part of the box that is visible in the window.
   RECT seenPlace() const {
     RECT box = placeOf(entry_);
     MapWindowPoints(nullptr, GetParent(entry_), reinterpret_cast<POINT*>(&box), 2);
@@ -30,7 +30,7 @@ class FittedText : public AppearanceTest, public testing::WithParamInterface<int
     return box;
   }
 
-  /// The box as it is seen, without its caret.
+  /// A picture of the visible part of the box, without the caret.
   Picture picture() {
     Picture picture;
     stage().inspect([&] {
@@ -51,7 +51,7 @@ class FittedText : public AppearanceTest, public testing::WithParamInterface<int
     return picture();
   }
 
-  /// Where a character of the entry begins, from the left edge of what is seen of it.
+  /// The left edge of a character, from the left edge of the box.
   LONG placeOfCharacter(std::size_t index) const {
     return static_cast<short>(LOWORD(SendMessageW(entry_, EM_POSFROMCHAR, index, 0)));
   }
@@ -75,19 +75,19 @@ class FittedText : public AppearanceTest, public testing::WithParamInterface<int
   HWND entry_ = nullptr;
 };
 
-TEST_P(FittedText, IsWholeInTheMainWindow) {
+TEST_P(FittedText, IsFullyVisibleInTheMainWindow) {
   for (const char* text : {"-999,999,999,999.99", "-9,999,999,999,999.90", "-123,456,789,012,345",
                            "-123,456,789,012,345.6789"})
     expectWhole(text);
 }
 
-TEST_P(FittedText, IsWholeInTheMicroWindow) {
+TEST_P(FittedText, IsFullyVisibleInTheMicroWindow) {
   tell("menu mnuWinMicroWindow");
   for (const char* text : {"-999,999,999,999.99", "-9,999,999,999,999.90", "-123,456,789,012,345"})
     expectWhole(text);
 }
 
-TEST_P(FittedText, FollowsTheWindow) {
+TEST_P(FittedText, AdaptsToTheWidthOfTheWindow) {
   tell("menu mnuWinMode(0)");
   tell("press Ctrl+D");
   tell("type \"999999999999999n+\"");
@@ -99,7 +99,7 @@ TEST_P(FittedText, FollowsTheWindow) {
   expectWhole("-9,999,999,999,999.99");
 }
 
-TEST_P(FittedText, ShortTextsHaveTheDesignedLetters) {
+TEST_P(FittedText, ShortTextsKeepTheDesignedFont) {
   const LONG designed = fontOf(entry_).lfWidth;
   show("-999,999,999,999,999,999.00");
   EXPECT_LT(fontOf(entry_).lfWidth, designed);
@@ -108,7 +108,7 @@ TEST_P(FittedText, ShortTextsHaveTheDesignedLetters) {
   EXPECT_EQ(fontOf(entry_).lfWidth, designed);
 }
 
-TEST_P(FittedText, IsFittedWhileItIsTyped) {
+TEST_P(FittedText, AdaptsWhileItIsTyped) {
   tell("menu mnuWinMicroWindow");
   tell("type \"-\"");
   tell("roll \"12345678901234567\"");

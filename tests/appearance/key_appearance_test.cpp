@@ -7,7 +7,7 @@
 #include "win32/colors.h"
 #include "win32/key_style.h"
 
-// How the keys look: told apart by their colour, and read by everybody.
+// How the keys look: each kind has a color of its own, and every text is legible.
 namespace appearance {
 namespace {
 
@@ -16,11 +16,11 @@ using controls::KeyKind;
 constexpr KeyKind kKinds[] = {KeyKind::Plain, KeyKind::Operator, KeyKind::Strong,
                               KeyKind::Clear, KeyKind::Memory,   KeyKind::Toggle};
 
-/// What is measured of a key's picture.
+/// Measurements of a key's picture.
 struct Measured {
   COLORREF frame;
   COLORREF face;
-  /// The colour within that differs most from the face.
+  /// The color inside that differs most from the face.
   COLORREF ink;
 };
 
@@ -76,7 +76,7 @@ class KeyAppearance : public AppearanceTest {
   }
 };
 
-TEST_F(KeyAppearance, LettersAndFramesOfEveryKeyAreSeen) {
+TEST_F(KeyAppearance, TextAndFrameOfEveryKeyHaveEnoughContrast) {
   tell("press Ctrl+T");
   expectSeen("frmCalc");
   tell("click chkTapeOff");
@@ -91,7 +91,7 @@ TEST_F(KeyAppearance, LettersAndFramesOfEveryKeyAreSeen) {
   tell("close frmAbout");
 }
 
-TEST_F(KeyAppearance, KindsAreToldApartByTheirTint) {
+TEST_F(KeyAppearance, KindsDifferInTheirTint) {
   const char* ofEachKind[] = {"cmdNumber(7)",    "cmdMinus",    "cmdPlus",
                               "cmdClearCurrent", "cmdMemStore", "chkFloatingDec"};
   std::map<COLORREF, std::string> faces;
@@ -102,7 +102,7 @@ TEST_F(KeyAppearance, KindsAreToldApartByTheirTint) {
   EXPECT_EQ(measure(key("cmdPlus")).face, measure(key("cmdEquals")).face);
 }
 
-TEST_F(KeyAppearance, StrongKeysStandOutOfAllOthers) {
+TEST_F(KeyAppearance, StrongKeysStandOut) {
   const COLORREF around = GetSysColor(COLOR_BTNFACE);
   for (const Key& each : keysOf("frmCalc")) {
     const bool strong = each.name == "cmdPlus" || each.name == "cmdEquals";
@@ -110,7 +110,7 @@ TEST_F(KeyAppearance, StrongKeysStandOutOfAllOthers) {
   }
 }
 
-TEST_F(KeyAppearance, PressedKeyAndPressedToggleLookSo) {
+TEST_F(KeyAppearance, PressedKeyAndPressedToggleLookPressed) {
   const COLORREF atRest = measure(key("cmdNumber(5)")).face;
   SendMessageW(key("cmdNumber(5)"), BM_SETSTATE, TRUE, 0);
   EXPECT_NE(measure(key("cmdNumber(5)")).face, atRest);
@@ -121,7 +121,7 @@ TEST_F(KeyAppearance, PressedKeyAndPressedToggleLookSo) {
   EXPECT_GE(contrast(measure(key("chkTapeOff")).face, up), 3.0);
 }
 
-TEST_F(KeyAppearance, MemoryInUseIsGreenAndSaysSo) {
+TEST_F(KeyAppearance, MemoryInUseMakesItsKeyGreenAndIsPartOfItsName) {
   tell("type \"5\"");
   tell("click cmdMemPlus");
   EXPECT_EQ(measure(key("cmdMemPlus")).face, RGB(0, 255, 0));
@@ -133,7 +133,7 @@ TEST_F(KeyAppearance, MemoryInUseIsGreenAndSaysSo) {
   EXPECT_STREQ(name, L"&Memory plus");
 }
 
-TEST_F(KeyAppearance, KeyWithTheFocusHasAFrameOfTwoPixels) {
+TEST_F(KeyAppearance, FocusedKeyHasAFrameOfTwoPixels) {
   tell("focus cmdNumber(7)");
   const Picture picture(key("cmdNumber(7)"));
   const int middle = picture.height() / 2;
@@ -144,12 +144,12 @@ TEST_F(KeyAppearance, KeyWithTheFocusHasAFrameOfTwoPixels) {
   EXPECT_EQ(picture.at(2, middle), GetSysColor(COLOR_BTNFACE));
 }
 
-TEST_F(KeyAppearance, LettersOfTogglesAreAsLargeAsOthers) {
+TEST_F(KeyAppearance, TextOfTogglesIsAsLargeAsThatOfOtherKeys) {
   for (const char* toggle : {"chkFloatingDec", "chkShiftDec", "chkTapeOff"})
     EXPECT_EQ(fontOf(key(toggle)).lfHeight, fontOf(key("cmdClearAll")).lfHeight);
 }
 
-TEST_F(KeyAppearance, EveryStateOfEveryKindIsRead) {
+TEST_F(KeyAppearance, EveryStateOfEveryKindIsLegible) {
   const COLORREF around = GetSysColor(COLOR_BTNFACE);
   const controls::Color green = controls::Color::rgb(0x00FF00);
   for (const KeyKind kind : kKinds) {
@@ -171,7 +171,7 @@ TEST_F(KeyAppearance, EveryStateOfEveryKindIsRead) {
   }
 }
 
-TEST_F(KeyAppearance, KeysEndWhereTheDecimalsBoxDoes) {
+TEST_F(KeyAppearance, KeysAreAlignedWithTheDecimalsBox) {
   EXPECT_EQ(placeOf(key("cmdEquals")).right, placeOf(key("txtDec")).right);
   EXPECT_EQ(placeOf(key("cmdArrow")).right, placeOf(key("txtDec")).right);
   EXPECT_EQ(placeOf(key("cmdSquareRoot")).bottom, placeOf(key("cmdEquals")).bottom);

@@ -62,7 +62,7 @@ constexpr Icon kIcons[] = {
     {"cmdPrintToTape", L"KEY_PRINT"},
 };
 
-/// What differs from the background of a picture, cut out.
+/// The part of a picture that differs from its background, cropped.
 struct Shape {
   int width = 0;
   int height = 0;
@@ -129,7 +129,7 @@ Shape iconDrawn(SIZE size, COLORREF background, const wchar_t* resource) {
   });
 }
 
-/// How many of a hundred points of two shapes agree about being inked.
+/// The percentage of pixels in which two shapes agree.
 int agreement(const Shape& seen, const Shape& wanted) {
   if (seen.width != wanted.width || seen.height != wanted.height || seen.inked.empty()) return 0;
   std::size_t same = 0;
@@ -155,11 +155,11 @@ class KeyFaces : public AppearanceTest {
  protected:
   void SetUp() override {
     AppearanceTest::SetUp();
-    // Shows the lines below the letters of access keys.
+    // Shows the underlines of access keys.
     SendMessageW(window("frmCalc"), WM_CHANGEUISTATE, MAKEWPARAM(UIS_CLEAR, UISF_HIDEACCEL), 0);
   }
 
-  /// What is on a key, without its frame.
+  /// The face of a key, without its frame.
   static Shape shapeOn(const Picture& picture) { return shapeIn(picture, inside(picture)); }
   static COLORREF backgroundOf(const Picture& picture) {
     return picture.at(inside(picture).left, inside(picture).top);

@@ -16,7 +16,7 @@ class MaximizedTest : public AppearanceTest {
     height_ = tell("get frmCalc Height")["value"];
   }
 
-  /// The screen that the window then fills.
+  /// Returns the area that the window then fills.
   RECT maximize() {
     tell("maximize frmCalc");
     return placeOf(window_);
@@ -29,7 +29,7 @@ class MaximizedTest : public AppearanceTest {
                  place.bottom - place.top, SWP_NOZORDER | SWP_NOACTIVATE);
   }
 
-  /// Where the system would bring the window back to.
+  /// Sets the position to which the system restores the window.
   void setNormalPlace(const RECT& place) {
     WINDOWPLACEMENT placement = {};
     placement.length = sizeof placement;
@@ -76,7 +76,7 @@ TEST_F(MaximizedTest, FillsAScreenWhoseScalingChanges) {
   restoreTo(normal_.left, normal_.top, 144);
 }
 
-TEST_F(MaximizedTest, ComesBackExactlyWhenTheScalingDid) {
+TEST_F(MaximizedTest, IsRestoredExactlyAfterTheScalingIs) {
   const RECT screen = maximize();
   setResolution(window_, 144, screen);
   setResolution(window_, 96, screen);
@@ -86,7 +86,7 @@ TEST_F(MaximizedTest, ComesBackExactlyWhenTheScalingDid) {
   EXPECT_EQ(tell("get frmCalc Top")["value"], 900);
 }
 
-TEST_F(MaximizedTest, FillsTheOtherScreenThatItIsSentTo) {
+TEST_F(MaximizedTest, FillsAnotherScreenWhenMovedThere) {
   maximize();
   const RECT other = {300, 100, 1100, 700};
   fillScreen(other);
@@ -99,7 +99,7 @@ TEST_F(MaximizedTest, FillsTheOtherScreenThatItIsSentTo) {
   restoreTo(there.left, there.top, 144);
 }
 
-TEST_F(MaximizedTest, KeepsItsSizeToTheTwipWhenItsScreenIsUnplugged) {
+TEST_F(MaximizedTest, KeepsItsExactSizeWhenItsScreenIsUnplugged) {
   tell("resize frmCalc 7001 4001");
   client_ = clientSize(window_);
   width_ = 7001;
@@ -115,14 +115,14 @@ TEST_F(MaximizedTest, KeepsItsSizeToTheTwipWhenItsScreenIsUnplugged) {
   restoreTo(there.left, there.top, 96);
 }
 
-TEST_F(MaximizedTest, MinimizedItComesUpInTheSizeForItsScreen) {
+TEST_F(MaximizedTest, MinimizedItIsRestoredInTheSizeForItsScreen) {
   tell("minimize frmCalc");
   const RECT icon = placeOf(window_);
   setResolution(window_, 144, icon);
   restoreTo(normal_.left, normal_.top, 144);
 }
 
-TEST_F(MaximizedTest, MinimizedInBetweenItFillsItsScreenAgain) {
+TEST_F(MaximizedTest, MinimizedMeanwhileItFillsItsScreenAgain) {
   const RECT screen = maximize();
   tell("minimize frmCalc");
   setResolution(window_, 144, placeOf(window_));
@@ -131,7 +131,7 @@ TEST_F(MaximizedTest, MinimizedInBetweenItFillsItsScreenAgain) {
   restoreTo(normal_.left, normal_.top, 144);
 }
 
-TEST_F(MaximizedTest, AScreenThatChangesLeavesAWindowInItsPlace) {
+TEST_F(MaximizedTest, ChangeOfTheScreenDoesNotMoveTheWindow) {
   SendMessageW(window_, WM_DISPLAYCHANGE, 32, MAKELPARAM(800, 600));
   expectNormal(normal_.left, normal_.top, 96);
   const RECT screen = maximize();

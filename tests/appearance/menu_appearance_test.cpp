@@ -27,7 +27,7 @@ void read(HMENU menu, const std::wstring& indent, Lines& lines) {
 
 class MenuAppearance : public AppearanceTest {};
 
-TEST_F(MenuAppearance, ItemsAndSeparatorsStandInOrder) {
+TEST_F(MenuAppearance, ItemsAndSeparatorsAreInOrder) {
   const Lines expected = {L"&File",
                           L"  &Save",
                           L"  &Print",
@@ -63,7 +63,7 @@ TEST_F(MenuAppearance, ItemsAndSeparatorsStandInOrder) {
   EXPECT_EQ(seen, expected);
 }
 
-TEST_F(MenuAppearance, ModesSayWhyTheyAreGrey) {
+TEST_F(MenuAppearance, DisabledModesMenuSaysWhy) {
   tell("type \"5+\"");
   Lines seen;
   read(GetMenu(window("frmCalc")), L"", seen);

@@ -4,7 +4,7 @@
 #include "appearance/appearance_test_base.h"
 #include "win32/work_area.h"
 
-// A message stands where the user looks: over its window.
+// A message opens over its window, where the user is looking.
 namespace appearance {
 namespace {
 
@@ -32,7 +32,7 @@ class MessagePlace : public AppearanceTest {
   }
 };
 
-TEST_F(MessagePlace, MessageStandsOverTheMiddleOfItsWindow) {
+TEST_F(MessagePlace, MessageOpensOverTheMiddleOfItsWindow) {
   tell("move frmCalc 600 900");
   const RECT window = placeOf(this->window("frmCalc"));
   const RECT box = placeOfMessage();
@@ -43,7 +43,7 @@ TEST_F(MessagePlace, MessageStandsOverTheMiddleOfItsWindow) {
 TEST_F(MessagePlace, MessageOfAWindowAtTheEdgeStaysOnTheScreen) {
   const HWND window = this->window("frmCalc");
   const RECT area = win32::workAreaOf(MonitorFromWindow(window, MONITOR_DEFAULTTONEAREST));
-  // The menu, which the test uses, is still on the screen.
+  // The menu bar, which the test clicks, is still on the screen.
   tell("move frmCalc " + std::to_string((area.right - 200) * 15) + " " +
        std::to_string((area.bottom - 80) * 15));
   const RECT box = placeOfMessage();

@@ -8,7 +8,7 @@
 namespace appearance {
 namespace {
 
-// A window is taken to be painted when it is the same twice in a row, that many milliseconds apart.
+// A window counts as painted when two pictures, this many milliseconds apart, are equal.
 constexpr DWORD kRest = 20;
 constexpr int kMostLooks = 20;
 
@@ -24,7 +24,7 @@ double light(COLORREF color) {
 
 }  // namespace
 
-// First what the window around still has to paint: it would be painted over the picture.
+// The parent is painted first; otherwise it could paint over the picture.
 Picture::Picture(HWND window) {
   RedrawWindow(GetAncestor(window, GA_ROOT), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
   RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);

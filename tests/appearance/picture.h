@@ -9,21 +9,21 @@
 
 namespace appearance {
 
-/// What is seen of a window's client area.
+/// A picture of a window's client area.
 class Picture {
  public:
   explicit Picture(HWND window);
-  /// What has been drawn in a device context.
+  /// A picture of what has been drawn in a device context.
   Picture(HDC context, SIZE size);
 
   int width() const { return width_; }
   int height() const { return height_; }
-  /// An exception beyond the window.
+  /// The color of a pixel. Throws outside the picture.
   COLORREF at(int x, int y) const {
     return points_.at(static_cast<std::size_t>(y) * static_cast<std::size_t>(width_) +
                       static_cast<std::size_t>(x));
   }
-  /// How many points of a part have a colour that the test tells.
+  /// The number of pixels of an area whose color meets a condition.
   template <class Wanted>
   int count(const RECT& part, const Wanted& wanted) const {
     int found = 0;
@@ -41,10 +41,10 @@ class Picture {
   std::vector<COLORREF> points_;
 };
 
-/// The contrast of two colours by the guidelines of the web, reckoned apart from the program.
+/// The contrast ratio of two colors as WCAG defines it, computed independently of the program.
 double contrast(COLORREF one, COLORREF other);
 
-/// A colour of the system that is another until the end of the test.
+/// Changes a system color until the end of the test.
 class OtherSystemColor {
  public:
   OtherSystemColor(int index, COLORREF color) {

@@ -2,11 +2,11 @@
 
 #include "appearance/appearance_test_base.h"
 
-// A window that is drawn to a monitor of another resolution, and back.
+// A window that is dragged to a monitor of another resolution, and back.
 namespace appearance {
 namespace {
 
-/// What is seen of a control: its place in the window, and its font.
+/// The position of a control in its window, and its font.
 struct Seen {
   RECT place;
   LOGFONTW font;
@@ -45,12 +45,12 @@ class ResolutionTest : public AppearanceTest, public testing::WithParamInterface
   HWND window_ = nullptr;
 };
 
-/// Within the pixel that rounding makes.
+/// Within one pixel, because of rounding.
 void expectScaled(LONG now, LONG before, const char* what) {
   EXPECT_NEAR(now, 1.5 * before, 1.0) << what << " was " << before;
 }
 
-TEST_P(ResolutionTest, SizesPlacesAndFontsFollow) {
+TEST_P(ResolutionTest, SizesPositionsAndFontsAreScaled) {
   const std::vector<Seen> before = look();
   const SIZE sizeBefore = clientSize(window_);
   setResolution(window_, 144);
@@ -71,7 +71,7 @@ TEST_P(ResolutionTest, SizesPlacesAndFontsFollow) {
   }
 }
 
-TEST_P(ResolutionTest, EverythingReturnsExactly) {
+TEST_P(ResolutionTest, EverythingIsRestoredExactly) {
   const std::vector<Seen> before = look();
   const RECT placeBefore = placeOf(window_);
   const auto left = tell("get " + std::string(GetParam()) + " Left");

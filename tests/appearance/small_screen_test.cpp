@@ -33,7 +33,7 @@ class SmallScreen : public AppearanceTest, public testing::WithParamInterface<Si
     AppearanceTest::TearDown();
   }
 
-  /// At a higher resolution a window stands as many more pixels from the corner of the screen.
+  /// At a higher resolution, a window is more pixels away from the corner of the screen.
   void expectOnScreen(const std::string& name) {
     const RECT before = placeOf(window(name));
     const LONG left = MulDiv(before.left, GetParam().dpi, 96);

@@ -5,7 +5,7 @@
 #include "appearance/appearance_test_base.h"
 #include "appearance/picture.h"
 
-// What a screen reader hears of the program: a client that listens to the system's events.
+// What a screen reader is told: a client that listens to the system's accessibility events.
 namespace appearance {
 namespace {
 
@@ -38,7 +38,7 @@ class Speech : public AppearanceTest {
     AppearanceTest::TearDown();
   }
 
-  /// Waits until something is heard that the test tells.
+  /// Waits for an event that meets a condition.
   template <class Wanted>
   static bool hears(const Wanted& wanted) {
     constexpr ULONGLONG kPatience = 5000;
@@ -65,7 +65,7 @@ class Speech : public AppearanceTest {
              each.object == OBJID_CARET;
     });
   }
-  /// What the system answers a screen reader that asks for the caret's rectangle.
+  /// The system's answer to a screen reader that asks for the caret's rectangle.
   static void expectCaretAt(HWND box, int place) {
     GUITHREADINFO thread = {};
     thread.cbSize = sizeof thread;
@@ -81,7 +81,7 @@ class Speech : public AppearanceTest {
   HWINEVENTHOOK hook_ = nullptr;
 };
 
-TEST_F(Speech, PostingsAreSaidAsTheyHappen) {
+TEST_F(Speech, PostingsAreSpokenAsTheyHappen) {
   tell("type \"12.5+\"");
   EXPECT_TRUE(hearsSaid(L"12.50 plus"));
   tell("type \"1580-\"");
@@ -90,14 +90,14 @@ TEST_F(Speech, PostingsAreSaidAsTheyHappen) {
   EXPECT_TRUE(hearsSaid(L"total -1,567.50"));
 }
 
-TEST_F(Speech, AnswersOfTheFinancialCalculatorAreSaid) {
+TEST_F(Speech, AnswersOfTheFinancialCalculatorAreSpoken) {
   openAnsweredLoan();
   const std::string answer = tell("get frmAnnuity.lblAnswer Caption")["value"];
   ASSERT_FALSE(answer.empty());
   EXPECT_TRUE(hearsSaid(std::wstring(answer.begin(), answer.end())));
 }
 
-TEST_F(Speech, RecordOnTheTapeIsSaidAndSeenOnItsKey) {
+TEST_F(Speech, RecordSentToTheTapeIsSpokenAndShownOnItsKey) {
   openAnsweredLoan();
   const HWND key = control("frmAnnuity", "cmdPrintToTape");
   const Picture before(key);
@@ -111,7 +111,7 @@ TEST_F(Speech, RecordOnTheTapeIsSaidAndSeenOnItsKey) {
   }));
 }
 
-TEST_F(Speech, TapeTellsOfItsTextAndItsSelection) {
+TEST_F(Speech, TapeReportsItsTextAndItsSelection) {
   const HWND tape = control("frmCalc", "txtTape");
   tell("focus txtTape");
   tell("type \"a\"");
@@ -120,7 +120,7 @@ TEST_F(Speech, TapeTellsOfItsTextAndItsSelection) {
 }
 
 // Windows raises the event for the system's caret; Wine does not, for its own edit box either.
-TEST_F(Speech, TapeTellsWhereItsCaretIsAsTheEntryDoes) {
+TEST_F(Speech, TapeReportsItsCaretAsTheEntryDoes) {
   const HWND entry = control("frmCalc", "txtEntry");
   const HWND tape = control("frmCalc", "txtTape");
   tell("type \"12\"");
@@ -131,7 +131,7 @@ TEST_F(Speech, TapeTellsWhereItsCaretIsAsTheEntryDoes) {
   expectCaretAt(tape, tell("get txtTape SelStart")["value"]);
   tell("press Home");
   expectCaretAt(tape, tell("get txtTape SelStart")["value"]);
-  // It comes after the caret's own event.
+  // This event follows that of the caret.
   EXPECT_TRUE(hearsOf(tape, EVENT_OBJECT_TEXTSELECTIONCHANGED));
   EXPECT_EQ(hasHeardOfCaret(tape), hasHeardOfCaret(entry));
 }

@@ -22,8 +22,8 @@ COLORREF background() {
 
 class TapeAppearance : public TapeAppearanceTest {
  protected:
-  /// How many more graphics objects the system gives the program. Wine does not count those that
-  /// there are.
+  /// How many more graphics objects the program can create. Wine does not count those that
+  /// exist.
   std::size_t roomForObjects() {
     std::vector<HBRUSH> objects;
     stage().inspect([&] {
@@ -33,7 +33,7 @@ class TapeAppearance : public TapeAppearanceTest {
     return objects.size();
   }
 
-  /// The letters' colour is the one that differs most from the background.
+  /// The color of the letters is the one that differs most from the background.
   COLORREF inkOf(const Picture& picture, int line) {
     const RECT area = areaOf(line);
     COLORREF ink = background();
@@ -46,7 +46,7 @@ class TapeAppearance : public TapeAppearanceTest {
   int inked(const Picture& picture, int line) {
     return picture.count(areaOf(line), [](COLORREF color) { return color != background(); });
   }
-  /// The longest row of points of one colour in a line.
+  /// The longest run of pixels of one color in a line.
   int longestRow(const Picture& picture, int line) {
     const RECT area = areaOf(line);
     int longest = 0;
@@ -79,7 +79,7 @@ TEST_F(TapeAppearance, PaddedLineFillsTheTapeFromTheDesignedSizeToThreeTimesThat
   EXPECT_EQ(cell(), 3 * designed);
 }
 
-TEST_F(TapeAppearance, EveryCharacterIsHitWhereItStandsAtEverySize) {
+TEST_F(TapeAppearance, EveryCharacterIsFoundAtItsPositionAtEverySize) {
   for (const int width : {6690, 8000, 11000, 16000}) {
     SCOPED_TRACE(width);
     resizeWindow(width);
@@ -92,7 +92,7 @@ TEST_F(TapeAppearance, EveryCharacterIsHitWhereItStandsAtEverySize) {
   }
 }
 
-TEST_F(TapeAppearance, FiguresOfTotalsStandUnderThoseOfAmounts) {
+TEST_F(TapeAppearance, DigitsOfTotalsLineUpWithThoseOfAmounts) {
   for (const int width : {6690, 9000, 16000}) {
     resizeWindow(width);
     write(L"12.00 + \r\n13.00 + \r\n25.00 * \r\n");
@@ -101,7 +101,7 @@ TEST_F(TapeAppearance, FiguresOfTotalsStandUnderThoseOfAmounts) {
   }
 }
 
-TEST_F(TapeAppearance, WhatTakesOffIsRed) {
+TEST_F(TapeAppearance, SubtractedAmountsAreRed) {
   write(kLines);
   const Picture picture(paper());
   for (const int line : {kTakenOff, kOther, kNegativeTotal})
@@ -121,7 +121,7 @@ TEST_F(TapeAppearance, TotalsAreBoldBelowARule) {
   EXPECT_LT(longestRow(picture, 1), cell());
 }
 
-TEST_F(TapeAppearance, NotesAreQuieterAndStillRead) {
+TEST_F(TapeAppearance, NotesAreFainterButLegible) {
   resizeWindow(12000, 7000);
   write(kLines);
   const Picture picture(paper());
@@ -131,7 +131,7 @@ TEST_F(TapeAppearance, NotesAreQuieterAndStillRead) {
     EXPECT_GE(contrast(inkOf(picture, line), background()), 4.5) << line;
 }
 
-TEST_F(TapeAppearance, InkIsReadOnEveryBackground) {
+TEST_F(TapeAppearance, TextIsLegibleOnEveryBackground) {
   for (int part = 0; part < 6 * 6 * 6; ++part) {
     const COLORREF paper = RGB(part % 6 * 51, part / 6 % 6 * 51, part / 36 * 51);
     const COLORREF text = win32::textColorOn(controls::Color::rgb(paper));
@@ -141,7 +141,7 @@ TEST_F(TapeAppearance, InkIsReadOnEveryBackground) {
   }
 }
 
-TEST_F(TapeAppearance, ColorsForWhoSeesLittleAreTheSystemsAlone) {
+TEST_F(TapeAppearance, HighContrastUsesOnlySystemColors) {
   resizeWindow(12000, 7000);
   const OtherSystemColor face(COLOR_BTNFACE, RGB(0, 0, 0));
   write(kLines);
@@ -151,7 +151,7 @@ TEST_F(TapeAppearance, ColorsForWhoSeesLittleAreTheSystemsAlone) {
   EXPECT_LT(longestRow(picture, kTotal), 2 * cell());
 }
 
-TEST_F(TapeAppearance, ThousandSizesTakeNoMoreOfTheSystem) {
+TEST_F(TapeAppearance, ThousandSizesLeakNoGraphicsObjects) {
   const auto resizeTimes = [this](int times) {
     for (int i = 0; i < times; ++i)
       SetWindowPos(paper(), nullptr, 0, 0, 150 + i % 40 * 12, 180, SWP_NOMOVE | SWP_NOZORDER);
@@ -175,7 +175,7 @@ TEST_F(TapeAppearance, LastLineStaysInViewWhenTheWindowChanges) {
   }
 }
 
-TEST_F(TapeAppearance, LineBeyondWhatTheSystemDrawsAtOnceIsDrawnToItsEnd) {
+TEST_F(TapeAppearance, VeryLongLineIsDrawnToItsEnd) {
   constexpr int kLength = 20000;
   tell("focus txtTape");
   write(std::wstring(kLength, L'8') + L"\r\n");

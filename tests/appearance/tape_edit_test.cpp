@@ -1,6 +1,6 @@
 #include "appearance/tape_test.h"
 
-// The tape as a box that is edited: what the mouse selects, where the caret goes, what is scrolled.
+// The tape as an edit control: selecting with the mouse, moving the caret, scrolling.
 namespace appearance {
 namespace {
 
@@ -31,21 +31,21 @@ class TapeEdit : public TapeAppearanceTest {
   void press(const char* key) { tell(std::string("press ") + key); }
 };
 
-TEST_F(TapeEdit, DoubleClickSelectsTheWordAndItsBlanks) {
+TEST_F(TapeEdit, DoubleClickSelectsTheWordAndTheBlanksAfterIt) {
   write(L"one two  three\r\nfour\r\n");
   doubleClick(5);
   expectSelected(4, 9);
   send(WM_LBUTTONUP);
 }
 
-TEST_F(TapeEdit, LastWordOfALineEndsThere) {
+TEST_F(TapeEdit, DoubleClickOnTheLastWordStopsAtTheLineEnd) {
   write(L"one two\r\nfour\r\n");
   doubleClick(5);
   expectSelected(4, 7);
   send(WM_LBUTTONUP);
 }
 
-TEST_F(TapeEdit, DraggingBehindADoubleClickSelectsWholeWords) {
+TEST_F(TapeEdit, DraggingAfterADoubleClickSelectsWholeWords) {
   write(L"one two three four\r\n");
   doubleClick(5);
   dragTo(9);
@@ -57,7 +57,7 @@ TEST_F(TapeEdit, DraggingBehindADoubleClickSelectsWholeWords) {
   expectSelected(0, 8);
 }
 
-TEST_F(TapeEdit, ThirdClickSelectsTheLineAndDraggingOnMoreOfThem) {
+TEST_F(TapeEdit, TripleClickSelectsTheLineAndDraggingSelectsMoreLines) {
   write(L"one\r\ntwo three\r\nfour\r\n");
   doubleClick(6);
   send(WM_LBUTTONUP);
@@ -67,7 +67,7 @@ TEST_F(TapeEdit, ThirdClickSelectsTheLineAndDraggingOnMoreOfThem) {
   expectSelected(5, 22);
 }
 
-TEST_F(TapeEdit, ClickLaterOrElsewhereIsAFirstOne) {
+TEST_F(TapeEdit, LaterOrDistantClickIsASingleClick) {
   write(L"one two three four five\r\n");
   doubleClick(1);
   send(WM_LBUTTONUP);
@@ -76,8 +76,8 @@ TEST_F(TapeEdit, ClickLaterOrElsewhereIsAFirstOne) {
   expectSelected(14, 14);
 }
 
-// On a slow computer the pointer is ahead of the messages.
-TEST_F(TapeEdit, TimerOfADragGoesByTheMouseMessagesAlone) {
+// On a slow computer, the pointer is ahead of the mouse messages.
+TEST_F(TapeEdit, TimerOfADragUsesTheLastMouseMessage) {
   write(L"one two three four five\r\n");
   click(14);
   send(WM_TIMER, 1);
@@ -108,7 +108,7 @@ TEST_F(TapeEdit, CaretRemembersItsColumnAcrossAShortLine) {
   EXPECT_EQ(caret(), 21) << "a key sideways makes another column";
 }
 
-TEST_F(TapeEdit, CaretGoesUpAndDownByThePlaceOnTheScreen) {
+TEST_F(TapeEdit, CaretMovesUpAndDownByScreenPosition) {
   write(L"1,234.50 + \r\n5.00 + \r\n");
   const int point = 5;
   send(EM_SETSEL, point, point);
@@ -117,7 +117,7 @@ TEST_F(TapeEdit, CaretGoesUpAndDownByThePlaceOnTheScreen) {
       << "in right-aligned lines, below the same figure";
 }
 
-TEST_F(TapeEdit, TabsLeadToStopsOfEightColumns) {
+TEST_F(TapeEdit, TabStopsAreEightColumnsApart) {
   tell("menu mnuWinPadTape");
   tell("focus txtTape");
   write(L"a\tb\r\nabc\tb\r\n12345678\tb\r\n");
@@ -130,7 +130,7 @@ TEST_F(TapeEdit, TabsLeadToStopsOfEightColumns) {
   EXPECT_EQ(placeAt({tab.x + 6 * width, tab.y}), 2);
 }
 
-TEST_F(TapeEdit, LongLinesAreScrolledSideways) {
+TEST_F(TapeEdit, LongLinesScrollHorizontally) {
   tell("menu mnuWinPadTape");
   tell("focus txtTape");
   write(L"Top\r\n");
@@ -157,7 +157,7 @@ TEST_F(TapeEdit, LongLinesAreScrolledSideways) {
   EXPECT_FALSE(GetWindowLongW(paper(), GWL_STYLE) & WS_HSCROLL);
 }
 
-TEST_F(TapeEdit, LongLinesOfThePlainTapeAreScrolledFromTheirEnd) {
+TEST_F(TapeEdit, LongLinesOfThePlainTapeScrollFromTheirEnd) {
   write(std::wstring(80, L'8') + L"\r\n12.00 + \r\n");
   send(WM_HSCROLL, SB_LEFT);
   EXPECT_GE(pointOf(0).x, 0);
@@ -167,7 +167,7 @@ TEST_F(TapeEdit, LongLinesOfThePlainTapeAreScrolledFromTheirEnd) {
   EXPECT_LE(pointOf(80).x, clientSize(paper()).cx);
 }
 
-TEST_F(TapeEdit, AnswersMessagesThatScroll) {
+TEST_F(TapeEdit, AnswersScrollMessages) {
   std::wstring text = L"Top";
   for (int line = 0; line < 100; ++line) text += L"\r\n12.00 + ";
   write(text);

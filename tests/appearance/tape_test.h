@@ -17,7 +17,7 @@ class TapeAppearanceTest : public AppearanceTest {
   void resizeWindow(int width, int height = 3525) {
     tell("resize frmCalc " + std::to_string(width) + " " + std::to_string(height));
   }
-  /// Puts a text on the tape as a screen reader does, with the caret in front of it.
+  /// Sets the text of the tape by a message, with the caret at its start.
   void write(const std::wstring& text) {
     send(WM_SETTEXT, 0, reinterpret_cast<LPARAM>(text.c_str()));
     send(EM_SETSEL, 0, 0);
@@ -32,7 +32,7 @@ class TapeAppearanceTest : public AppearanceTest {
   int start(int line) { return static_cast<int>(send(EM_LINEINDEX, static_cast<WPARAM>(line))); }
   int cell() { return static_cast<int>(pointOf(1).x - pointOf(0).x); }
   int lineHeight() { return static_cast<int>(pointOf(start(1)).y - pointOf(start(0)).y); }
-  /// The part of the window that a line which is in view takes.
+  /// The area of a visible line in the window.
   RECT areaOf(int line) {
     const int top = static_cast<int>(pointOf(start(line)).y);
     return {0, top, clientSize(paper()).cx, top + lineHeight()};

@@ -1,6 +1,6 @@
 #include "appearance/appearance_test_base.h"
 
-// The size of text that the user has chosen for all programs.
+// The text size of the user's accessibility settings.
 namespace appearance {
 namespace {
 
@@ -15,7 +15,7 @@ class TextSize : public AppearanceTest {
   }
 };
 
-TEST_F(TextSize, EnlargesAWindowAndAllInItAtOnceAndNotItsTwips) {
+TEST_F(TextSize, EnlargesAWindowAndItsContentsAtOnceButNotItsTwips) {
   const HWND frame = window("frmCalc");
   const HWND key = control("frmCalc", "cmdNumber(7)");
   const SIZE before = clientSize(frame);
@@ -34,7 +34,7 @@ TEST_F(TextSize, EnlargesAWindowAndAllInItAtOnceAndNotItsTwips) {
   }
 }
 
-TEST_F(TextSize, CountsWhenTheProgramStarts) {
+TEST_F(TextSize, AppliesWhenTheProgramStarts) {
   const SIZE before = clientSize(window("frmCalc"));
   tell("close frmCalc");
   chooseTextSize(150);

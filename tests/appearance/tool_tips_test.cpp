@@ -5,7 +5,7 @@
 #include "appearance/appearance_test_base.h"
 #include "driver/native_handles.h"
 
-// The tool tips as the user sees them: in the system's own window, under the resting mouse.
+// The tool tips as the user sees them: in the system's tool tip window, below the mouse.
 namespace appearance {
 namespace {
 
@@ -56,7 +56,7 @@ class ToolTips : public AppearanceTest {
     AppearanceTest::TearDown();
   }
 
-  /// Moves the mouse onto a control, and waits for the tool tip.
+  /// Moves the mouse over a control and waits for the tool tip.
   static std::wstring tipUnderTheMouse(HWND control) {
     constexpr int kTries = 3;
     std::wstring seen;

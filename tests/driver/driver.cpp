@@ -91,7 +91,7 @@ controls::Window& Driver::window(const std::string& name) {
 
 controls::Window& Driver::freeWindow(const std::string& name) {
   controls::Window& found = window(name);
-  if (!found.enabled()) throw CommandError("a dialog stands in front of it");
+  if (!found.enabled()) throw CommandError("a dialog is in front of it");
   return found;
 }
 
@@ -311,7 +311,7 @@ void Driver::queueColor(Command& command) {
   command.end();
   if (color == "cancel") return stage_.queueColor({});
   const Json number = Json::parse(color, nullptr, false);
-  if (!number.is_number_unsigned()) throw CommandError("a colour number, or cancel");
+  if (!number.is_number_unsigned()) throw CommandError("a color number, or cancel");
   stage_.queueColor(number.get<std::uint32_t>());
 }
 

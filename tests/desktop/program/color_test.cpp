@@ -26,7 +26,7 @@ class ColorTest : public ProgramTest {
     doubleClick(middleOf(label));
     expectMessage(kMessage);
     answer(VK_RETURN);
-    return awaitWindow("the colour picker", [] {
+    return awaitWindow("the color picker", [] {
       const HWND dialog = program().dialog();
       return dialog && GetDlgItem(dialog, kBlue) ? dialog : nullptr;
     });

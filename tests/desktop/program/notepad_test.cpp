@@ -19,7 +19,7 @@ constexpr wchar_t kQuestion[] =
 
 class NotepadTest : public ProgramTest {
  protected:
-  /// A tape with that many lines below its head, pasted into it by the user.
+  /// Pastes this many lines onto the tape.
   std::wstring makeTape(int lines) {
     std::wstring pasted;
     for (int line = 1; line <= lines; ++line) pasted += L"\r\n" + std::to_wstring(line) + L".25 + ";
@@ -41,8 +41,8 @@ class NotepadTest : public ProgramTest {
     return nullptr;
   }
 
-  /// Not shown whole when it fails: it may have ten thousand lines. A new document may take another
-  /// text's place.
+  /// A failure does not print the whole text, which may have ten thousand lines. Notepad may
+  /// replace an existing text by a new document.
   void expectInNotepad(const std::wstring& tape) {
     std::wstring seen;
     EXPECT_TRUE(eventually([&] {
@@ -65,7 +65,7 @@ class NotepadTest : public ProgramTest {
     expectInNotepad(tape);
   }
 
-  /// The message comes, and the clipboard keeps the tape.
+  /// The message appears, and the tape is still on the clipboard.
   void expectFailure() {
     start();
     const std::wstring tape = makeTape(10);
@@ -112,23 +112,23 @@ class ReplacedNotepadTest : public NotepadTest {
   ReplacedNotepad notepad_;
 };
 
-TEST_F(NotepadTest, TakesATapeOfTenLines) {
+TEST_F(NotepadTest, GetsATapeOfTenLines) {
   expectTapeInNotepad(10);
 }
 
-TEST_F(NotepadTest, TakesATapeOfTenThousandLines) {
+TEST_F(NotepadTest, GetsATapeOfTenThousandLines) {
   expectTapeInNotepad(10'000);
 }
 
-TEST_F(NotepadTest, TakesTheTapeThatIsToBeSaved) {
+TEST_F(NotepadTest, GetsTheTapeFromSave) {
   expectFileMenuToOfferNotepad("S", L"Save Tape Display");
 }
 
-TEST_F(NotepadTest, TakesTheTapeThatIsToBePrinted) {
+TEST_F(NotepadTest, GetsTheTapeFromPrint) {
   expectFileMenuToOfferNotepad("P", L"Print Tape Display");
 }
 
-TEST_F(NotepadTest, APaddedTapeNeedsNoNote) {
+TEST_F(NotepadTest, GetsAPaddedTapeWithoutANote) {
   start();
   chooseFromMenu('W', "P");
   expectText(program().tape(), L"Top                    Top");
@@ -139,8 +139,8 @@ TEST_F(NotepadTest, APaddedTapeNeedsNoNote) {
   expectInNotepad(tape);
 }
 
-// Whatever is in front instead would get the keys.
-TEST_F(NotepadTest, KeepsItsKeysWhileAnotherProgramTakesTheFront) {
+// Otherwise the program in front would receive the keystrokes.
+TEST_F(NotepadTest, GetsNoKeysWhileAnotherProgramIsInFront) {
   OtherProgram other;
   start();
   const std::wstring tape = makeTape(10);
@@ -162,14 +162,14 @@ TEST_F(NotepadTest, KeepsItsKeysWhileAnotherProgramTakesTheFront) {
   answer(VK_RETURN);
 }
 
-// What is typed while Notepad is awaited goes into the entry box, and the command is not carried
-// out twice.
-TEST_F(ReplacedNotepadTest, AMissingOneIsReported) {
+// What is typed while the program waits for Notepad goes into the entry box, and the command is not
+// carried out twice.
+TEST_F(ReplacedNotepadTest, MissingNotepadIsReported) {
   ASSERT_TRUE(notepad().byNothing());
   expectFailure();
 }
 
-TEST_F(ReplacedNotepadTest, ASlowOneGetsTheTapeAndKeepsNobodyWaiting) {
+TEST_F(ReplacedNotepadTest, SlowNotepadGetsTheTapeAndDoesNotBlockTheProgram) {
   ASSERT_TRUE(notepad().with(L"slow 8000"));
   start();
   const std::wstring tape = makeTape(10);
@@ -185,7 +185,7 @@ TEST_F(ReplacedNotepadTest, ASlowOneGetsTheTapeAndKeepsNobodyWaiting) {
   EXPECT_EQ(textOf(program().entry()), L"123");
 }
 
-TEST_F(ReplacedNotepadTest, ASlowOneGetsTheTapeOfAProgramThatHasBeenClosed) {
+TEST_F(ReplacedNotepadTest, SlowNotepadGetsTheTapeOfAClosedProgram) {
   ASSERT_TRUE(notepad().with(L"slow 2000"));
   start();
   const std::wstring tape = makeTape(10);
@@ -200,12 +200,12 @@ TEST_F(ReplacedNotepadTest, ASlowOneGetsTheTapeOfAProgramThatHasBeenClosed) {
   EXPECT_EQ(program().exitCode(), 0u);
 }
 
-TEST_F(ReplacedNotepadTest, OneWhoseWindowClosesAtOnceIsReported) {
+TEST_F(ReplacedNotepadTest, NotepadThatClosesAtOnceIsReported) {
   ASSERT_TRUE(notepad().with(L"vanishing"));
   expectFailure();
 }
 
-TEST_F(NotepadTest, OneThatIsOpenWithATextInItKeepsThatText) {
+TEST_F(NotepadTest, OpenNotepadKeepsItsText) {
   start();
   const std::wstring tape = makeTape(10);
   CloseHandle(startProgram(L"notepad.exe"));
@@ -249,8 +249,9 @@ TEST_F(NotepadTest, OneThatTheTestHasNotStartedIsNotEnded) {
   CloseHandle(foreign);
 }
 
-// As where one window holds all documents: the starter hands over to it, and ends.
-TEST_F(ReplacedNotepadTest, ATextInTheWindowThatComesToTheFrontIsLeftAlone) {
+// As on systems where one window holds all documents: the started process hands over to it and
+// ends.
+TEST_F(ReplacedNotepadTest, TextInAWindowThatComesToTheFrontIsKept) {
   ASSERT_TRUE(notepad().with(L"tabbed"));
   CloseHandle(startProgram(L"notepad.exe"));
   const HWND window = awaitWindow("the note", [] { return openedWindow(L"Notepad"); });

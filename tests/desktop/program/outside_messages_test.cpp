@@ -9,15 +9,15 @@
 namespace program {
 namespace {
 
-// EM_GETSEL and EM_SETTABSTOPS take addresses in the place of numbers, with which the sender would
-// end itself. For EM_GETLINE from another program, Wine gives a window that is not its own edit box
-// a buffer of two bytes, whatever size it names.
+// EM_GETSEL and EM_SETTABSTOPS take addresses instead of numbers, which would crash the sender. For
+// EM_GETLINE from another program, Wine passes a window that is not its own edit box a buffer of
+// two bytes, whatever its stated size.
 bool canBeSent(UINT edit) {
   return edit != EM_SETTABSTOPS && !(edit == EM_GETLINE && isWine());
 }
 
-// What the controls answer by themselves, and what the system's own answer; but nothing that a user
-// would have to answer in turn.
+// The messages that our controls and those of the system handle, except any that would wait for the
+// user.
 std::vector<UINT> messages() {
   std::vector<UINT> all = {WM_DESTROY,
                            WM_NCDESTROY,
@@ -64,8 +64,8 @@ class OutsideMessages : public ProgramTest {
     start();
   }
 
-  // False when the program does not answer in time. What the system does not send at all, it need
-  // not answer.
+  // False if the program does not answer in time. A message that the system refuses to send needs
+  // no answer.
   static bool send(HWND window, UINT message, WPARAM wParam, LPARAM lParam,
                    UINT patience = 20'000) {
     DWORD_PTR answer = 0;
@@ -93,15 +93,14 @@ class OutsideMessages : public ProgramTest {
     send(program().entry(), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(L""));
     click(middleOf(program().entry()));
     type("12+");
-    // The decimals box holds what the messages have put there.
+    // The decimals box contains what the messages have put there.
     EXPECT_TRUE(eventually([] { return textOf(program().tape()).starts_with(L"\r\n12"); }))
         << "the entry takes no figures any more";
   }
 };
 
-TEST_F(OutsideMessages, OddOnesNeitherEndNorHangTheProgram) {
-  // Where a message takes an address, it is one of a text; where it takes a number, an enormous
-  // one.
+TEST_F(OutsideMessages, OddMessagesNeitherCrashNorHangTheProgram) {
+  // Addresses point to a text; numbers are enormous.
   static std::array<wchar_t, 70'000> text = {L'7'};
   for (const HWND control : controls()) {
     for (const UINT message : messages()) {
@@ -116,8 +115,8 @@ TEST_F(OutsideMessages, OddOnesNeitherEndNorHangTheProgram) {
   expectWorking();
 }
 
-// Not every system hands over so long a text. Then it is given up, and the program goes on.
-TEST_F(OutsideMessages, EnormousTextsNeitherEndNorHangTheProgram) {
+// Not every system can pass such a long text. Then the sender gives up, and the program continues.
+TEST_F(OutsideMessages, EnormousTextsNeitherCrashNorHangTheProgram) {
   constexpr UINT kPatience = 1000;
   const std::wstring enormous(1'300'000, L'7');
   for (const HWND box : {program().entry(), program().decimals(), program().tape()})
