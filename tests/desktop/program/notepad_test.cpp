@@ -33,6 +33,20 @@ class NotepadTest : public ProgramTest {
     return tape;
   }
 
+  void sendToNotepad() {
+    pressWith(VK_CONTROL, 'N');
+    expectMessage(kNote);
+    answer(VK_RETURN);
+  }
+
+  /// Starts the program and sends a tape to Notepad.
+  std::wstring sendTape(int lines = 10) {
+    start();
+    const std::wstring tape = makeTape(lines);
+    sendToNotepad();
+    return tape;
+  }
+
   static HWND textOfNotepad() {
     const HWND notepad = openedWindow(L"Notepad");
     if (!notepad) return nullptr;
@@ -56,22 +70,9 @@ class NotepadTest : public ProgramTest {
     EXPECT_TRUE(textOf(program().tape()) == tape);
   }
 
-  void expectTapeInNotepad(int lines) {
-    start();
-    const std::wstring tape = makeTape(lines);
-    pressWith(VK_CONTROL, 'N');
-    expectMessage(kNote);
-    answer(VK_RETURN);
-    expectInNotepad(tape);
-  }
-
   /// The message appears, and the tape is still on the clipboard.
   void expectFailure() {
-    start();
-    const std::wstring tape = makeTape(10);
-    pressWith(VK_CONTROL, 'N');
-    expectMessage(kNote);
-    answer(VK_RETURN);
+    const std::wstring tape = sendTape();
     expectMessage(L"Error finding or displaying NotePad.exe");
     EXPECT_EQ(clipboardText(), tape);
     answer(VK_RETURN);
@@ -113,11 +114,11 @@ class ReplacedNotepadTest : public NotepadTest {
 };
 
 TEST_F(NotepadTest, GetsATapeOfTenLines) {
-  expectTapeInNotepad(10);
+  expectInNotepad(sendTape());
 }
 
 TEST_F(NotepadTest, GetsATapeOfTenThousandLines) {
-  expectTapeInNotepad(10'000);
+  expectInNotepad(sendTape(10'000));
 }
 
 TEST_F(NotepadTest, GetsTheTapeFromSave) {
@@ -142,11 +143,7 @@ TEST_F(NotepadTest, GetsAPaddedTapeWithoutANote) {
 // Otherwise the program in front would receive the keystrokes.
 TEST_F(NotepadTest, GetsNoKeysWhileAnotherProgramIsInFront) {
   OtherProgram other;
-  start();
-  const std::wstring tape = makeTape(10);
-  pressWith(VK_CONTROL, 'N');
-  expectMessage(kNote);
-  answer(VK_RETURN);
+  const std::wstring tape = sendTape();
   await("a message", [&] {
     if (openedWindow(L"Notepad") && GetForegroundWindow() != other.window())
       SetForegroundWindow(other.window());
@@ -171,11 +168,7 @@ TEST_F(ReplacedNotepadTest, MissingNotepadIsReported) {
 
 TEST_F(ReplacedNotepadTest, SlowNotepadGetsTheTapeAndDoesNotBlockTheProgram) {
   ASSERT_TRUE(notepad().with(L"slow 8000"));
-  start();
-  const std::wstring tape = makeTape(10);
-  pressWith(VK_CONTROL, 'N');
-  expectMessage(kNote);
-  answer(VK_RETURN);
+  const std::wstring tape = sendTape();
   awaitInFront(program().mainWindow());
   type("12");
   click(middleOf(TestedProgram::key(program().mainWindow(), L"3")));
@@ -187,11 +180,7 @@ TEST_F(ReplacedNotepadTest, SlowNotepadGetsTheTapeAndDoesNotBlockTheProgram) {
 
 TEST_F(ReplacedNotepadTest, SlowNotepadGetsTheTapeOfAClosedProgram) {
   ASSERT_TRUE(notepad().with(L"slow 2000"));
-  start();
-  const std::wstring tape = makeTape(10);
-  pressWith(VK_CONTROL, 'N');
-  expectMessage(kNote);
-  answer(VK_RETURN);
+  const std::wstring tape = sendTape();
   PostMessageW(program().mainWindow(), WM_SYSCOMMAND, SC_CLOSE, 0);
   await("the end of the main window", [] { return !program().mainWindow(); });
   EXPECT_EQ(openedWindow(L"Notepad"), nullptr) << "it was not slow";
@@ -216,9 +205,7 @@ TEST_F(NotepadTest, OpenNotepadKeepsItsText) {
   expectText(note, L"99");
   bringToFront(program().mainWindow());
   awaitRest();
-  pressWith(VK_CONTROL, 'N');
-  expectMessage(kNote);
-  answer(VK_RETURN);
+  sendToNotepad();
   HWND fresh = nullptr;
   await("another Notepad", [&] {
     for (HWND window : shownWindows())
@@ -228,8 +215,7 @@ TEST_F(NotepadTest, OpenNotepadKeepsItsText) {
   EXPECT_EQ(textOf(note), L"99");
 }
 
-// One that a person has opened for something else.
-TEST_F(NotepadTest, OneThatTheTestHasNotStartedIsNotEnded) {
+TEST_F(NotepadTest, NotepadOfAnotherProgramIsNotEnded) {
   const HANDLE foreign = startProgram(L"notepad.exe", CREATE_BREAKAWAY_FROM_JOB);
   const HWND window = awaitWindow("Notepad", [process = GetProcessId(foreign)] {
     for (HWND shown : shownWindows())
@@ -256,11 +242,7 @@ TEST_F(ReplacedNotepadTest, TextInAWindowThatComesToTheFrontIsKept) {
   CloseHandle(startProgram(L"notepad.exe"));
   const HWND window = awaitWindow("the note", [] { return openedWindow(L"Notepad"); });
   const HWND note = awaitWindow("its text", [window] { return childOfClass(window, L"Edit"); });
-  start();
-  const std::wstring tape = makeTape(10);
-  pressWith(VK_CONTROL, 'N');
-  expectMessage(kNote);
-  answer(VK_RETURN);
+  const std::wstring tape = sendTape();
   await("the tape in a text beside the note", [&] {
     const std::vector<HWND> texts = shownChildren(window);
     return std::ranges::any_of(texts, [&](HWND text) { return textOf(text) == tape; });
