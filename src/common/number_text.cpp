@@ -137,7 +137,6 @@ struct Significand {
 Significand significandOf(const Written& written) {
   Significand significand = {};
   std::string& digits = significand.digits;
-  digits.reserve(written.integer.size() + written.fraction.size());
   for (const char character : written.integer) {
     if (character != ',') digits += character;
   }
@@ -227,7 +226,6 @@ double toNumber(std::string_view text) {
 DecimalDigits toDigits(double value) {
   assert(std::isfinite(value));
   DecimalDigits result;
-  if (value == 0) return result;
   result.negative = value < 0;
   // The C library rounds as correctly as to_chars, whose tables would weigh a quarter of the
   // program. Which character is the point does not matter here.

@@ -59,7 +59,7 @@ std::u16string toUtf16(std::string_view text) {
       result += static_cast<char16_t>(character);
     } else {
       result += static_cast<char16_t>(0xD800 + ((character - 0x10000) >> 10));
-      result += static_cast<char16_t>(0xDC00 + ((character - 0x10000) & 0x3FF));
+      result += static_cast<char16_t>(0xDC00 + (character & 0x3FF));
     }
   }
   return result;

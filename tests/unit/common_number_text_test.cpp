@@ -269,6 +269,8 @@ TEST(NumberToText, WritesAnExponentFromSixteenDecimals) {
                {1e-5 / 3, "3.33333333333333E-06"},
                {0.1 / 3, "3.33333333333333E-02"},
                {-1e-5 / 3, "-3.33333333333333E-06"},
+               {1.23456789012345e-9, "1.23456789012345E-09"},
+               {1.23456789012345e-10, "1.23456789012345E-10"},
                {1.5e-100, "1.5E-100"},
                {1.5e-10, "0.00000000015"}});
 }
@@ -326,8 +328,10 @@ TEST(NumberDigits, HaveNoLeadingOrTrailingZeros) {
 }
 
 TEST(NumberDigits, AreEmptyForZero) {
-  EXPECT_FALSE(toDigits(-0.0).negative);
-  EXPECT_EQ(toDigits(-0.0).digits, "");
+  for (const double zero : {0.0, -0.0}) {
+    EXPECT_FALSE(toDigits(zero).negative);
+    EXPECT_EQ(toDigits(zero).digits, "");
+  }
 }
 
 TEST(HasOddCommas, FindsCommasThatDoNotSeparateThousands) {

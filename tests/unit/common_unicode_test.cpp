@@ -74,6 +74,7 @@ TEST(Unicode, ReplacesLoneSurrogates) {
   EXPECT_EQ(toUtf8(u"\xDFFF"), "\xEF\xBF\xBD");
   EXPECT_EQ(toUtf8(u"\xDC00\xDC00"), "\xEF\xBF\xBD\xEF\xBF\xBD");
   EXPECT_EQ(toUtf8(u"\xD800\xDBFF"), "\xEF\xBF\xBD\xEF\xBF\xBD");
+  EXPECT_EQ(toUtf8(u"\xD7FF\xDC00"), "\xED\x9F\xBF\xEF\xBF\xBD");
   EXPECT_EQ(toUtf8(u"\xD800\xE000"), "\xEF\xBF\xBD\xEE\x80\x80");
 }
 
