@@ -157,7 +157,6 @@ MenuItem& Window::menuItem(std::string_view name) const {
 }
 
 void Window::noteBounds(const Rect& bounds) {
-  if (bounds_ == bounds) return;
   const Rect before = bounds_;
   bounds_ = bounds;
   raiseResizeIfSized(before);

@@ -201,6 +201,7 @@ TEST_F(WindowContract, AccessKeyPassesOverWhatIsDisabledOrHidden) {
   button_.setEnabled(true);
   button_.setVisible(false);
   kind_->press({.key = 'G', .alt = true}, 0);
+  EXPECT_TRUE(first_.focused());
   second_.setEnabled(false);
   kind_->press({.key = 'S', .alt = true}, 0);
   EXPECT_EQ(window_->focusedControl(), &toggle_);
