@@ -59,7 +59,6 @@ void frmCalc::activate() {
 
 void frmCalc::unload() {
   saveSettings();
-  stage_ = Stage::Closing;
   program_.unloadCalc();
 }
 

@@ -24,7 +24,7 @@ class frmCalc {
   frmCalc& operator=(const frmCalc&) = delete;
 
   controls::Window& window() { return *window_; }
-  /// Whether it has been shown and is not closing.
+  /// Whether it has been shown.
   bool isUp() const { return stage_ == Stage::Up; }
   void show() { window_->show(); }
   /// Saves the settings, unless the window is minimized, and closes it.
@@ -36,7 +36,7 @@ class frmCalc {
 
  private:
   /// The settings are restored by the first resize, the modes by the first activation.
-  enum class Stage { Loaded, Restored, Up, Closing };
+  enum class Stage { Loaded, Restored, Up };
 
   void wireKeys();
   void wireEntry();
