@@ -57,6 +57,14 @@ TEST_F(EntryKey, PasteCharacterIsKept) {
   EXPECT_EQ(desktop_.beeps, 1);
 }
 
+// A Backspace that is held down leaves it until the key comes up.
+TEST_F(EntryKey, LoneSeparatorIsNoEntry) {
+  controls_.txtEntry.setText(",");
+  EXPECT_EQ(afterPress('+'), 0);
+  EXPECT_EQ(controls_.txtEntry.text(), "");
+  EXPECT_TRUE(desktop_.boxes.empty());
+}
+
 // The number of messages after an edit by the context menu has left `text` in the entry.
 std::size_t boxesAfterMouse(controls::MouseEdit edit, const char* text) {
   inmemory::Desktop desktop;
