@@ -52,6 +52,12 @@ def write_redirect(page_name, topic):
     )
 
 
+def write_blocks(topics, topic, page_name):
+    """What `topic` says, for another page; its links lead into the page of the help."""
+    writer = _PageWriter("", topics, page_name)
+    return writer._body(topic)
+
+
 def _texts_of(names):
     return "".join(Path(__file__).with_name(name).read_text(encoding="utf-8") for name in names)
 
@@ -66,7 +72,8 @@ def _tape(lines):
 
 
 class _PageWriter:
-    def __init__(self, title, topics):
+    def __init__(self, title, topics, page_name=""):
+        self._page_name = page_name
         self._title = title
         self._topics = topics
         self._by_slug = {topic.slug: topic for topic in topics}
@@ -193,4 +200,5 @@ class _PageWriter:
         return f"<{tag}>{words}</{tag}>" if tag else words
 
     def _link(self, words, slug):
-        return f'<a href="#{anchor(self._by_slug[slug])}">{escape(words, quote=False)}</a>'
+        target = f"{self._page_name}#{anchor(self._by_slug[slug])}"
+        return f'<a href="{target}">{escape(words, quote=False)}</a>'
