@@ -28,6 +28,7 @@ TEST_F(EventLoopTest, WhatAHandlerPostsRunsWhenTheOutermostEventHasEnded) {
 
 TEST_F(EventLoopTest, OutsideAnEventItRunsAtOnce) {
   loop_.post(note('1'));
+  EXPECT_EQ(log_, "1");
   loop_.postLast(note('2'));
   EXPECT_EQ(log_, "12");
 }

@@ -14,6 +14,8 @@ TEST_F(WindowTest, BeginsAsItIsLaidOut) {
   EXPECT_EQ(other_->name(), "other");
   EXPECT_EQ(other_->caption(), "Other");
   EXPECT_EQ(other_->bounds(), kOtherLayout.place);
+  EXPECT_EQ(other_->layout().caption, "Other");
+  EXPECT_EQ(&window_->desktop(), &desktop_);
   EXPECT_EQ(other_->state(), WindowState::Normal);
   EXPECT_FALSE(other_->visible());
   EXPECT_FALSE(other_->onTop());
