@@ -92,7 +92,7 @@ class TakenDesktopTest : public testing::Test {
   void expectAsBefore() const {
     EXPECT_EQ(clipboardText(), L"of a person \u221A");
     EXPECT_EQ(bytesOnClipboard(ownFormat()), "a person's\0own"s);
-    EXPECT_EQ(look(), seen_);
+    EXPECT_TRUE(eventually([this] { return look() == seen_; })) << look() << ", not " << seen_;
     EXPECT_EQ(readUserText(kChangedKey, L"text"), L"of a person");
     EXPECT_EQ(readUserText(kChangedKey, L"absent"), std::nullopt);
     HKEY made = nullptr;
