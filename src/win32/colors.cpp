@@ -52,8 +52,9 @@ bool isDark(COLORREF color) {
 }
 
 double contrastOf(COLORREF one, COLORREF other) {
-  const auto [darker, lighter] = std::minmax(lightOf(one), lightOf(other));
-  return (lighter + 0.05) / (darker + 0.05);
+  const double light = lightOf(one);
+  const double otherLight = lightOf(other);
+  return (std::max(light, otherLight) + 0.05) / (std::min(light, otherLight) + 0.05);
 }
 
 COLORREF legibleOn(COLORREF background, COLORREF wanted, double contrast) {
