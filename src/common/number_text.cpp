@@ -1,13 +1,12 @@
 #include "common/number_text.h"
 
 #include <algorithm>
-#include <array>
 #include <cassert>
 #include <charconv>
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
-#include <utility>
+#include <system_error>
 
 #include "common/run_time_error.h"
 
@@ -150,32 +149,17 @@ Significand significandOf(const Written& written) {
   return significand;
 }
 
-// A number of up to 15 digits, up to 22 of its places behind the point. In a double, the digits and
-// the power of ten are both exact, so that their quotient is rounded once.
-std::optional<double> exactQuotient(const Significand& significand) {
-  constexpr std::array kPowersOfTen = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
-                                       1e8,  1e9,  1e10, 1e11, 1e12, 1e13, 1e14, 1e15,
-                                       1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
-  const auto length = static_cast<long long>(significand.digits.size());
-  const long long places = length - significand.point;
-  if (length > kSignificantDigits || places < 0 ||
-      std::cmp_greater_equal(places, kPowersOfTen.size()))
-    return {};
-  double digits = 0;
-  for (const char digit : significand.digits) digits = digits * 10 + (digit - '0');
-  return digits / kPowersOfTen[static_cast<std::size_t>(places)];
-}
-
 // The absolute value of the number; null when out of the range of a double.
 std::optional<double> magnitudeOf(const Significand& significand) {
   if (significand.digits.empty()) return 0;
-  if (const auto exact = exactQuotient(significand)) return exact;
   const std::string text = "0." + significand.digits + "e" + std::to_string(significand.point);
-  // The C library rounds as correctly as from_chars, which would weigh more of the program. It is
-  // in the C locale, whose point is '.'.
-  const double value = std::strtod(text.c_str(), nullptr);
-  if (std::isinf(value)) return {};
-  return value;
+  // Exact with every C library, as strtod is not.
+  double value = 0;
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
+  const bool outOfRange = error == std::errc::result_out_of_range || std::isinf(value);
+  if (!outOfRange) return value;
+  if (significand.point > 0) return {};
+  return 0;
 }
 
 std::optional<double> valueOf(const Written& written) {

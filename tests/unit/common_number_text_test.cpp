@@ -4,7 +4,6 @@
 
 #include <chrono>
 #include <cmath>
-#include <cstdlib>
 #include <limits>
 #include <random>
 #include <string>
@@ -193,18 +192,6 @@ TEST(TextToNumber, RoundsCorrectly) {
                  {"9007199254740993", 9007199254740992.0},
                  {"9007199254740993." + std::string(100, '0') + "1", 9007199254740994.0},
                  {"123456789012345.67", 123456789012345.67}});
-}
-
-// Around the limits up to which the digits and the power of ten are exact.
-TEST(TextToNumber, RoundsLikeTheCLibrary) {
-  std::mt19937_64 random(20);
-  for (int i = 0; i < 20000; ++i) {
-    std::string text;
-    const auto length = 1 + random() % 18;
-    while (text.size() < length) text += static_cast<char>('0' + random() % 10);
-    text += "E" + std::to_string(static_cast<int>(random() % 40) - 35);
-    EXPECT_EQ(toNumber(text), std::strtod(text.c_str(), nullptr)) << text;
-  }
 }
 
 TEST(TextToNumber, IsFastOn64KilobytesOfGarbage) {
