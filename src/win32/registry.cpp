@@ -1,7 +1,7 @@
 #include "win32/registry.h"
 
-#include <algorithm>
 #include <cwchar>
+#include <utility>
 
 #include "win32/handles.h"
 #include "win32/text.h"
@@ -37,23 +37,36 @@ std::optional<DWORD> readDoubleWord(HKEY key, const std::wstring& name) {
   return value;
 }
 
+std::wstring upToZero(std::wstring text) {
+  text.resize(wcsnlen(text.data(), text.size()));
+  return text;
+}
+
+// With the values of the environment variables that the text names.
+std::wstring expanded(const std::wstring& text) {
+  const DWORD length = ExpandEnvironmentStringsW(text.c_str(), nullptr, 0);
+  std::wstring result(length, L'\0');
+  ExpandEnvironmentStringsW(text.c_str(), result.data(), length);
+  return upToZero(std::move(result));
+}
+
 }  // namespace
 
 std::optional<std::wstring> readText(HKEY key, const std::wstring& name) {
+  constexpr DWORD kTexts = RRF_RT_REG_SZ | RRF_RT_REG_EXPAND_SZ;
   std::wstring text;
+  DWORD type = REG_NONE;
   LSTATUS status = ERROR_MORE_DATA;
   for (DWORD size = kUsualText * sizeof(wchar_t); status == ERROR_MORE_DATA;) {
     text.resize(size / sizeof(wchar_t) + 1);
     size = static_cast<DWORD>(text.size() * sizeof(wchar_t));
-    // This also matches an expandable value, which is expanded.
-    status = RegGetValueW(key, nullptr, name.c_str(), RRF_RT_REG_SZ, nullptr, text.data(), &size);
-    // The size returned is that of the stored text, not of the expanded one.
-    if (status == ERROR_MORE_DATA)
-      size = std::max(size, static_cast<DWORD>(2 * text.size() * sizeof(wchar_t)));
+    // Wine would write an expanded text beyond the end of the buffer.
+    status =
+        RegGetValueW(key, nullptr, name.c_str(), kTexts | RRF_NOEXPAND, &type, text.data(), &size);
   }
   if (status != ERROR_SUCCESS) return {};
-  text.resize(wcsnlen(text.data(), text.size()));
-  return text;
+  text = upToZero(std::move(text));
+  return type == REG_EXPAND_SZ ? expanded(text) : text;
 }
 
 std::optional<std::string> readMachineValue(std::string_view key, std::string_view name) {
