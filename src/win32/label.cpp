@@ -27,10 +27,9 @@ std::optional<LRESULT> Label::take(const Message& message) {
   return 0;
 }
 
-// Behind the controls that it surrounds; the window draws its background.
+// In front of the controls that it surrounds, where screen readers look for the name of a group. It
+// lets them show through and clicks pass; the window draws its background.
 Frame::Frame(Window& frame, const controls::ControlLayout& layout)
-    : Native(frame, layout, {L"BUTTON", BS_GROUPBOX, WS_EX_TRANSPARENT}) {
-  SetWindowPos(handle(), HWND_BOTTOM, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
-}
+    : Native(frame, layout, {L"BUTTON", BS_GROUPBOX, WS_EX_TRANSPARENT}) {}
 
 }  // namespace win32

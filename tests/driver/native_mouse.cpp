@@ -63,6 +63,17 @@ bool isButton(HWND control) {
   return support::classOf(control) == L"Button";
 }
 
+bool isShown(HWND control) {
+  HWND window = GetAncestor(control, GA_ROOT);
+  RECT rect = {};
+  RECT client = {};
+  if (!IsWindowVisible(control) || !GetWindowRect(control, &rect)) return false;
+  const POINT middle = middleOf(rect);
+  POINT inWindow = middle;
+  return GetClientRect(window, &client) && ScreenToClient(window, &inWindow) &&
+         PtInRect(&client, inWindow) && MonitorFromPoint(middle, MONITOR_DEFAULTTONULL);
+}
+
 bool placeToClick(HWND control, POINT& place) {
   static int side = 1;
   RECT rect = {};

@@ -18,8 +18,11 @@ INPUT mouseButton(MouseButton button, bool up, ULONG_PTR extra);
 /// released.
 bool isButton(HWND control);
 
+/// Whether the window and the screen show its center, unless another window covers it.
+bool isShown(HWND control);
 /// A place near the center of a control where a click reaches it, and never the same twice in a
-/// row, which would make a double click. False if the control is off the screen or covered.
+/// row, which would make a double click. False if the control is off the screen or covered. On the
+/// thread of the control, where what lets clicks through covers nothing.
 bool placeToClick(HWND control, POINT& place);
 
 /// The center of an item of a window's menu bar, or of an open menu; false if a click there would

@@ -148,8 +148,11 @@ void NativeStage::clearAway() {
 
 // Wine gives a window the keys without raising it where another has just come to the front.
 void NativeStage::putInFront(const controls::Window& window) {
+  if (GetForegroundWindow() != handleOf(window)) raise(window);
+}
+
+void NativeStage::raise(const controls::Window& window) {
   HWND handle = handleOf(window);
-  if (GetForegroundWindow() == handle) return;
   act([handle] {
     SetForegroundWindow(handle);
     BringWindowToTop(handle);

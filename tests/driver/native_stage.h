@@ -75,8 +75,12 @@ class NativeStage : public Stage {
   void checkScreen();
   void clearAway();
   void putInFront(const controls::Window& window);
+  void raise(const controls::Window& window);
   void putProgramInFront();
+  HWND windowAt(POINT place);
+  bool reach(controls::Control& control, POINT& place);
   void clickWithMouse(controls::Control& control, int times);
+  void clickByMessages(HWND control, int times);
   void clickThrough(const std::vector<MenuPlace>& way, POINT place);
   bool clickAt(POINT place, MouseButton button);
   void clickSurely(POINT place);

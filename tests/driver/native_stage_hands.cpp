@@ -49,10 +49,17 @@ void NativeStage::doubleClick(controls::Control& control) {
   clickWithMouse(control, 2);
 }
 
+// Asked on the program's thread: there the frame around a group of buttons lets clicks through.
+HWND NativeStage::windowAt(POINT place) {
+  HWND window = nullptr;
+  inspect([&] { window = WindowFromPoint(place); });
+  return window;
+}
+
 // False if another window appeared at that place before the click, or if a pressed button lost the
 // focus for a moment: nothing has been clicked then.
 bool NativeStage::clickAt(POINT place, MouseButton button) {
-  HWND seen = WindowFromPoint(place);
+  HWND seen = windowAt(place);
   if (!moveButton(button, false, place, seen, nullptr)) return false;
   if (moveButton(button, true, place, seen, isButton(seen) ? seen : nullptr)) return true;
   cancelMouse();
@@ -81,12 +88,15 @@ void NativeStage::moveMouse(POINT place) {
   }
 }
 
+// What the program has not seen went elsewhere. Only a release may, when the press has closed the
+// window.
 bool NativeStage::moveButton(MouseButton button, bool up, POINT place, HWND seen, HWND pressed) {
   for (int i = 0; i < kTriesOfMouse; ++i) {
     moveMouse(place);
     ui_.expectClick(place, seen, pressed);
     send({mouseButton(button, up, UiThread::kAimedInput)});
-    if (!ui_.missed()) return true;
+    const bool mayGoElsewhere = up && !pressed;
+    if (mayGoElsewhere ? !ui_.missed() : ui_.hit()) return true;
     support::noteRetry("a click");
   }
   return false;
@@ -115,21 +125,41 @@ void NativeStage::clickSurely(POINT place) {
   throw CommandError("the mouse does not get there");
 }
 
-// A control outside the window or the screen, which the mouse cannot reach, gets the messages of a
-// click. A control that disappears with the first click gets no second one.
-void NativeStage::clickWithMouse(controls::Control& control, int times) {
+// False if the mouse cannot reach the control, which is outside the window or the screen. What
+// covers it otherwise is in front only for a moment.
+bool NativeStage::reach(controls::Control& control, POINT& place) {
   putInFront(control.window());
   HWND handle = handleOf(control);
+  bool reached = false;
+  const auto look = [&] { reached = placeToClick(handle, place); };
+  inspect(look);
+  if (reached || !isShown(handle)) return reached;
+  support::noteRetry("a covered control");
+  raise(control.window());
+  inspect(look);
+  return reached;
+}
+
+// A control that disappears with the first click gets no second one.
+void NativeStage::clickWithMouse(controls::Control& control, int times) {
+  HWND handle = handleOf(control);
   POINT place = {};
-  if (placeToClick(handle, place)) {
-    for (int i = 0; i < times && WindowFromPoint(place) == handle; ++i) clickSurely(place);
+  if (!reach(control, place)) return clickByMessages(handle, times);
+  for (int i = 0; i < times && windowAt(place) == handle; ++i) clickSurely(place);
+}
+
+// A button gets its click in one message: between two it could lose the focus, and with it the
+// click.
+void NativeStage::clickByMessages(HWND control, int times) {
+  if (isButton(control)) {
+    for (int i = 0; i < times && IsWindow(control); ++i) deliver(control, BM_CLICK, 0, 0);
     return;
   }
-  deliver(handle, WM_LBUTTONDOWN, MK_LBUTTON, 0);
-  deliver(handle, WM_LBUTTONUP, 0, 0);
+  deliver(control, WM_LBUTTONDOWN, MK_LBUTTON, 0);
+  deliver(control, WM_LBUTTONUP, 0, 0);
   if (times == 1) return;
-  deliver(handle, WM_LBUTTONDBLCLK, MK_LBUTTON, 0);
-  deliver(handle, WM_LBUTTONUP, 0, 0);
+  deliver(control, WM_LBUTTONDBLCLK, MK_LBUTTON, 0);
+  deliver(control, WM_LBUTTONUP, 0, 0);
 }
 
 // A click would move the caret of a text box, so only the focus is moved, as the system does for a
@@ -146,11 +176,10 @@ void NativeStage::select(controls::TextBox& box, int start, int length) {
 
 // The menu is opened again if it has closed too early. A grayed command is given up.
 void NativeStage::useBoxMenu(controls::TextBox& box, controls::BoxCommand command) {
-  putInFront(box.window());
   HWND handle = handleOf(box);
   for (int i = 0; i < kTriesOfMenu; ++i) {
     POINT place = {};
-    if (!placeToClick(handle, place) || !clickAt(place, MouseButton::Right)) continue;
+    if (!reach(box, place) || !clickAt(place, MouseButton::Right)) continue;
     const BoxMenuItem item = findInBoxMenu(command);
     if (item.grey) return cancelMouse();
     if (item.seen && clickAt(item.place, MouseButton::Left) && !mouseCapture(handle)) return;
