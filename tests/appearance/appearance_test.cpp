@@ -3,6 +3,7 @@
 #include "appearance/appearance_test_base.h"
 #include "appearance/picture.h"
 #include "driver/native_handles.h"
+#include "support/wait.h"
 #include "win32/light_icon.h"
 #include "win32/text.h"
 
@@ -152,19 +153,16 @@ class Appearance : public AppearanceTest {
  protected:
   /// Whether two pixels of the box, beside its line of text and within it, get the color in time.
   static bool becomes(HWND box, COLORREF color) {
-    constexpr ULONGLONG kPatience = 5000;
     constexpr int kWithinEdge = 3;
     const SIZE size = {placeOf(box).right - placeOf(box).left,
                        placeOf(box).bottom - placeOf(box).top};
-    const ULONGLONG until = GetTickCount64() + kPatience;
-    bool seen = false;
-    while (!seen && GetTickCount64() < until) {
+    return support::eventually([&] {
       const HDC context = GetWindowDC(box);
-      seen = GetPixel(context, size.cx - 2 * kWithinEdge, kWithinEdge) == color &&
-             GetPixel(context, size.cx - 2 * kWithinEdge, size.cy / 2) == color;
+      const bool seen = GetPixel(context, size.cx - 2 * kWithinEdge, kWithinEdge) == color &&
+                        GetPixel(context, size.cx - 2 * kWithinEdge, size.cy / 2) == color;
       ReleaseDC(box, context);
-    }
-    return seen;
+      return seen;
+    });
   }
 };
 

@@ -4,6 +4,7 @@
 
 #include "appearance/appearance_test_base.h"
 #include "appearance/picture.h"
+#include "support/wait.h"
 
 // What a screen reader is told: a client that listens to the system's accessibility events.
 namespace appearance {
@@ -41,8 +42,7 @@ class Speech : public AppearanceTest {
   /// Waits for an event that meets a condition.
   template <class Wanted>
   static bool hears(const Wanted& wanted) {
-    constexpr ULONGLONG kPatience = 5000;
-    const ULONGLONG until = GetTickCount64() + kPatience;
+    const ULONGLONG until = GetTickCount64() + support::kPatience;
     while (GetTickCount64() < until) {
       MSG message;
       while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) DispatchMessageW(&message);

@@ -4,6 +4,7 @@
 
 #include "appearance/appearance_test_base.h"
 #include "driver/native_handles.h"
+#include "support/wait.h"
 
 // The tool tips as the user sees them: in the system's tool tip window, below the mouse.
 namespace appearance {
@@ -56,25 +57,18 @@ class ToolTips : public AppearanceTest {
     AppearanceTest::TearDown();
   }
 
-  /// Moves the mouse over a control and waits for the tool tip.
+  /// Moves the mouse over a control, again when the screen has lost that, until a tool tip appears.
   static std::wstring tipUnderTheMouse(HWND control) {
-    constexpr int kTries = 3;
+    constexpr ULONGLONG kMoveIsLost = 2000;
     std::wstring seen;
-    for (int tries = 0; tries < kTries && seen.empty(); ++tries) {
+    support::eventually([&] {
       SetCursorPos(0, 0);
-      await([] { return shownTip().empty(); });
+      support::eventually([] { return shownTip().empty(); }, kMoveIsLost);
       const RECT place = placeOf(control);
       SetCursorPos((place.left + place.right) / 2, (place.top + place.bottom) / 2);
-      await([&] { return !(seen = shownTip()).empty(); });
-    }
+      return support::eventually([&] { return !(seen = shownTip()).empty(); }, kMoveIsLost);
+    });
     return seen;
-  }
-
-  template <class Condition>
-  static void await(const Condition& condition) {
-    constexpr ULONGLONG kPatience = 2000;
-    const ULONGLONG until = GetTickCount64() + kPatience;
-    while (!condition() && GetTickCount64() < until) Sleep(10);
   }
 
   void expectTipsOf(const std::string& window) {

@@ -20,8 +20,6 @@ constexpr int kRedOfPicker = 706;
 constexpr int kGreenOfPicker = 707;
 constexpr int kBlueOfPicker = 708;
 
-constexpr ULONGLONG kPatience = 10000;
-
 // Also finds a dialog that is still hidden: the system shows it when it is idle.
 HWND findDialog() {
   HWND dialog = nullptr;
@@ -33,7 +31,7 @@ HWND findDialog() {
 
 template <class Condition>
 void waitUntil(Condition condition) {
-  if (!support::eventually(condition, kPatience)) throw CommandError("a dialog does not answer");
+  if (!support::eventually(condition)) throw CommandError("a dialog does not answer");
 }
 
 std::string textOf(HWND window) {

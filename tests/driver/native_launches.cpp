@@ -12,7 +12,8 @@ namespace driver {
 
 namespace {
 
-constexpr ULONGLONG kPatience = 3000;
+// Less than the driver waits for the program, which waits here.
+constexpr ULONGLONG kPatience = 20'000;
 
 BOOL CALLBACK takeWindow(HWND window, LPARAM found) {
   if (IsWindowVisible(window) && !isOurs(window) && support::isStartedHere(window))

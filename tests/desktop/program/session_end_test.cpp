@@ -53,7 +53,6 @@ class SessionEndTest : public ProgramTest {
 
   /// Reports the end of the session as the system does: first asks all windows, then notifies all.
   static void endSession(const std::vector<HWND>& windows) {
-    constexpr UINT kPatience = 5000;
     DWORD_PTR agrees = 0;
     for (HWND window : windows) {
       SendMessageTimeoutW(window, WM_QUERYENDSESSION, 0, 0, SMTO_NORMAL, kPatience, &agrees);
