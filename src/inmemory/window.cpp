@@ -34,8 +34,15 @@ std::unique_ptr<controls::MenuItem> Window::makeMenuItem(const controls::MenuIte
   return std::make_unique<controls::MenuItem>(*this, layout, parent);
 }
 
+void Window::restore() {
+  const bool toMaximized = state() == WindowState::Minimized && maximized_;
+  setState(toMaximized ? WindowState::Maximized : WindowState::Normal);
+}
+
+// Windows brings a window to the front that it maximizes or restores.
 void Window::showState() {
   if (state() == WindowState::Minimized) return;
+  if (visible()) bringToFront();
   if (state() == WindowState::Maximized && !maximized_) {
     maximized_ = true;
     normalBounds_ = bounds();

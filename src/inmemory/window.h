@@ -11,6 +11,10 @@ class Window : public controls::Window {
  public:
   Window(Desktop& desktop, const controls::WindowLayout& layout);
 
+  /// Does what the box in the frame does: a window that was maximized before it was minimized is
+  /// maximized again.
+  void restore();
+
  protected:
   std::unique_ptr<controls::Control> makeControl(const controls::ControlLayout& layout) override;
   std::unique_ptr<controls::MenuItem> makeMenuItem(const controls::MenuItemLayout& layout,

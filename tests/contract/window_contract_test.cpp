@@ -316,6 +316,26 @@ TEST_F(WindowContract, RestoringAMaximizedWindowBringsItBack) {
   EXPECT_EQ(window_->bounds(), before);
 }
 
+TEST_F(WindowContract, WindowThatIsMaximizedOrRestoredComesToTheFront) {
+  using controls::WindowState;
+  const auto other = kind_->desktop().createWindow(plainLayout());
+  logFocus(first_);
+  logFocus(other->textBox("first"));
+  for (const auto state : {WindowState::Maximized, WindowState::Normal}) {
+    other->show();
+    kind_->settle();
+    takeLog();
+    window_->setState(state);
+    kind_->settle();
+    EXPECT_TRUE(first_.focused());
+    EXPECT_EQ(takeLog(), (Log{"lost first", "got first"}));
+  }
+  other->show();
+  window_->setState(WindowState::Normal);
+  kind_->settle();
+  EXPECT_TRUE(other->textBox("first").focused());
+}
+
 TEST_F(WindowContract, DialogTakesTheKeysUntilItIsHidden) {
   window_->onClose = [this] { note("close"); };
   window_->menuItem("mnuCopy").onClick = [this] { note("copy"); };

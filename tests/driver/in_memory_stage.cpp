@@ -83,7 +83,10 @@ void InMemoryStage::move(controls::Window& window, controls::Twips left, control
 }
 
 void InMemoryStage::setState(controls::Window& window, controls::WindowState state) {
-  act([&] { window.setState(state); });
+  act([&] {
+    if (state != controls::WindowState::Normal) return window.setState(state);
+    dynamic_cast<inmemory::Window&>(window).restore();
+  });
 }
 
 std::optional<std::string> InMemoryStage::readSetting(const std::string& section,
