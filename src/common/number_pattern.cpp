@@ -47,19 +47,10 @@ Shape shapeOf(std::string_view pattern) {
 }
 
 void roundHalfAwayFromZero(DecimalDigits& number, int decimals) {
-  std::string& digits = number.digits;
   const int keep = number.point + decimals;
-  if (keep >= static_cast<int>(digits.size())) return;
-  const bool up = keep >= 0 && digits[static_cast<std::size_t>(keep)] >= '5';
-  digits.resize(static_cast<std::size_t>(std::max(keep, 0)));
-  const char fill = up ? '9' : '0';
-  digits.erase(digits.find_last_not_of(fill) + 1);
-  if (up && digits.empty()) {
-    digits.assign(1, '1');
-    ++number.point;
-  } else if (up) {
-    ++digits.back();
-  }
+  if (keep >= static_cast<int>(number.digits.size())) return;
+  const bool up = keep >= 0 && number.digits[static_cast<std::size_t>(keep)] >= '5';
+  cutDigits(number, static_cast<std::size_t>(std::max(keep, 0)), up);
 }
 
 // Writes one number in one shape.

@@ -2,12 +2,10 @@
 
 #include <algorithm>
 #include <cassert>
-#include <charconv>
 #include <cmath>
-#include <cstdio>
 #include <cstdlib>
-#include <system_error>
 
+#include "common/exact_decimal.h"
 #include "common/run_time_error.h"
 
 namespace common {
@@ -128,42 +126,30 @@ std::optional<Written> read(std::string_view text) {
   return written;
 }
 
-// The digits without commas and leading zeros, and how many of them are before the point once the
-// exponent has been applied.
-struct Significand {
-  std::string digits;
-  long long point;
-};
-
-Significand significandOf(const Written& written) {
-  Significand significand = {};
-  std::string& digits = significand.digits;
+// Without commas and leading zeros, the exponent applied.
+Decimal decimalOf(const Written& written) {
+  Decimal decimal;
+  std::string& digits = decimal.digits;
   for (const char character : written.integer) {
     if (character != ',') digits += character;
   }
-  significand.point = static_cast<long long>(digits.size()) + written.exponent;
+  decimal.point = static_cast<long long>(digits.size()) + written.exponent;
   digits += written.fraction;
   const std::size_t zeros = std::min(digits.find_first_not_of('0'), digits.size());
   digits.erase(0, zeros);
-  significand.point -= static_cast<long long>(zeros);
-  return significand;
+  decimal.point -= static_cast<long long>(zeros);
+  return decimal;
 }
 
-// The absolute value of the number; null when out of the range of a double.
-std::optional<double> magnitudeOf(const Significand& significand) {
-  if (significand.digits.empty()) return 0;
-  const std::string text = "0." + significand.digits + "e" + std::to_string(significand.point);
-  // Exact with every C library, as strtod is not.
-  double value = 0;
-  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
-  const bool outOfRange = error == std::errc::result_out_of_range || std::isinf(value);
-  if (!outOfRange) return value;
-  if (significand.point > 0) return {};
-  return 0;
+// Null when out of the range of a double.
+std::optional<double> magnitudeOf(const Decimal& decimal) {
+  const double magnitude = nearestDouble(decimal);
+  if (std::isinf(magnitude)) return {};
+  return magnitude;
 }
 
 std::optional<double> valueOf(const Written& written) {
-  const auto magnitude = magnitudeOf(significandOf(written));
+  const auto magnitude = magnitudeOf(decimalOf(written));
   if (!magnitude) return {};
   return written.sign == '-' && *magnitude != 0 ? -*magnitude : *magnitude;
 }
@@ -228,24 +214,26 @@ double toNumber(std::string_view text) {
 
 DecimalDigits toDigits(double value) {
   assert(std::isfinite(value));
-  DecimalDigits result;
-  result.negative = value < 0;
-  // The C library rounds as correctly as to_chars, whose tables would weigh a quarter of the
-  // program. Which character is the point does not matter here.
-  char buffer[32];
-  const int length =
-      std::snprintf(buffer, sizeof buffer, "%.*e", kSignificantDigits - 1, std::abs(value));
-  assert(length > 0 && length < static_cast<int>(sizeof buffer));
-  std::string_view text(buffer, static_cast<std::size_t>(length));
-  const std::size_t exponentAt = text.find('e');
-  result.digits = text.front();
-  result.digits += text.substr(2, exponentAt - 2);
-  result.digits.erase(result.digits.find_last_not_of('0') + 1);
-  text.remove_prefix(exponentAt + 1);
-  take(text, '+');
-  std::from_chars(text.data(), text.data() + text.size(), result.point);
-  ++result.point;
-  return result;
+  const Decimal exact = exactDecimal(value);
+  DecimalDigits number = {value < 0, exact.digits, static_cast<int>(exact.point)};
+  if (number.digits.size() <= kSignificantDigits) return number;
+  const bool isOdd = number.digits[kSignificantDigits - 1] % 2 != 0;
+  const int toHalf = number.digits.compare(kSignificantDigits, std::string::npos, "5");
+  cutDigits(number, kSignificantDigits, toHalf > 0 || (toHalf == 0 && isOdd));
+  return number;
+}
+
+void cutDigits(DecimalDigits& number, std::size_t count, bool up) {
+  std::string& digits = number.digits;
+  digits.resize(count);
+  digits.erase(digits.find_last_not_of(up ? '9' : '0') + 1);
+  if (!up) return;
+  if (digits.empty()) {
+    digits.assign(1, '1');
+    ++number.point;
+  } else {
+    ++digits.back();
+  }
 }
 
 std::string toText(double value) {
@@ -264,8 +252,8 @@ std::string toText(double value) {
 std::optional<std::string> toPlainText(std::string_view text) {
   const auto written = read(text);
   if (!written) return {};
-  const Significand significand = significandOf(*written);
-  const auto magnitude = magnitudeOf(significand);
+  const Decimal decimal = decimalOf(*written);
+  const auto magnitude = magnitudeOf(decimal);
   if (!magnitude) return {};
   if (written->plain) return std::string(text);
   std::string plain;
@@ -278,7 +266,7 @@ std::optional<std::string> toPlainText(std::string_view text) {
     // A number too small for a double could have more zeros than fit into memory.
     plain += '0';
   } else {
-    appendFixed(plain, significand.digits, significand.point);
+    appendFixed(plain, decimal.digits, decimal.point);
   }
   return plain;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -38,5 +39,9 @@ struct DecimalDigits {
 
 /// A finite number correctly rounded to 15 significant digits, without leading or trailing zeros.
 DecimalDigits toDigits(double value);
+
+/// Keeps the first `count` digits, of at least as many; `up` adds one to the last of them. Without
+/// trailing zeros.
+void cutDigits(DecimalDigits& number, std::size_t count, bool up);
 
 }  // namespace common
