@@ -24,12 +24,11 @@ def runtime_components(runtime):
     """What the compiler links into the program; `runtime` holds the versions of gcc and mingw-w64."""
     return [
         component("mingw-w64 runtime", runtime["mingw-w64"], "Start-up code, mathematical and text functions",
-                  [{"license": {"id": "ZPL-2.1"}}, {"license": {"name": "Lucent permissive license (gdtoa)"}}],
-                  MINGW_W64),
+                  [{"license": {"id": "ZPL-2.1"}}], MINGW_W64),
         component("winpthreads", runtime["mingw-w64"], "Locks and threads of the C++ library",
                   [{"license": {"id": "MIT"}}, {"license": {"id": "BSD-3-Clause"}}], MINGW_W64),
         component("libstdc++ and libgcc", runtime["gcc"], "The C++ standard library and the compiler's support code",
-                  [{"expression": "GPL-3.0-or-later WITH GCC-exception-3.1 AND MIT"}], GCC),
+                  [{"expression": "GPL-3.0-or-later WITH GCC-exception-3.1"}], GCC),
     ]
 
 
