@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <array>
 
+#include "common/number_text.h"
+
 namespace annuity {
 namespace {
 
@@ -14,7 +16,7 @@ bool isAllowed(controls::KeyAscii key, std::string_view kind, std::string_view t
   if (key == '-') return text.find('-') == std::string_view::npos;
   if (key == '.' && kind == "fraction") return text.find('.') == std::string_view::npos;
   if (std::ranges::find(kAlwaysAllowed, key) != kAlwaysAllowed.end()) return true;
-  return key >= '0' && key <= '9';
+  return common::isDigit(key);
 }
 
 }  // namespace

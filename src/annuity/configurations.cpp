@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cassert>
+#include <iterator>
 
 namespace annuity {
 
@@ -83,17 +84,21 @@ constexpr std::array kConfigurations = {
     },
 };
 
+auto find(AnnuityKind kind) {
+  const auto found = std::ranges::find(kConfigurations, kind, &Configuration::kind);
+  assert(found != kConfigurations.end());
+  return found;
+}
+
 }  // namespace
 
 const Configuration& configurationOf(AnnuityKind kind) {
-  const auto found = std::ranges::find(kConfigurations, kind, &Configuration::kind);
-  assert(found != kConfigurations.end());
-  return *found;
+  return *find(kind);
 }
 
 const Configuration& nextConfiguration(const Configuration& configuration) {
-  const bool last = &configuration == &kConfigurations.back();
-  return last ? kConfigurations.front() : *(&configuration + 1);
+  const auto next = std::next(find(configuration.kind));
+  return next == kConfigurations.end() ? kConfigurations.front() : *next;
 }
 
 }  // namespace annuity

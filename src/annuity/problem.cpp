@@ -61,10 +61,11 @@ Answer answerTo(const AnnuityProblem& problem, Quantity unknown, const Configura
     case Quantity::PresentValue:
       return {moneyAnswer(annuity::pv(rate, nper, pmt, fv, due) * asked.signPV),
               asked.presentValueResult};
-    default:
-      return {moneyAnswer(annuity::fv(rate, nper, pmt, pv, due) * asked.signFV),
-              asked.futureValueResult};
+    case Quantity::FutureValue:
+      break;
   }
+  return {moneyAnswer(annuity::fv(rate, nper, pmt, pv, due) * asked.signFV),
+          asked.futureValueResult};
 }
 
 std::vector<Quantity> blanksOf(const PerQuantity<std::string>& texts) {

@@ -31,10 +31,6 @@ bool isBlank(char character) {
   return character == ' ' || character == '\t';
 }
 
-bool isDigit(char character) {
-  return character >= '0' && character <= '9';
-}
-
 bool isDigitOrComma(char character) {
   return isDigit(character) || character == ',';
 }

@@ -7,6 +7,11 @@
 
 namespace common {
 
+/// Whether a character is one of the digits 0 to 9.
+constexpr bool isDigit(int character) {
+  return character >= '0' && character <= '9';
+}
+
 /// The number that a text represents. Accepted: surrounding blanks and tabs; a leading sign or a
 /// trailing minus; "$"; parentheses for a negative number; digits with "," anywhere in the integer
 /// part; a "."; an exponent. Null for any other text, and when out of the range of a double.

@@ -1,18 +1,18 @@
 #include "common/settings_store.h"
 
 #include <algorithm>
+#include <cctype>
 
 #include "common/number_text.h"
 
 namespace common {
 namespace {
 
-// In this bit alone, a small letter differs from its capital.
-constexpr int kSmall = 'a' - 'A';
-
+// Compares without regard to case.
 bool isWord(std::string_view text, std::string_view lowerCaseWord) {
-  return std::equal(text.begin(), text.end(), lowerCaseWord.begin(), lowerCaseWord.end(),
-                    [](char left, char right) { return (left | kSmall) == right; });
+  return std::ranges::equal(text, lowerCaseWord, [](unsigned char left, unsigned char right) {
+    return std::tolower(left) == right;
+  });
 }
 
 }  // namespace

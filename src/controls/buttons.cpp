@@ -21,7 +21,7 @@ void ToggleButton::setValue(int value) {
 }
 
 void ToggleButton::click() {
-  if (enabled() && visible()) setValue(1 - value_);
+  if (enabled() && visible()) toggle();
 }
 
 OptionButton::OptionButton(Window& window, const ControlLayout& layout)

@@ -38,6 +38,7 @@ class ToggleButton : public ClickControl {
   int value() const { return value_; }
   /// Raises Click when the value changes, as a click by the user does.
   void setValue(int value);
+  void toggle() { setValue(1 - value_); }
   void click() override;
 
  protected:

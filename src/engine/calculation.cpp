@@ -64,19 +64,12 @@ Outcome Calculation::calculateWith(Operator waiting, const Amount& amount) {
 }
 
 double Calculation::resultOf(Operator key, double amount) const {
-  switch (key) {
-    case Operator::Plus:
-      return total_ + amount;
-    case Operator::Minus:
-      return total_ - amount;
-    case Operator::Times:
-      return total_ * amount;
-    case Operator::Divide:
-      return total_ / amount;
-    default:
-      assert(key == Operator::Root);
-      return std::sqrt(amount);
-  }
+  if (key == Operator::Plus) return total_ + amount;
+  if (key == Operator::Minus) return total_ - amount;
+  if (key == Operator::Times) return total_ * amount;
+  if (key == Operator::Divide) return total_ / amount;
+  assert(key == Operator::Root);
+  return std::sqrt(amount);
 }
 
 void Calculation::close() {

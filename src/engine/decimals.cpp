@@ -1,11 +1,13 @@
 #include "engine/decimals.h"
 
+#include "common/number_text.h"
+
 namespace engine {
 
 int Decimals::places() const {
   const std::string text = places_.text();
-  const bool some = text.size() == 1 && text[0] >= '1' && text[0] <= '9';
-  return some ? text[0] - '0' : 0;
+  const bool isOneDigit = text.size() == 1 && common::isDigit(text[0]);
+  return isOneDigit ? text[0] - '0' : 0;
 }
 
 void Decimals::fillEmptyBox() {

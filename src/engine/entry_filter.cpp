@@ -1,5 +1,6 @@
 #include <algorithm>
 
+#include "common/number_text.h"
 #include "common/unicode.h"
 #include "engine/entry.h"
 
@@ -20,9 +21,9 @@ int charactersBehindPoint(const std::string& text) {
 
 // Leading zeros do not count: they are not part of the number.
 int significantDigits(const std::u16string& text) {
-  const auto isDigit = [](char16_t c) { return c >= u'0' && c <= u'9'; };
-  const auto first = std::ranges::find_if(text, [](char16_t c) { return c >= u'1' && c <= u'9'; });
-  return static_cast<int>(std::count_if(first, text.end(), isDigit));
+  const auto first =
+      std::ranges::find_if(text, [](char16_t c) { return c != u'0' && common::isDigit(c); });
+  return static_cast<int>(std::count_if(first, text.end(), common::isDigit));
 }
 
 }  // namespace
@@ -38,7 +39,7 @@ bool Entry::accepts(controls::KeyAscii key) {
     }
   }
   if (key == kCtrlV) return true;
-  return key >= '0' && key <= '9' && acceptsDigit(text, static_cast<char>(key));
+  return common::isDigit(key) && acceptsDigit(text, static_cast<char>(key));
 }
 
 void Entry::takePoint() {

@@ -19,7 +19,8 @@ bool AddingMachine::total() {
     askForPlusOrMinus(text);
     return false;
   }
-  if (!(entryIsTyped(text) ? printEntryAndTotal(text) : printShown())) return false;
+  const bool printed = entryIsTyped(text) ? printEntryAndTotal(text) : printShown();
+  if (!printed) return false;
   entry_.format();
   if (mode_ == Mode::Product) {
     mode_ = Mode::Add;

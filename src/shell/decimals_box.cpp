@@ -1,5 +1,7 @@
 #include "shell/decimals_box.h"
 
+#include "common/number_text.h"
+
 namespace shell {
 
 using controls::Color;
@@ -7,10 +9,6 @@ using controls::Color;
 namespace {
 
 constexpr controls::KeyCode kKeyShift = 16;
-
-bool isDigit(int character) {
-  return character >= '0' && character <= '9';
-}
 
 }  // namespace
 
@@ -31,14 +29,6 @@ void DecimalsBox::save(Settings& settings) const {
   settings.write("frmCalctxtDec", controls_.txtDec.text());
 }
 
-void DecimalsBox::toggleFloating() {
-  controls_.chkFloatingDec.setValue(1 - controls_.chkFloatingDec.value());
-}
-
-void DecimalsBox::toggleStationary() {
-  controls_.chkShiftDec.setValue(1 - controls_.chkShiftDec.value());
-}
-
 void DecimalsBox::floatingChanged() {
   mnuEditFloatingDecimal_.setChecked(!mnuEditFloatingDecimal_.checked());
   const bool floating = controls_.chkFloatingDec.value() == 1;
@@ -54,14 +44,12 @@ void DecimalsBox::stationaryChanged() {
   controls_.txtEntry.setFocus();
 }
 
-bool DecimalsBox::accepts(std::string_view text) const {
-  return text.size() == 1 && isDigit(text[0]) && controls_.txtDec.textWithoutSelection().empty();
+bool DecimalsBox::hasRoom() const {
+  return controls_.txtDec.textWithoutSelection().empty();
 }
 
 void DecimalsBox::keyPress(controls::KeyAscii& key) {
-  if (key == controls::kKeyBackspace) return;
-  const char character = static_cast<char>(key);
-  if (isDigit(key) && accepts({&character, 1})) return;
+  if (key == controls::kKeyBackspace || (common::isDigit(key) && hasRoom())) return;
   key = 0;
   controls_.desktop.beep();
 }
@@ -75,7 +63,7 @@ void DecimalsBox::keyUp(controls::KeyCode key) {
 // A cell copied from a spreadsheet ends in a line break.
 void DecimalsBox::paste(std::string& text) {
   text = controls::firstLineOf(text);
-  if (accepts(text)) return;
+  if (text.size() == 1 && common::isDigit(text[0]) && hasRoom()) return;
   text.clear();
   controls_.desktop.beep();
 }

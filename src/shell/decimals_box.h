@@ -1,7 +1,6 @@
 #pragma once
 
 #include <string>
-#include <string_view>
 
 #include "engine/machine_controls.h"
 #include "shell/settings.h"
@@ -17,9 +16,6 @@ class DecimalsBox {
   void restore(const Settings& settings);
   void save(Settings& settings) const;
 
-  /// The items of the menu.
-  void toggleFloating();
-  void toggleStationary();
   /// The toggles have changed, by whatever means.
   void floatingChanged();
   void stationaryChanged();
@@ -31,7 +27,7 @@ class DecimalsBox {
   void lostFocus();
 
  private:
-  bool accepts(std::string_view text) const;
+  bool hasRoom() const;
 
   const engine::MachineControls& controls_;
   controls::MenuItem& mnuEditFloatingDecimal_;

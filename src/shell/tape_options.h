@@ -20,8 +20,7 @@ class TapeOptions {
   void togglePadding();
   /// Applies the check mark of the menu item; a tape without amounts gets the matching header.
   void applyPadding();
-  /// The menu item; offChanged runs whenever the toggle has changed.
-  void toggleOff() { controls_.chkTapeOff.setValue(1 - controls_.chkTapeOff.value()); }
+  /// The toggle has changed, by whatever means.
   void offChanged();
 
  private:

@@ -1,6 +1,7 @@
 // Which control does what: one line for each.
 #include <utility>
 
+#include "common/number_text.h"
 #include "engine/tape_line_style.h"
 #include "shell/frm_calc.h"
 
@@ -58,7 +59,7 @@ void frmCalc::wireFigures() {
 
 // A digit or point typed while a key or a toggle has the focus goes to the entry box.
 void frmCalc::typeIntoEntry(controls::KeyAscii& key) {
-  if (key != '.' && (key < '0' || key > '9')) return;
+  if (key != '.' && !common::isDigit(key)) return;
   controls_.txtEntry.setFocus();
   controls_.txtEntry.typeCharacter(std::exchange(key, 0));
 }
@@ -110,8 +111,8 @@ void frmCalc::wireFileAndEditMenu() {
   item("mnuEditCut") = [this] { editMenu_.cut(); };
   item("mnuEditCopy") = [this] { editMenu_.copy(); };
   item("mnuEditPaste") = [this] { editMenu_.paste(); };
-  item("mnuEditFloatingDecimal") = [this] { decimalsBox_.toggleFloating(); };
-  item("mnuEditStationaryDecimal") = [this] { decimalsBox_.toggleStationary(); };
+  item("mnuEditFloatingDecimal") = [this] { controls_.chkFloatingDec.toggle(); };
+  item("mnuEditStationaryDecimal") = [this] { controls_.chkShiftDec.toggle(); };
   item("mnuEditCopyTape") = [this] { tapeOutput_.copyTape(); };
   item("mnuEditTapeToNotepad") = [this] { tapeOutput_.openInNotepad(); };
 }
@@ -129,7 +130,7 @@ void frmCalc::wireWinAndHelpMenu() {
   item("mnuWinFinCalcInv") = [this] { openFinancialCalc(AnnuityKind::Investment); };
   item("mnuFinCalcStandard") = [this] { openFinancialCalc(AnnuityKind::Standard); };
   item("mnuWinPadTape") = [this] { tapeOptions_.togglePadding(); };
-  item("mnuWinTapeOff") = [this] { tapeOptions_.toggleOff(); };
+  item("mnuWinTapeOff") = [this] { controls_.chkTapeOff.toggle(); };
   item("mnuHelpContents") = [this] { showHelp(); };
   item("mnuHelpAbout") = [this] { showAbout(); };
 }

@@ -1,23 +1,10 @@
 #include <gtest/gtest.h>
 
-#include <string>
-
-#include "annuity/frm_annuity.h"
+#include "annuity_stand_in_program.h"
 #include "inmemory/desktop.h"
 
 namespace annuity {
 namespace {
-
-class NoMainWindow : public Program {
- public:
-  controls::Rect mainWindowPlace() const override { return {}; }
-  bool mainWindowIsUp() const override { return false; }
-  controls::Color focusColor() const override { return controls::Color::window(); }
-  std::string helpFile() const override { return ""; }
-  void showMainWindow() override {}
-  void printToTape(const std::string&, controls::Twips) override {}
-  void unloadAnnuity() override {}
-};
 
 class MoneyField : public testing::Test {
  protected:
@@ -30,7 +17,7 @@ class MoneyField : public testing::Test {
   }
 
   inmemory::Desktop desktop_;
-  NoMainWindow program_;
+  StandInProgram program_;
   frmAnnuity calculator_{desktop_, program_};
   controls::TextBox& box_ = calculator_.window().textBox("txtPV");
 };

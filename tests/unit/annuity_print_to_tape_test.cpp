@@ -1,31 +1,15 @@
 #include <gtest/gtest.h>
 
-#include <string>
-
-#include "annuity/frm_annuity.h"
+#include "annuity_stand_in_program.h"
 #include "inmemory/button.h"
 #include "inmemory/desktop.h"
 
 namespace annuity {
 namespace {
 
-/// A program whose main window is there, and keeps what is printed on its tape.
-class MainWindow : public Program {
- public:
-  controls::Rect mainWindowPlace() const override { return {}; }
-  bool mainWindowIsUp() const override { return true; }
-  controls::Color focusColor() const override { return controls::Color::window(); }
-  std::string helpFile() const override { return ""; }
-  void showMainWindow() override {}
-  void printToTape(const std::string& lines, controls::Twips) override { printed += lines; }
-  void unloadAnnuity() override {}
-
-  std::string printed;
-};
-
 TEST(PrintToTape, IsConfirmedOnItsButton) {
   inmemory::Desktop desktop;
-  MainWindow program;
+  StandInProgram program;
   frmAnnuity calculator(desktop, program);
   calculator.load(common::AnnuityKind::Loan);
   calculator.show();
