@@ -38,9 +38,9 @@ Factors factorsAt(double rate, double nper, int due) {
 
 /// The factors at `rate`. Error 5 where q is undefined, 6 where it overflows.
 Factors usableFactors(double rate, double nper, int due) {
-  const bool powerOfNothing = rate == -1 && nper < 0;
   const Factors factors = factorsAt(rate, nper, due);
-  if (powerOfNothing || std::isnan(factors.q)) throw RunTimeError(kInvalidProcedureCall);
+  const bool dividesByZero = rate == -1 && nper < 0;
+  if (dividesByZero || std::isnan(factors.q)) throw RunTimeError(kInvalidProcedureCall);
   // s overflows with q, and before it.
   if (!std::isfinite(factors.s)) throw RunTimeError(kOverflow);
   return factors;

@@ -50,7 +50,8 @@ class AddingMachine {
 
   /// The mode that the user has chosen: Add or Calculator.
   Mode chosenMode() const { return mode_ == Mode::Calculator ? mode_ : Mode::Add; }
-  /// Clears the running total.
+  /// Clears the running total. A multiplication or division that waits for its first operand ends
+  /// instead, in add mode.
   void chooseMode(Mode mode);
 
   Entry& entry() { return entry_; }

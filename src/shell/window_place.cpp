@@ -38,16 +38,12 @@ void WindowPlace::switchLayout() {
   const bool micro = !mnuWinMicroWindow_.checked();
   mnuWinMicroWindow_.setChecked(micro);
   if (micro) {
-    exchangeGeometry("frmCalc", "frmCalcMicro", kMicroGeometry);
+    write("frmCalc");
+    read("frmCalcMicro", kMicroGeometry);
   } else {
-    exchangeGeometry("frmCalcMicro", "frmCalc", kNormalGeometry);
+    write("frmCalcMicro");
+    read("frmCalc", kNormalGeometry);
   }
-}
-
-void WindowPlace::exchangeGeometry(const std::string& from, const std::string& to,
-                                   const Rect& fallback) {
-  write(from);
-  read(to, fallback);
 }
 
 void WindowPlace::write(const std::string& layout) {

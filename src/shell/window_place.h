@@ -24,8 +24,6 @@ class WindowPlace {
   bool onTop() const { return mnuWinAlwaysOnTop_.checked(); }
 
  private:
-  void exchangeGeometry(const std::string& from, const std::string& to,
-                        const controls::Rect& fallback);
   void write(const std::string& layout);
   void read(const std::string& layout, const controls::Rect& fallback);
 
