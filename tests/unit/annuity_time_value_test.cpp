@@ -6,6 +6,7 @@
 #include <array>
 #include <cmath>
 #include <cstdlib>
+#include <filesystem>
 #include <fstream>
 #include <functional>
 #include <limits>
@@ -46,7 +47,8 @@ double callByName(const std::string& name, const std::vector<double>& a) {
 
 /// The cases of `function`, each with its arguments and either an exact answer or an error.
 std::vector<json> referenceCases(const std::string& function) {
-  std::ifstream file(TALLYREX_TEST_DATA "/time_value_reference.json");
+  const std::filesystem::path folder = u8"" TALLYREX_TEST_DATA;
+  std::ifstream file(folder / "time_value_reference.json");
   std::vector<json> cases;
   for (const json& each : json::parse(file)) {
     if (each.at("function") == function) cases.push_back(each);
