@@ -87,6 +87,18 @@ class OutsideMessages : public ProgramTest {
     return all;
   }
 
+  /// Wine copies the text onto the stack of the program before that sees it.
+  static bool endsNotepad(const std::wstring& text) {
+    CloseHandle(startProgram(L"notepad.exe"));
+    const HWND notepad = awaitWindow("Notepad", [] { return openedWindow(L"Notepad"); });
+    constexpr UINT kPatience = 2000;
+    send(notepad, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(text.c_str()), kPatience);
+    const bool ended = eventually([notepad] { return !IsWindow(notepad); }, kPatience);
+    endOpened();
+    awaitInFront(program().mainWindow());
+    return ended;
+  }
+
   static void expectWorking() {
     ASSERT_TRUE(program().running());
     send(program().tape(), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(L""));
@@ -119,6 +131,8 @@ TEST_F(OutsideMessages, OddMessagesNeitherCrashNorHangTheProgram) {
 TEST_F(OutsideMessages, EnormousTextsNeitherCrashNorHangTheProgram) {
   constexpr UINT kPatience = 1000;
   const std::wstring enormous(1'300'000, L'7');
+  if (isWine() && endsNotepad(enormous))
+    GTEST_SKIP() << "this version of Wine ends every program that gets such a text";
   for (const HWND box : {program().entry(), program().decimals(), program().tape()})
     for (const UINT message : {static_cast<UINT>(WM_SETTEXT), static_cast<UINT>(EM_REPLACESEL)})
       send(box, message, 0, reinterpret_cast<LPARAM>(enormous.c_str()), kPatience);
