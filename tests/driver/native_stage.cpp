@@ -91,6 +91,8 @@ void NativeStage::settle() {
     const ULONGLONG now = GetTickCount64();
     if (now - start > kPatience) throw CommandError("the program does not answer");
     if (now - marked < kMarkIsLate) continue;
+    // Once for each wait: a slow program misses many marks in one.
+    if (marked == start) support::noteRetry("a mark");
     marked = now;
     remark();
   }
@@ -110,7 +112,6 @@ void NativeStage::checkScreen() {
 
 // A mark is lost if no window of the program was in front.
 void NativeStage::remark() {
-  support::noteRetry("a mark");
   if (isInFront()) return sendInputs({ui_.nextMark()});
   ui_.forgetMarks();
   ui_.markRest();
