@@ -32,6 +32,7 @@ bool Window::isTabStop(const Control& control) const {
 
 std::vector<Control*> Window::tabOrder() const {
   std::vector<Control*> order;
+  order.reserve(controls_.size());
   for (const auto& control : controls_) order.push_back(control.get());
   std::stable_sort(order.begin(), order.end(), [](const Control* a, const Control* b) {
     return a->layout().tabIndex < b->layout().tabIndex;

@@ -49,7 +49,7 @@ controls::Clipping readClipboard() {
   const auto* text = static_cast<const wchar_t*>(GlobalLock(data));
   if (!text) return {};
   // The terminating zero may be missing.
-  std::wstring copy(text, wcsnlen(text, GlobalSize(data) / sizeof(wchar_t)));
+  const std::wstring copy(text, wcsnlen(text, GlobalSize(data) / sizeof(wchar_t)));
   GlobalUnlock(data);
   return {controls::Clipping::Found::Text, narrow(copy)};
 }
