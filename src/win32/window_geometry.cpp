@@ -121,10 +121,10 @@ LRESULT Window::takeSystemCommand(const Message& message) {
 // A stored size is applied unchanged, even one smaller than the system's minimum.
 void Window::limitDragging(MINMAXINFO& limits) const {
   constexpr LONG kLargest = 32767;
-  const SIZE frame = frameSize();
   limits.ptMinTrackSize = {0, 0};
-  limits.ptMaxTrackSize = {kLargest + frame.cx, kLargest + frame.cy};
+  limits.ptMaxTrackSize = {kLargest, kLargest};
   if (!dragging_) return;
+  const SIZE frame = frameSize();
   const SIZE smallest = clientSize(layout().smallestWidth, layout().smallestHeight);
   limits.ptMinTrackSize = {smallest.cx + frame.cx, smallest.cy + frame.cy};
 }
