@@ -88,12 +88,22 @@ bool showsState(const controls::Window& window, HWND handle) {
   return (window.state() == WindowState::Maximized) == (IsZoomed(handle) != 0);
 }
 
+// The system makes no window larger, with its frame, whose height depends on the theme.
+bool hasLength(LONG seen, int meant, LONG withFrame) {
+  constexpr LONG kLargest = 32767;
+  return isNear(seen, meant) || (withFrame == kLargest && seen < meant);
+}
+
 bool hasSize(const controls::Window& window, HWND handle, const win32::Scale& scale) {
   RECT client = {};
   GetClientRect(handle, &client);
+  RECT frame = {};
+  GetWindowRect(handle, &frame);
   const controls::Rect& bounds = window.bounds();
-  return isNear(client.right, scale.toPixels(bounds.width - controls::kFrameWidth)) &&
-         isNear(client.bottom, scale.toPixels(bounds.height - window.layout().frameHeight()));
+  return hasLength(client.right, scale.toPixels(bounds.width - controls::kFrameWidth),
+                   frame.right - frame.left) &&
+         hasLength(client.bottom, scale.toPixels(bounds.height - window.layout().frameHeight()),
+                   frame.bottom - frame.top);
 }
 
 std::string differenceOfFrame(const win32::Window& window) {
