@@ -9,7 +9,8 @@ import pathlib
 import subprocess
 import sys
 
-DESKTOP = "/desktop=small,1366x768"
+# Wine makes a desktop only of a size that the screen of scripts/in-wine can have.
+DESKTOP = "/desktop=small,1280x720"
 
 
 def main(wine, program, *arguments):
