@@ -1,6 +1,7 @@
 #include "driver/native_keyboard.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "driver/native_ui_thread.h"
 
@@ -121,6 +122,15 @@ NativeKeyboard::Inputs NativeKeyboard::up(const controls::KeyStroke& stroke) {
   inputs.push_back(input(press->key, true));
   pressed_.erase(press);
   if (pressed_.empty()) hold({}, inputs);
+  return inputs;
+}
+
+NativeKeyboard::Inputs NativeKeyboard::upAgain() const {
+  const std::pair<WORD, bool> modifiers[] = {
+      {VK_SHIFT, held_.shift}, {VK_CONTROL, held_.control}, {VK_MENU, held_.alt}};
+  Inputs inputs;
+  for (const auto& [key, held] : modifiers)
+    if (!held && GetAsyncKeyState(key) < 0) inputs.push_back(keyInput(key, true));
   return inputs;
 }
 

@@ -25,6 +25,8 @@ class NativeKeyboard {
   Inputs downAgain();
   /// Releases a key, and with the last key its modifiers.
   Inputs up(const controls::KeyStroke& stroke);
+  /// Releases the modifiers whose release has been lost; empty if none has.
+  Inputs upAgain() const;
 
  private:
   struct Modifiers {

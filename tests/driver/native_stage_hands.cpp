@@ -34,10 +34,16 @@ void NativeStage::keyDown(const controls::KeyStroke& stroke, controls::KeyAscii 
   throw CommandError("a key does not arrive as it was pressed");
 }
 
-// Also when the key has closed the program: no key stays down. A menu that Alt has opened, which
+// Also when the key has closed the program: no key stays down. A key that has started another
+// program is released before that is in front, as a person would. A menu that Alt has opened, which
 // controls in memory do not have, is given up.
 void NativeStage::keyUp(const controls::KeyStroke& stroke) {
+  if (!isInFront() && running()) putProgramInFront();
   send(keyboard_.up(stroke));
+  if (const NativeKeyboard::Inputs stuck = keyboard_.upAgain(); !stuck.empty()) {
+    support::noteRetry("a release");
+    send(stuck);
+  }
   if (stroke.alt) cancelMouse();
 }
 
