@@ -79,6 +79,7 @@ class NativeStage : public Stage {
   void putProgramInFront();
   HWND windowAt(POINT place);
   bool reach(controls::Control& control, POINT& place);
+  bool openBoxMenu(controls::TextBox& box);
   void clickWithMouse(controls::Control& control, int times);
   void clickByMessages(HWND control, int times);
   void clickThrough(const std::vector<MenuPlace>& way, POINT place);

@@ -180,12 +180,21 @@ void NativeStage::select(controls::TextBox& box, int start, int length) {
   act([&] { box.select(start, length); });
 }
 
+// The menu of a box outside the window or the screen, which the mouse cannot reach, opens on the
+// screen all the same.
+bool NativeStage::openBoxMenu(controls::TextBox& box) {
+  POINT place = {};
+  if (reach(box, place)) return clickAt(place, MouseButton::Right);
+  deliver(handleOf(box), WM_RBUTTONDOWN, MK_RBUTTON, 0);
+  deliver(handleOf(box), WM_RBUTTONUP, 0, 0);
+  return true;
+}
+
 // The menu is opened again if it has closed too early. A grayed command is given up.
 void NativeStage::useBoxMenu(controls::TextBox& box, controls::BoxCommand command) {
   HWND handle = handleOf(box);
   for (int i = 0; i < kTriesOfMenu; ++i) {
-    POINT place = {};
-    if (!reach(box, place) || !clickAt(place, MouseButton::Right)) continue;
+    if (!openBoxMenu(box)) continue;
     const BoxMenuItem item = findInBoxMenu(command);
     if (item.grey) return cancelMouse();
     if (item.seen && clickAt(item.place, MouseButton::Left) && !mouseCapture(handle)) return;
