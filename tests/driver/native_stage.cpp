@@ -75,6 +75,7 @@ bool NativeStage::running() {
 
 // Waits until the program has finished, and answers the boxes that it shows meanwhile.
 void NativeStage::settle() {
+  support::noteAction();
   const ULONGLONG start = GetTickCount64();
   ULONGLONG marked = start;
   bool starting = false;

@@ -4,6 +4,8 @@
 #include <limits>
 #include <memory>
 
+#include "support/retries.h"
+
 namespace driver {
 
 namespace {
@@ -240,9 +242,13 @@ bool UiThread::isAimed(const MOUSEHOOKSTRUCT& mouse) const {
          (!seen_ || WindowFromPoint(mouse.pt) == seen_) && (!pressed_ || GetCapture() == pressed_);
 }
 
-// Marks arrive in order, but one may be lost while no window of the program is in front.
+// Marks arrive in order, but one may be lost while no window of the program is in front. One that a
+// busy machine has only delayed is none of those.
 void UiThread::noteMark(ULONG_PTR extra) {
-  marksSeen_ = static_cast<std::uint16_t>(extra & kMarkNumbers);
+  const auto mark = static_cast<std::uint16_t>(extra & kMarkNumbers);
+  const auto next = static_cast<std::uint16_t>(marksSeen_ + 1);
+  if (mark != next) support::noteRetry("a mark");
+  marksSeen_ = mark;
   SetEvent(progress_);
 }
 

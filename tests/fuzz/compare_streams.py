@@ -15,7 +15,8 @@ import threading
 import time
 
 HANGS = 120  # Seconds after which a driver is ended that has not answered; it may wait for another run first.
-MOST_REPEATED = 3
+MOST_REPEATED = 3  # In a short run; a long one may repeat one stream in fifty.
+STREAMS_FOR_EACH_REPEATED = 50
 
 
 class Driver:
@@ -36,11 +37,13 @@ class Driver:
         return json.loads(answer.decode("utf-8", "replace"))
 
     def end(self):
+        """Ends it; returns its exit code, which is not 0 either if the desktop lost too much of its input."""
         self._process.stdin.close()
         try:
-            self._process.wait(30)
+            return self._process.wait(30)
         except subprocess.TimeoutExpired:
             self._process.kill()
+            return self._process.wait()
 
 
 def same(one, other):
@@ -59,6 +62,36 @@ def compare(commands, drivers):
     return None
 
 
+def commands_of(stream, seed, length):
+    printed = subprocess.run([stream, str(seed), str(length)], check=True, capture_output=True, text=True)
+    return ["reset", *printed.stdout.splitlines()]
+
+
+def run(options, drivers):
+    """Compares one stream after another; returns whether there was one, and none with a difference."""
+    end = time.monotonic() + options.seconds
+    seed = options.seed
+    count = 0
+    repeated = 0
+    while time.monotonic() < end and seed < options.seed + options.streams:
+        commands = commands_of(options.stream, seed, options.length)
+        difference = compare(commands, drivers)
+        most_repeated = max(MOST_REPEATED, (seed - options.seed) // STREAMS_FOR_EACH_REPEATED)
+        if difference and repeated < most_repeated and not any("ended" in answer for answer in difference[1]):
+            repeated += 1
+            print("Done again: stream %d, after %s" % (seed, json.dumps(difference)), flush=True)
+            difference = compare(commands, drivers)
+        if difference:
+            index, answers = difference
+            print("\n".join(commands[1:index + 1]))
+            print("# stream %d, the drivers differ:\n=> %s\n=> %s" % (seed, *map(json.dumps, answers)))
+            return False
+        count += len(commands)
+        seed += 1
+    print("%d streams, %d commands, no difference" % (seed - options.seed, count))
+    return count > 0
+
+
 def main(arguments):
     parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
     parser.add_argument("--seed", type=int, default=1)
@@ -70,32 +103,13 @@ def main(arguments):
     options = parser.parse_args(arguments)
     middle = options.driver.index("--")
     drivers = [Driver(options.driver[:middle]), Driver(options.driver[middle + 1:])]
-    end = time.monotonic() + options.seconds
-    seed = options.seed
-    count = 0
-    repeated = 0
     try:
-        while time.monotonic() < end and seed < options.seed + options.streams:
-            commands = subprocess.run([options.stream, str(seed), str(options.length)], check=True,
-                                      capture_output=True, text=True).stdout.splitlines()
-            commands = ["reset", *commands]
-            difference = compare(commands, drivers)
-            if difference and repeated < MOST_REPEATED and not any("ended" in answer for answer in difference[1]):
-                repeated += 1
-                print("Done again: stream %d, after %s" % (seed, json.dumps(difference)))
-                difference = compare(commands, drivers)
-            if difference:
-                index, answers = difference
-                print("\n".join(commands[1:index + 1]))
-                print("# stream %d, the drivers differ:\n=> %s\n=> %s" % (seed, *map(json.dumps, answers)))
-                return 1
-            count += len(commands)
-            seed += 1
+        good = run(options, drivers)
     finally:
-        for driver in drivers:
-            driver.end()
-    print("%d streams, %d commands, no difference" % (seed - options.seed, count))
-    return 0 if count else 1
+        codes = [driver.end() for driver in drivers]
+    if any(codes):
+        print("The drivers ended with the codes %d and %d" % tuple(codes))
+    return 0 if good and not any(codes) else 1
 
 
 if __name__ == "__main__":
