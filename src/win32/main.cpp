@@ -5,15 +5,17 @@
 #include "win32/edge.h"
 #include "win32/message_loop.h"
 
+namespace {
+
 // Never loads libraries or programs from the current folder.
-static void trustSystemFoldersOnly() {
+void trustSystemFoldersOnly() {
   SetDllDirectoryW(L"");
   SetDefaultDllDirectories(LOAD_LIBRARY_SEARCH_SYSTEM32);
   SetEnvironmentVariableW(L"NoDefaultCurrentDirectoryInExePath", L"1");
 }
 
 // The initial state of the window as requested by the starter, such as a shortcut.
-static controls::WindowState wantedState(int show) {
+controls::WindowState wantedState(int show) {
   switch (show) {
     case SW_SHOWMAXIMIZED:
       return controls::WindowState::Maximized;
@@ -25,6 +27,8 @@ static controls::WindowState wantedState(int show) {
       return controls::WindowState::Normal;
   }
 }
+
+}  // namespace
 
 int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int show) {
   trustSystemFoldersOnly();
