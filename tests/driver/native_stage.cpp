@@ -92,8 +92,6 @@ void NativeStage::settle() {
     const ULONGLONG now = GetTickCount64();
     if (now - start > kPatience) throw CommandError("the program does not answer");
     if (now - marked < kMarkIsLate) continue;
-    // Once for each wait: a slow program misses many marks in one.
-    if (marked == start) support::noteRetry("a mark");
     marked = now;
     remark();
   }

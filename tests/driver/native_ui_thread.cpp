@@ -243,11 +243,11 @@ bool UiThread::isAimed(const MOUSEHOOKSTRUCT& mouse) const {
 }
 
 // Marks arrive in order, but one may be lost while no window of the program is in front. One that a
-// busy machine has only delayed is none of those.
+// busy machine has only delayed is none of those, nor one that a menu takes from the queue twice.
 void UiThread::noteMark(ULONG_PTR extra) {
   const auto mark = static_cast<std::uint16_t>(extra & kMarkNumbers);
-  const auto next = static_cast<std::uint16_t>(marksSeen_ + 1);
-  if (mark != next) support::noteRetry("a mark");
+  const auto since = static_cast<std::int16_t>(mark - marksSeen_);
+  if (since > 1) support::noteRetry("a mark");
   marksSeen_ = mark;
   SetEvent(progress_);
 }
