@@ -108,8 +108,8 @@ NativeKeyboard::Inputs NativeKeyboard::down(const controls::KeyStroke& stroke,
 }
 
 NativeKeyboard::Inputs NativeKeyboard::downAgain() {
-  Inputs inputs;
   held_ = {};
+  Inputs inputs = upAgain();
   hold(pressed_.back().key.modifiers, inputs);
   inputs.push_back(downInput(pressed_.back().key));
   return inputs;

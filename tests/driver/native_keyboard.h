@@ -21,7 +21,8 @@ class NativeKeyboard {
 
   /// Presses a key; `character` is 0 for a key without one.
   Inputs down(const controls::KeyStroke& stroke, controls::KeyAscii character);
-  /// Presses the last key and its modifiers again, after something else released these too early.
+  /// Presses the last key and its modifiers again, after something else released these too early or
+  /// kept others down.
   Inputs downAgain();
   /// Releases a key, and with the last key its modifiers.
   Inputs up(const controls::KeyStroke& stroke);
