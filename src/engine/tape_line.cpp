@@ -26,8 +26,8 @@ std::string tapeText(const TapeLine& line, const TapeForm& form) {
   text += {' ', kMarkCharacters.at(static_cast<std::size_t>(line.mark)), ' '};
   if (!form.padded) return text;
   if (form.floating) text.insert(0, 1, ' ');
-  constexpr auto kWidth = static_cast<std::size_t>(kTapeWidth);
-  text.insert(0, kWidth - std::min(text.size(), kWidth), ' ');
+  const std::size_t width = kTapeWidth;
+  text.insert(0, width - std::min(text.size(), width), ' ');
   return text;
 }
 

@@ -11,7 +11,7 @@
 namespace win32 {
 namespace {
 
-constexpr wchar_t kClassName[] = L"TallyrexTape";
+constexpr wchar_t kTapeClass[] = L"TallyrexTape";
 // The queries of the system and of screen readers for a multi-line box.
 constexpr DWORD kStyle =
     WS_VSCROLL | ES_MULTILINE | ES_AUTOVSCROLL | ES_AUTOHSCROLL | ES_WANTRETURN;
@@ -24,7 +24,7 @@ const wchar_t* tapeClass() {
     definition.lpfnWndProc = DefWindowProcW;
     definition.hInstance = GetModuleHandleW(nullptr);
     definition.hCursor = LoadCursorW(nullptr, IDC_IBEAM);
-    definition.lpszClassName = kClassName;
+    definition.lpszClassName = kTapeClass;
     return RegisterClassExW(&definition);
   }();
   return MAKEINTATOM(registered);

@@ -18,7 +18,7 @@ using controls::ControlKind;
 
 namespace {
 
-constexpr wchar_t kClassName[] = L"TallyrexWindow";
+constexpr wchar_t kWindowClass[] = L"TallyrexWindow";
 
 ATOM registerClass(WNDPROC procedure) {
   const HINSTANCE instance = GetModuleHandleW(nullptr);
@@ -32,7 +32,7 @@ ATOM registerClass(WNDPROC procedure) {
                                                      GetSystemMetrics(SM_CYSMICON), LR_SHARED));
   definition.hCursor = LoadCursorW(nullptr, IDC_ARROW);
   definition.hbrBackground = GetSysColorBrush(COLOR_BTNFACE);
-  definition.lpszClassName = kClassName;
+  definition.lpszClassName = kWindowClass;
   return RegisterClassExW(&definition);
 }
 
