@@ -56,14 +56,14 @@ def report_lint(path):
         print("==== %s failed" % path.stem)
         print(said)
     counts = [1, 0, 0] if clean else [0, 1, 0]
-    print("%-8s %s" % (path.stem, closing(counts)))
+    print("%-9s %s" % (path.stem, closing(counts)))
     return counts
 
 
 def report(path):
     """Prints the failures of one run and its line; returns its counts."""
     if not path.exists():
-        print("%-8s did not finish" % path.stem)
+        print("%-9s did not finish" % path.stem)
         return [0, 1, 0]
     suite = ElementTree.parse(path).getroot()
     total = [0, 0, 0]
@@ -71,11 +71,11 @@ def report(path):
         counts = count(case)
         total = [sum(pair) for pair in zip(total, counts)]
         if counts[1]:
-            print("%-8s failed: %s" % (path.stem, case.get("name")))
+            print("%-9s failed: %s" % (path.stem, case.get("name")))
     if sum(total) == 0:
-        print("%-8s ran no test" % path.stem)
+        print("%-9s ran no test" % path.stem)
         return [0, 1, 0]
-    print("%-8s %s in %s s" % (path.stem, closing(total), suite.get("time")))
+    print("%-9s %s in %s s" % (path.stem, closing(total), suite.get("time")))
     return total
 
 
