@@ -8,7 +8,7 @@
 namespace appearance {
 namespace {
 
-using Picture = std::vector<COLORREF>;
+using Pixels = std::vector<COLORREF>;
 
 class FittedText : public AppearanceTest, public testing::WithParamInterface<int> {
  protected:
@@ -31,8 +31,8 @@ class FittedText : public AppearanceTest, public testing::WithParamInterface<int
   }
 
   /// A picture of the visible part of the box, without the caret.
-  Picture picture() {
-    Picture picture;
+  Pixels picture() {
+    Pixels picture;
     stage().inspect([&] {
       HideCaret(entry_);
       RedrawWindow(entry_, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
@@ -46,7 +46,7 @@ class FittedText : public AppearanceTest, public testing::WithParamInterface<int
     return picture;
   }
 
-  Picture pictureOf(const std::string& text) {
+  Pixels pictureOf(const std::string& text) {
     show(text);
     return picture();
   }
@@ -58,7 +58,7 @@ class FittedText : public AppearanceTest, public testing::WithParamInterface<int
 
   void expectWhole(const std::string& text) {
     SCOPED_TRACE(text);
-    const Picture whole = pictureOf(text);
+    const Pixels whole = pictureOf(text);
     EXPECT_GE(placeOfCharacter(0), 0);
     const LONG end = placeOfCharacter(0) + sizeOf(entry_, win32::wide(text)).cx;
     EXPECT_LE(end, clientSize(entry_).cx);

@@ -9,7 +9,7 @@
 namespace annuity {
 namespace {
 
-struct Case {
+struct KeyCase {
   const char* whatAUserSees;
   controls::KeyAscii key;
   const char* kind;
@@ -18,7 +18,7 @@ struct Case {
 };
 
 TEST(AllowKey, AcceptsOrRefusesACharacter) {
-  const std::vector<Case> cases = {
+  const std::vector<KeyCase> cases = {
       {"the first digit", '0', "fraction", "", true},
       {"the last digit", '9', "integer", "12", true},
       {"a point", '.', "fraction", "12", true},
@@ -45,7 +45,7 @@ TEST(AllowKey, AcceptsOrRefusesACharacter) {
       {"a blank is refused", ' ', "fraction", "", false},
       {"a digit of another script is refused", 0x0663, "fraction", "", false},
   };
-  for (const Case& each : cases) {
+  for (const KeyCase& each : cases) {
     inmemory::Desktop desktop;
     EXPECT_EQ(allowKey(each.key, each.kind, each.text, desktop), each.allowed)
         << each.whatAUserSees;

@@ -14,17 +14,17 @@ using annuity::rateAnswer;
 using annuity::termInMonths;
 using annuity::termInYears;
 
-struct Row {
+struct AnswerCase {
   std::string_view name;
   double value;
   std::string_view text;
 };
 
-std::string nameOf(const testing::TestParamInfo<Row>& row) {
+std::string nameOf(const testing::TestParamInfo<AnswerCase>& row) {
   return std::string(row.param.name);
 }
 
-class MoneyAnswer : public testing::TestWithParam<Row> {};
+class MoneyAnswer : public testing::TestWithParam<AnswerCase> {};
 
 TEST_P(MoneyAnswer, Reads) {
   EXPECT_EQ(moneyAnswer(GetParam().value), GetParam().text);
@@ -32,33 +32,34 @@ TEST_P(MoneyAnswer, Reads) {
 
 INSTANTIATE_TEST_SUITE_P(
     Amounts, MoneyAnswer,
-    testing::Values(Row{"IsRoundedToCents", 699.2145085527766, "$ 699.21"},
-                    Row{"HasALeadingSign", -1234.5, "-$ 1,234.50"}, Row{"Zero", 0, "$ 0.00"},
-                    Row{"RoundsToZero", -0.004, "$ 0.00"}, Row{"BelowOne", 0.5, "$ 0.50"},
-                    Row{"RoundsHalfAwayFromZero", 1.005, "$ 1.01"},
-                    Row{"RoundsHalfAwayFromZeroBelowIt", -1.005, "-$ 1.01"},
-                    Row{"IsGrouped", 1234567890.12, "$ 1,234,567,890.12"},
-                    Row{"BeyondThePattern", 1e15, "$ 1,000,000,000,000,000.00"}),
+    testing::Values(AnswerCase{"IsRoundedToCents", 699.2145085527766, "$ 699.21"},
+                    AnswerCase{"HasALeadingSign", -1234.5, "-$ 1,234.50"},
+                    AnswerCase{"Zero", 0, "$ 0.00"}, AnswerCase{"RoundsToZero", -0.004, "$ 0.00"},
+                    AnswerCase{"BelowOne", 0.5, "$ 0.50"},
+                    AnswerCase{"RoundsHalfAwayFromZero", 1.005, "$ 1.01"},
+                    AnswerCase{"RoundsHalfAwayFromZeroBelowIt", -1.005, "-$ 1.01"},
+                    AnswerCase{"IsGrouped", 1234567890.12, "$ 1,234,567,890.12"},
+                    AnswerCase{"BeyondThePattern", 1e15, "$ 1,000,000,000,000,000.00"}),
     nameOf);
 
-class RateAnswer : public testing::TestWithParam<Row> {};
+class RateAnswer : public testing::TestWithParam<AnswerCase> {};
 
 TEST_P(RateAnswer, Reads) {
   EXPECT_EQ(rateAnswer(GetParam().value), GetParam().text);
 }
 
 INSTANTIATE_TEST_SUITE_P(Rates, RateAnswer,
-                         testing::Values(Row{"WithTwoDecimals", 0.0725, "7.25 %"},
-                                         Row{"WithFiveDecimals", 0.0712345, "7.12345 %"},
-                                         Row{"WithThreeDecimals", 0.07125, "7.125 %"},
-                                         Row{"IsRoundedToFive", 0.07499934, "7.49993 %"},
-                                         Row{"Zero", 0, "0.00 %"},
-                                         Row{"TooSmallToShow", -1e-9, "0.00 %"},
-                                         Row{"BelowZero", -0.05, "-5.00 %"},
-                                         Row{"AboveAHundred", 12.345, "1234.50 %"}),
+                         testing::Values(AnswerCase{"WithTwoDecimals", 0.0725, "7.25 %"},
+                                         AnswerCase{"WithFiveDecimals", 0.0712345, "7.12345 %"},
+                                         AnswerCase{"WithThreeDecimals", 0.07125, "7.125 %"},
+                                         AnswerCase{"IsRoundedToFive", 0.07499934, "7.49993 %"},
+                                         AnswerCase{"Zero", 0, "0.00 %"},
+                                         AnswerCase{"TooSmallToShow", -1e-9, "0.00 %"},
+                                         AnswerCase{"BelowZero", -0.05, "-5.00 %"},
+                                         AnswerCase{"AboveAHundred", 12.345, "1234.50 %"}),
                          nameOf);
 
-class TermInMonths : public testing::TestWithParam<Row> {};
+class TermInMonths : public testing::TestWithParam<AnswerCase> {};
 
 TEST_P(TermInMonths, Reads) {
   EXPECT_EQ(termInMonths(GetParam().value), GetParam().text);
@@ -66,18 +67,19 @@ TEST_P(TermInMonths, Reads) {
 
 INSTANTIATE_TEST_SUITE_P(
     Terms, TermInMonths,
-    testing::Values(Row{"Whole", 360, "360  Months"}, Row{"One", 1, "1  Month"},
-                    Row{"Zero", 0, "0  Months"}, Row{"Fractional", 1.5, "1.5  Months"},
-                    Row{"RoundedToTwoDecimals", 359.721, "359.72  Months"},
-                    Row{"AlmostWholeKeepsThePoint", 359.999, "360.  Months"},
-                    Row{"AlmostOneIsPlural", 1.0001, "1.  Months"},
-                    Row{"WholeExceptForTheLastDigit", 360.0000000000001, "360  Months"},
-                    Row{"OneExceptForTheLastDigit", 1.0000000000000002, "1  Month"},
-                    Row{"BelowZero", -5.5, "-5.5  Months"},
-                    Row{"InThousandsWithoutSeparators", 12345, "12345  Months"}),
+    testing::Values(AnswerCase{"Whole", 360, "360  Months"}, AnswerCase{"One", 1, "1  Month"},
+                    AnswerCase{"Zero", 0, "0  Months"},
+                    AnswerCase{"Fractional", 1.5, "1.5  Months"},
+                    AnswerCase{"RoundedToTwoDecimals", 359.721, "359.72  Months"},
+                    AnswerCase{"AlmostWholeKeepsThePoint", 359.999, "360.  Months"},
+                    AnswerCase{"AlmostOneIsPlural", 1.0001, "1.  Months"},
+                    AnswerCase{"WholeExceptForTheLastDigit", 360.0000000000001, "360  Months"},
+                    AnswerCase{"OneExceptForTheLastDigit", 1.0000000000000002, "1  Month"},
+                    AnswerCase{"BelowZero", -5.5, "-5.5  Months"},
+                    AnswerCase{"InThousandsWithoutSeparators", 12345, "12345  Months"}),
     nameOf);
 
-class TermInYears : public testing::TestWithParam<Row> {};
+class TermInYears : public testing::TestWithParam<AnswerCase> {};
 
 TEST_P(TermInYears, Reads) {
   EXPECT_EQ(termInYears(GetParam().value), GetParam().text);
@@ -85,24 +87,25 @@ TEST_P(TermInYears, Reads) {
 
 INSTANTIATE_TEST_SUITE_P(
     Terms, TermInYears,
-    testing::Values(Row{"Whole", 360, "30  Years\r\n0  Months"},
-                    Row{"One", 12, "1  Year\r\n0  Months"},
-                    Row{"OneAndAMonth", 13, "1  Year\r\n1  Month"},
-                    Row{"LessThanOne", 1, "0  Years\r\n1  Month"},
-                    Row{"Fractional", 359.88, "29  Years\r\n11.88  Months"},
-                    Row{"HalfAMonthIsPlural", 24.5, "2  Years\r\n0.5  Months"},
-                    Row{"MonthsAreNotCarried", 359.9999999999999, "29  Years\r\n12  Months"},
-                    Row{"MonthsAreNotCarriedNearAWholeYear", 359.997, "29  Years\r\n12  Months"},
-                    Row{"FractionalFurtherFromAWholeYear", 359.99, "29  Years\r\n11.99  Months"},
-                    Row{"AlmostOneMonthIsOneMonth", 12.997, "1  Year\r\n1  Month"},
-                    Row{"JustBelowOneMonth", 12.99, "1  Year\r\n0.99  Months"},
-                    Row{"JustAboveOneMonthIsPlural", 13.003, "1  Year\r\n1  Months"},
-                    Row{"AboveOneMonthHasDecimals", 13.006, "1  Year\r\n1.01  Months"},
-                    Row{"TooSmallForADecimal", 12.003, "1  Year\r\n0  Months"},
-                    Row{"LowerLimitOfAWholeMonth", 0.995, "0  Years\r\n1  Months"},
-                    Row{"UpperLimitOfZeroMonths", 0.004, "0  Years\r\n0  Months"},
-                    Row{"AboveThatLimitKeepsThePoint", 0.0045, "0  Years\r\n0.  Months"},
-                    Row{"BelowZero", -5.5, "-1  Years\r\n6.5  Months"}),
+    testing::Values(
+        AnswerCase{"Whole", 360, "30  Years\r\n0  Months"},
+        AnswerCase{"One", 12, "1  Year\r\n0  Months"},
+        AnswerCase{"OneAndAMonth", 13, "1  Year\r\n1  Month"},
+        AnswerCase{"LessThanOne", 1, "0  Years\r\n1  Month"},
+        AnswerCase{"Fractional", 359.88, "29  Years\r\n11.88  Months"},
+        AnswerCase{"HalfAMonthIsPlural", 24.5, "2  Years\r\n0.5  Months"},
+        AnswerCase{"MonthsAreNotCarried", 359.9999999999999, "29  Years\r\n12  Months"},
+        AnswerCase{"MonthsAreNotCarriedNearAWholeYear", 359.997, "29  Years\r\n12  Months"},
+        AnswerCase{"FractionalFurtherFromAWholeYear", 359.99, "29  Years\r\n11.99  Months"},
+        AnswerCase{"AlmostOneMonthIsOneMonth", 12.997, "1  Year\r\n1  Month"},
+        AnswerCase{"JustBelowOneMonth", 12.99, "1  Year\r\n0.99  Months"},
+        AnswerCase{"JustAboveOneMonthIsPlural", 13.003, "1  Year\r\n1  Months"},
+        AnswerCase{"AboveOneMonthHasDecimals", 13.006, "1  Year\r\n1.01  Months"},
+        AnswerCase{"TooSmallForADecimal", 12.003, "1  Year\r\n0  Months"},
+        AnswerCase{"LowerLimitOfAWholeMonth", 0.995, "0  Years\r\n1  Months"},
+        AnswerCase{"UpperLimitOfZeroMonths", 0.004, "0  Years\r\n0  Months"},
+        AnswerCase{"AboveThatLimitKeepsThePoint", 0.0045, "0  Years\r\n0.  Months"},
+        AnswerCase{"BelowZero", -5.5, "-1  Years\r\n6.5  Months"}),
     nameOf);
 
 constexpr std::string_view kNotObtainable =

@@ -17,13 +17,13 @@ namespace {
 constexpr const char* kWhole = "###,###,###,###,##0";
 constexpr const char* kTwoPlaces = "###,###,###,###,##0.00";
 
-struct Case {
+struct PatternCase {
   double value;
   std::string shown;
 };
 
-void expectShown(std::string_view pattern, const std::vector<Case>& cases) {
-  for (const Case& each : cases) {
+void expectShown(std::string_view pattern, const std::vector<PatternCase>& cases) {
+  for (const PatternCase& each : cases) {
     EXPECT_EQ(formatNumber(each.value, pattern), each.shown) << "with " << pattern;
   }
 }

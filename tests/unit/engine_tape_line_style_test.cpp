@@ -12,14 +12,14 @@ namespace {
 
 using controls::LineStyle;
 
-struct Case {
+struct StyleCase {
   const char* whatAUserSees;
   std::string line;
   LineStyle look;
 };
 
 TEST(TapeLineStyle, TellsAmountsTotalsAndNotesApart) {
-  const std::vector<Case> cases = {
+  const std::vector<StyleCase> cases = {
       {"an amount added", "1,234.50 + ", LineStyle::Amount},
       {"an amount added, padded", "               1,234.50 + ", LineStyle::Amount},
       {"an amount taken off", "3.00 - ", LineStyle::TakenOff},
@@ -49,7 +49,7 @@ TEST(TapeLineStyle, TellsAmountsTotalsAndNotesApart) {
       {"a number alone", "12.00", LineStyle::Note},
       {"a number of things", "12 apples", LineStyle::Note},
   };
-  for (const Case& each : cases)
+  for (const StyleCase& each : cases)
     EXPECT_EQ(tapeLineStyle(each.line), each.look) << each.whatAUserSees;
 }
 

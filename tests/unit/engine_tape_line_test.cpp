@@ -13,7 +13,7 @@ constexpr bool kPlain = false;
 constexpr bool kFloating = true;
 constexpr bool kFixed = false;
 
-struct Case {
+struct LineCase {
   const char* whatAUserSees;
   const char* amount;
   Mark mark;
@@ -24,7 +24,7 @@ struct Case {
 };
 
 TEST(TapeLine, ShowsTheAmountAndItsMark) {
-  const std::vector<Case> cases = {
+  const std::vector<LineCase> cases = {
       {"an amount added", "1,234.50", Mark::Plus, kPlain, kFixed, "1,234.50 + "},
       {"an amount taken off", "3.00", Mark::Minus, kPlain, kFixed, "3.00 - "},
       {"a total", "1,231.50", Mark::Total, kPlain, kFixed, "1,231.50 * "},
@@ -49,7 +49,7 @@ TEST(TapeLine, ShowsTheAmountAndItsMark) {
       {"one as typed begins with its blank", "12,345,678,901,234.56789", Mark::Plus, kPadded,
        kFloating, " 12,345,678,901,234.56789 + "},
   };
-  for (const Case& each : cases)
+  for (const LineCase& each : cases)
     EXPECT_EQ(tapeText({{each.amount, 0}, each.mark}, {each.padded, each.floating, each.places}),
               each.line)
         << each.whatAUserSees;

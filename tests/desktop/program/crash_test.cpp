@@ -6,7 +6,7 @@
 namespace program {
 namespace {
 
-constexpr wchar_t kQuestion[] =
+constexpr wchar_t kKeptTapeQuestion[] =
     L"Tallyrex did not end normally the last time.  Its tape was kept.  Open it in Notepad?";
 constexpr int kPostings = 1000;
 
@@ -44,7 +44,7 @@ class CrashTest : public ProgramTest {
     program().launch();
     awaitDialog();
     EXPECT_NE(program().mainWindow(), nullptr);
-    expectMessage(kQuestion);
+    expectMessage(kKeptTapeQuestion);
   }
 
   static std::wstring textInNotepad() {

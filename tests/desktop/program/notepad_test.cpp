@@ -12,7 +12,7 @@ namespace {
 constexpr wchar_t kNote[] =
     L"Note: This option will work better if the Win | Pad Tape choice is selected from the main "
     L"menu.  This choice must be selected before keying in the numbers.";
-constexpr wchar_t kQuestion[] =
+constexpr wchar_t kNotepadQuestion[] =
     L"This option copies the Tape Display to the clipboard and executes Notepad.  If you would "
     L"like to use another program other than Notepad choose Edit from the main menu and then Copy "
     L"Entire Tape.  Do you wish to continue?";
@@ -91,7 +91,7 @@ class NotepadTest : public ProgramTest {
     start();
     const std::wstring tape = makeTape(10);
     chooseFromMenu('F', letter);
-    EXPECT_EQ(textOf(expectMessage(kQuestion)), title);
+    EXPECT_EQ(textOf(expectMessage(kNotepadQuestion)), title);
     answer('Y');
     expectMessage(kNote);
     answer(VK_RETURN);

@@ -6,8 +6,6 @@
 namespace program {
 namespace {
 
-constexpr wchar_t kWindowClass[] = L"TallyrexWindow";
-
 BOOL CALLBACK addWindow(HWND window, LPARAM list) {
   reinterpret_cast<std::vector<HWND>*>(list)->push_back(window);
   return TRUE;

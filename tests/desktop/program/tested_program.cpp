@@ -12,7 +12,6 @@ using namespace support;
 
 namespace {
 
-constexpr wchar_t kWindowClass[] = L"TallyrexWindow";
 constexpr wchar_t kDialogClass[] = L"#32770";
 constexpr wchar_t kTapeClass[] = L"TallyrexTape";
 

@@ -6,6 +6,9 @@
 
 namespace program {
 
+/// The window class of its windows.
+inline constexpr wchar_t kWindowClass[] = L"TallyrexWindow";
+
 /// The finished program, started as by a user and seen from outside.
 class TestedProgram {
  public:
