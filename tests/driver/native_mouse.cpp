@@ -74,6 +74,10 @@ bool isShown(HWND control) {
          PtInRect(&client, inWindow) && MonitorFromPoint(middle, MONITOR_DEFAULTTONULL);
 }
 
+bool takesInput(HWND control) {
+  return IsWindowEnabled(control) && IsWindowEnabled(GetAncestor(control, GA_ROOT));
+}
+
 bool placeToClick(HWND control, POINT& place) {
   static int side = 1;
   RECT rect = {};

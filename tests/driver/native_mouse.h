@@ -20,6 +20,8 @@ bool isButton(HWND control);
 
 /// Whether the window and the screen show its center, unless another window covers it.
 bool isShown(HWND control);
+/// False also while a message is shown over its window.
+bool takesInput(HWND control);
 /// A place near the center of a control where a click reaches it, and never the same twice in a
 /// row, which would make a double click. False if the control is off the screen or covered. On the
 /// thread of the control, where what lets clicks through covers nothing.

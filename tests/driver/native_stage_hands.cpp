@@ -146,12 +146,15 @@ bool NativeStage::reach(controls::Control& control, POINT& place) {
   return reached;
 }
 
-// A control that disappears with the first click gets no second one.
+// A control that the first click hides or puts behind a message gets no second one.
 void NativeStage::clickWithMouse(controls::Control& control, int times) {
   HWND handle = handleOf(control);
   POINT place = {};
   if (!reach(control, place)) return clickByMessages(handle, times);
-  for (int i = 0; i < times && windowAt(place) == handle; ++i) clickSurely(place);
+  for (int i = 0; i < times && isShown(handle) && takesInput(handle); ++i) {
+    if (windowAt(place) != handle) raise(control.window());
+    clickSurely(place);
+  }
 }
 
 // A button gets its click in one message: between two it could lose the focus, and with it the
