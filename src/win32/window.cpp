@@ -109,6 +109,8 @@ void Window::showCaption() {
 
 void Window::showEnabled() {
   EnableWindow(handle_, enabled());
+  // A window that was activated while disabled has not given the focus to its control.
+  if (enabled() && GetActiveWindow() == handle_) focusNative();
 }
 
 void Window::showVisible() {
@@ -126,8 +128,6 @@ void Window::bringToFront() {
   SetForegroundWindow(handle_);
   SetActiveWindow(handle_);
   noteActivated();
-  // A window that was activated while disabled has not given the focus to its control.
-  if (GetActiveWindow() == handle_) focusNative();
 }
 
 void Window::handOver(controls::Window& next) {

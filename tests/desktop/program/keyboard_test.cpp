@@ -215,5 +215,17 @@ TEST_F(KeyboardTest, AboutBoxOpensByLettersAndClosesWithEscape) {
   expectFocus(L"entry box");
 }
 
+TEST_F(KeyboardTest, AboutBoxClosedBehindTheWindowLeavesTheKeysToTheEntry) {
+  chooseFromMenu('H', "A");
+  const HWND about =
+      awaitWindow("the About box", [] { return program().windowTitled(L"About Tallyrex"); });
+  awaitInFront(about);
+  // The desktop may activate a window that takes no input.
+  SetForegroundWindow(window());
+  awaitInFront(window());
+  PostMessageW(about, WM_CLOSE, 0, 0);
+  expectFocus(L"entry box");
+}
+
 }  // namespace
 }  // namespace program
