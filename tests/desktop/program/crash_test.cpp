@@ -1,3 +1,5 @@
+#include <filesystem>
+
 #include "desktop/program/kept_tapes.h"
 #include "desktop/program/machine_registry.h"
 #include "desktop/program/program_test.h"
@@ -56,6 +58,12 @@ class CrashTest : public ProgramTest {
     return textOf(text);
   }
 
+  // A file that has just been made has nothing in it yet.
+  static bool isTapeKept() {
+    const auto files = keptTapes(program().name());
+    return files.size() == 1 && std::filesystem::file_size(files.front()) > 0;
+  }
+
   void expectInNotepad(const std::wstring& tape) {
     startAgain();
     answer('Y');
@@ -103,7 +111,7 @@ TEST_F(CrashTest, TapeOfAProcessOutOfMemoryOpensInNotepad) {
 TEST_F(CrashTest, AfterNoTheQuestionIsNotRepeated) {
   start();
   type("12+");
-  await("a kept tape", [] { return keptTapes(program().name()).size() == 1; });
+  await("a kept tape", isTapeKept);
   program().kill();
   startAgain();
   answer('N');
@@ -116,7 +124,7 @@ TEST_F(CrashTest, AfterNoTheQuestionIsNotRepeated) {
 TEST_F(CrashTest, NormalEndLeavesNothingBehind) {
   start();
   type("12+");
-  await("a kept tape", [] { return keptTapes(program().name()).size() == 1; });
+  await("a kept tape", isTapeKept);
   close();
   EXPECT_TRUE(keptTapes(program().name()).empty());
 }
