@@ -46,6 +46,13 @@ Decimal decimalOf(const std::string& printed) {
           std::stoll(printed.substr(exponentAt + 1)) + 1};
 }
 
+// The first is not 0.
+std::string randomDigits(std::mt19937_64& random, std::size_t length) {
+  std::string digits(1, static_cast<char>('1' + random() % 9));
+  while (digits.size() < length) digits += static_cast<char>('0' + random() % 10);
+  return digits;
+}
+
 double randomDouble(std::mt19937_64& random) {
   const auto infinity = std::bit_cast<std::uint64_t>(Double::infinity());
   return std::bit_cast<double>(random() % infinity);
@@ -137,9 +144,7 @@ TEST(NearestDouble, IsThatOfTheStandardLibraryForHardNumbers) {
 TEST(NearestDouble, IsThatOfTheStandardLibraryForShortNumbers) {
   std::mt19937_64 random(20);
   for (int i = 0; i < 20000; ++i) {
-    Decimal number = {std::string(1, static_cast<char>('1' + random() % 9))};
-    const auto length = 1 + random() % 18;
-    while (number.digits.size() < length) number.digits += static_cast<char>('0' + random() % 10);
+    Decimal number = {randomDigits(random, 1 + random() % 18)};
     number.point = static_cast<long long>(random() % 50) - 30;
     expectAsTheLibrary(number);
   }
@@ -148,9 +153,7 @@ TEST(NearestDouble, IsThatOfTheStandardLibraryForShortNumbers) {
 TEST(NearestDouble, IsThatOfTheStandardLibraryForLongNumbers) {
   std::mt19937_64 random(21);
   for (int i = 0; i < 2000; ++i) {
-    Decimal number = {std::string(1, static_cast<char>('1' + random() % 9))};
-    const auto length = 16 + random() % 900;
-    while (number.digits.size() < length) number.digits += static_cast<char>('0' + random() % 10);
+    Decimal number = {randomDigits(random, 16 + random() % 900)};
     number.point = static_cast<long long>(random() % 660) - 340;
     expectAsTheLibrary(number);
   }
