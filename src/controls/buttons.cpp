@@ -32,12 +32,18 @@ void OptionButton::setValue(bool value) {
   value_ = value;
   showValue();
   if (!value) return;
-  for (const auto& control : window().controls()) {
-    auto* other = dynamic_cast<OptionButton*>(control.get());
-    if (other && other != this && other->layout().optionGroup == layout().optionGroup)
-      other->setValue(false);
-  }
+  for (OptionButton* other : group())
+    if (other != this) other->setValue(false);
   raise(onClick);
+}
+
+std::vector<OptionButton*> OptionButton::group() const {
+  std::vector<OptionButton*> group;
+  for (const auto& control : window().controls()) {
+    auto* option = dynamic_cast<OptionButton*>(control.get());
+    if (option && option->layout().optionGroup == layout().optionGroup) group.push_back(option);
+  }
+  return group;
 }
 
 void OptionButton::click() {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <vector>
+
 #include "controls/control.h"
 
 namespace controls {
@@ -57,6 +59,8 @@ class OptionButton : public ClickControl {
   /// Choosing a button releases the others of its group, and raises Click if it was not chosen
   /// before.
   void setValue(bool value);
+  /// The buttons of its group, itself among them, in tab order.
+  std::vector<OptionButton*> group() const;
   void click() override;
 
  protected:

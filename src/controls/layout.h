@@ -29,8 +29,6 @@ struct ControlLayout {
   std::string_view caption = "";
   std::string_view toolTip = "";
   Rect place;
-  /// Position in the tab order; controls of equal index keep the order of the list.
-  int tabIndex = 0;
   FontLayout font = {};
   /// What a key without a caption shows: a symbol or a short word.
   std::string_view face = "";
@@ -72,6 +70,7 @@ struct WindowLayout {
   std::string_view name;
   std::string_view caption;
   Rect place;
+  /// In tab order.
   std::span<const ControlLayout> controls;
   std::span<const MenuItemLayout> menu = {};
   bool resizable = false;

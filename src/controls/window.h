@@ -131,7 +131,6 @@ class Window {
  private:
   friend class Desktop;
 
-  std::vector<Control*> tabOrder() const;
   bool isTabStop(const Control& control) const;
   bool takeShortcut(const KeyStroke& stroke);
   bool takePaste(const KeyStroke& stroke);

@@ -22,26 +22,12 @@ bool Window::isTabStop(const Control& control) const {
   const auto* option = dynamic_cast<const OptionButton*>(&control);
   if (!option || option->value()) return true;
   // In a group without a chosen button, each is a tab stop.
-  for (const auto& other : controls_) {
-    const auto* sibling = dynamic_cast<const OptionButton*>(other.get());
-    if (!sibling || sibling->layout().optionGroup != control.layout().optionGroup) continue;
-    if (sibling->value()) return false;
-  }
-  return true;
-}
-
-std::vector<Control*> Window::tabOrder() const {
-  std::vector<Control*> order;
-  order.reserve(controls_.size());
-  for (const auto& control : controls_) order.push_back(control.get());
-  std::stable_sort(order.begin(), order.end(), [](const Control* a, const Control* b) {
-    return a->layout().tabIndex < b->layout().tabIndex;
-  });
-  return order;
+  return std::ranges::none_of(option->group(), &OptionButton::value);
 }
 
 void Window::moveFocus(bool forward) {
-  std::vector<Control*> order = tabOrder();
+  std::vector<Control*> order;
+  for (const auto& control : controls_) order.push_back(control.get());
   if (!forward) std::reverse(order.begin(), order.end());
   const auto here = std::find(order.begin(), order.end(), focusedControl_);
   if (here != order.end()) std::rotate(order.begin(), here + 1, order.end());
@@ -94,8 +80,7 @@ bool Window::takeAccessKey(KeyCode character) {
   constexpr KeyCode kAscii = 0x7F;
   if (character == 0 || (character & ~kAscii) != 0) return false;
   const char wanted = static_cast<char>(std::toupper(character));
-  const std::vector<Control*> order = tabOrder();
-  for (auto here = order.begin(); here != order.end(); ++here) {
+  for (auto here = controls_.begin(); here != controls_.end(); ++here) {
     Control& control = **here;
     if (control.accessKey() != wanted || !control.visible() || !control.enabled()) continue;
     if (control.takesFocus()) {
@@ -104,8 +89,8 @@ bool Window::takeAccessKey(KeyCode character) {
       return true;
     }
     const auto next =
-        std::find_if(here, order.end(), [](const Control* c) { return c->takesFocus(); });
-    if (next != order.end()) (*next)->setFocus();
+        std::find_if(here, controls_.end(), [](const auto& other) { return other->takesFocus(); });
+    if (next != controls_.end()) (*next)->setFocus();
     return true;
   }
   return false;
@@ -115,13 +100,8 @@ bool Window::takeAccessKey(KeyCode character) {
 bool Window::takeArrow(const KeyStroke& stroke) {
   auto* from = dynamic_cast<OptionButton*>(focusedControl_);
   if (!from || stroke.key < kKeyLeft || stroke.key > kKeyDown) return false;
-  std::vector<OptionButton*> group;
-  for (Control* control : tabOrder()) {
-    auto* option = dynamic_cast<OptionButton*>(control);
-    if (option && option->takesFocus() &&
-        option->layout().optionGroup == from->layout().optionGroup)
-      group.push_back(option);
-  }
+  std::vector<OptionButton*> group = from->group();
+  std::erase_if(group, [](const OptionButton* option) { return !option->takesFocus(); });
   if (stroke.key == kKeyLeft || stroke.key == kKeyUp) std::reverse(group.begin(), group.end());
   std::rotate(group.begin(), std::find(group.begin(), group.end(), from) + 1, group.end());
   group.front()->setFocus();

@@ -88,56 +88,46 @@ TEST(FrmAnnuityLayout, AnswerAndPrintButtonAreSpoken) {
       (std::vector<std::string_view>{"lblAnswer", "cmdPrintToTape"}));
 }
 
-constexpr Placed kPlaces[] = {
-    {"Label1", {180, 150, 4080, 240}},          {"Label2", {180, 555, 2040, 240}},
-    {"txtNper", {2310, 495, 1950, 330}},        {"Label3", {180, 975, 2040, 240}},
-    {"txtRate", {2310, 915, 1950, 330}},        {"Label4", {180, 1395, 2040, 240}},
-    {"txtPmt", {2310, 1335, 1950, 330}},        {"Label5", {180, 1815, 2040, 240}},
-    {"txtPV", {2310, 1755, 1950, 330}},         {"Label6", {180, 2235, 2040, 240}},
-    {"txtFV", {2310, 2175, 1950, 330}},         {"Label8", {180, 2565, 4080, 240}},
-    {"cmdCalculate", {2310, 2910, 1950, 435}},  {"lblResultType", {180, 3480, 4080, 285}},
-    {"lblAnswer", {180, 3780, 4080, 930}},      {"optNper(0)", {4500, 495, 1170, 330}},
-    {"optNper(1)", {5760, 495, 1170, 330}},     {"fraDueBy", {4500, 915, 2430, 1590}},
-    {"optDue(0)", {4680, 1230, 2070, 330}},     {"optDue(1)", {4680, 1620, 2070, 330}},
-    {"Label7", {4680, 2055, 2070, 240}},        {"cmdRotateLabels", {4500, 3930, 570, 570}},
-    {"cmdPrintToTape", {6360, 3930, 570, 570}}, {"cmdClearAll", {5120, 3930, 570, 570}},
-    {"cmdHelp", {5740, 3930, 570, 570}},
+// In tab order.
+constexpr Seen kListed[] = {
+    {"Label1", kLabel, 180, 150, 4080, 240, "Leave one blank to calculate its result.", "", "", "",
+     kSans, 83, false, Alignment::Right},
+    {"Label2", kLabel, 180, 555, 2040, 240, "", "", "", "", kSans, 83, false, Alignment::Right},
+    {"txtNper", kBox, 2310, 495, 1950, 330, "", "", "", "", kSans, 98, false, Alignment::Right},
+    {"Label3", kLabel, 180, 975, 2040, 240, "Annual Interest &Rate:", "", "", "", kSans, 83, false,
+     Alignment::Right},
+    {"txtRate", kBox, 2310, 915, 1950, 330, "", "", "", "", kSans, 98, false, Alignment::Right},
+    {"Label4", kLabel, 180, 1395, 2040, 240, "", "", "", "", kSans, 83, false, Alignment::Right},
+    {"txtPmt", kBox, 2310, 1335, 1950, 330, "", "", "", "", kSans, 98, false, Alignment::Right},
+    {"Label5", kLabel, 180, 1815, 2040, 240, "", "", "", "", kSans, 83, false, Alignment::Right},
+    {"txtPV", kBox, 2310, 1755, 1950, 330, "", "", "", "", kSans, 98, false, Alignment::Right},
+    {"Label6", kLabel, 180, 2235, 2040, 240, "", "", "", "", kSans, 83, false, Alignment::Right},
+    {"txtFV", kBox, 2310, 2175, 1950, 330, "", "", "", "", kSans, 98, false, Alignment::Right},
+    {"Label8", kLabel, 180, 2565, 4080, 240, "For normal loans balloon pmt = zero.", "", "", "",
+     kSans, 83, false, Alignment::Right},
+    {"cmdCalculate", kButton, 2310, 2910, 1950, 435, "", "", "", "", kSans, 98},
+    {"lblResultType", kLabel, 180, 3480, 4080, 285, "", "", "", "", kSans, 98, true,
+     Alignment::Right},
+    {"lblAnswer", kLabel, 180, 3780, 4080, 930, "", "", "", "", kSans, 150, false,
+     Alignment::Right},
+    {"optNper(0)", kOption, 4500, 495, 1170, 330, "", "", "", "", kSans, 83},
+    {"optNper(1)", kOption, 5760, 495, 1170, 330, "", "", "", "", kSans, 83},
+    {"fraDueBy", kFrame, 4500, 915, 2430, 1590, "Payments are due by:", "", "", "", kSans, 83},
+    {"optDue(0)", kOption, 4680, 1230, 2070, 330, "", "", "", "", kSans, 83},
+    {"optDue(1)", kOption, 4680, 1620, 2070, 330, "", "", "", "", kSans, 83},
+    {"Label7", kLabel, 4680, 2055, 2070, 240, "of the period.", "", "", "", kSans, 83},
+    {"cmdRotateLabels", kButton, 4500, 3930, 570, 570, "", "", "Rotate configuration",
+     "Rotate the financial annuity configuration.", kSans, 83},
+    {"cmdPrintToTape", kButton, 6360, 3930, 570, 570, "", "", "Print to tape", "Send Info to Tape.",
+     kSans, 83},
+    {"cmdClearAll", kButton, 5120, 3930, 570, 570, "", "", "Clear all boxes", "Clear all boxes.",
+     kSans, 83},
+    {"cmdHelp", kButton, 5740, 3930, 570, 570, "", "", "Help", "Pulls up help.", kSans, 83},
 };
 
 TEST(FrmAnnuityLayout, PlacesMatchTheList) {
-  expectPlaces(frmAnnuityLayout(), kPlaces);
+  expectPlaces(frmAnnuityLayout(), kListed);
 }
-
-constexpr Seen kListed[] = {
-    {0, "Label1", kLabel, "Leave one blank to calculate its result.", "", "", "", kSans, 83, false,
-     Alignment::Right},
-    {1, "Label2", kLabel, "", "", "", "", kSans, 83, false, Alignment::Right},
-    {2, "txtNper", kBox, "", "", "", "", kSans, 98, false, Alignment::Right},
-    {3, "Label3", kLabel, "Annual Interest &Rate:", "", "", "", kSans, 83, false, Alignment::Right},
-    {4, "txtRate", kBox, "", "", "", "", kSans, 98, false, Alignment::Right},
-    {5, "Label4", kLabel, "", "", "", "", kSans, 83, false, Alignment::Right},
-    {6, "txtPmt", kBox, "", "", "", "", kSans, 98, false, Alignment::Right},
-    {7, "Label5", kLabel, "", "", "", "", kSans, 83, false, Alignment::Right},
-    {8, "txtPV", kBox, "", "", "", "", kSans, 98, false, Alignment::Right},
-    {9, "Label6", kLabel, "", "", "", "", kSans, 83, false, Alignment::Right},
-    {10, "txtFV", kBox, "", "", "", "", kSans, 98, false, Alignment::Right},
-    {11, "cmdCalculate", kButton, "", "", "", "", kSans, 98},
-    {12, "optNper(0)", kOption, "", "", "", "", kSans, 83},
-    {13, "optNper(1)", kOption, "", "", "", "", kSans, 83},
-    {14, "optDue(0)", kOption, "", "", "", "", kSans, 83},
-    {15, "optDue(1)", kOption, "", "", "", "", kSans, 83},
-    {16, "lblAnswer", kLabel, "", "", "", "", kSans, 150, false, Alignment::Right},
-    {17, "lblResultType", kLabel, "", "", "", "", kSans, 98, true, Alignment::Right},
-    {18, "fraDueBy", kFrame, "Payments are due by:", "", "", "", kSans, 83},
-    {19, "Label7", kLabel, "of the period.", "", "", "", kSans, 83},
-    {20, "cmdRotateLabels", kButton, "", "", "Rotate configuration",
-     "Rotate the financial annuity configuration.", kSans, 83},
-    {21, "Label8", kLabel, "For normal loans balloon pmt = zero.", "", "", "", kSans, 83, false,
-     Alignment::Right},
-    {22, "cmdPrintToTape", kButton, "", "", "Print to tape", "Send Info to Tape.", kSans, 83},
-    {23, "cmdClearAll", kButton, "", "", "Clear all boxes", "Clear all boxes.", kSans, 83},
-    {24, "cmdHelp", kButton, "", "", "Help", "Pulls up help.", kSans, 83},
-};
 
 TEST(FrmAnnuityLayout, ControlsMatchTheList) {
   expectSeen(frmAnnuityLayout(), kListed);

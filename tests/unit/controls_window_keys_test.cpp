@@ -8,7 +8,7 @@ namespace {
 
 class WindowKeysTest : public ControlsTest {};
 
-TEST_F(WindowKeysTest, TabOrderFollowsTheIndexAndThenTheList) {
+TEST_F(WindowKeysTest, TabOrderIsThatOfTheLayout) {
   Log order;
   for (int i = 0; i < 8; ++i) {
     order.push_back(focused());

@@ -96,22 +96,14 @@ inline void expectColumn(const WindowLayout& layout, const std::vector<std::stri
   }
 }
 
-struct Placed {
-  std::string_view name;
-  Rect place;
-};
-
-/// The controls stand where the list says, which is complete.
-inline void expectPlaces(const WindowLayout& layout, std::span<const Placed> list) {
-  EXPECT_EQ(layout.controls.size(), list.size());
-  for (const auto& [name, place] : list) EXPECT_EQ(placeOf(layout, name), place) << name;
-}
-
 /// What users and screen readers see of a control.
 struct Seen {
-  int tabIndex;
   std::string_view name;
   ControlKind kind;
+  Twips left;
+  Twips top;
+  Twips width;
+  Twips height;
   std::string_view caption;
   std::string_view face;
   std::string_view accessibleName;
@@ -131,14 +123,22 @@ std::vector<std::string_view> namesOf(const WindowLayout& layout, Condition hold
   return names;
 }
 
-/// The controls match the list, which is complete.
-inline void expectSeen(const WindowLayout& layout, std::span<const Seen> list) {
+/// The controls stand where the list says, which is complete.
+inline void expectPlaces(const WindowLayout& layout, std::span<const Seen> list) {
   EXPECT_EQ(layout.controls.size(), list.size());
   for (const Seen& seen : list) {
+    const Rect place = {seen.left, seen.top, seen.width, seen.height};
+    EXPECT_EQ(placeOf(layout, seen.name), place) << seen.name;
+  }
+}
+
+/// The controls match the list, which is complete and in the same order.
+inline void expectSeen(const WindowLayout& layout, std::span<const Seen> list) {
+  ASSERT_EQ(layout.controls.size(), list.size());
+  auto control = layout.controls.begin();
+  for (const Seen& seen : list) {
     SCOPED_TRACE(seen.name);
-    const auto control = std::ranges::find(layout.controls, seen.name, &ControlLayout::name);
-    ASSERT_NE(control, layout.controls.end());
-    EXPECT_EQ(control->tabIndex, seen.tabIndex);
+    EXPECT_EQ(control->name, seen.name);
     EXPECT_EQ(control->kind, seen.kind);
     EXPECT_EQ(control->caption, seen.caption);
     EXPECT_EQ(control->face, seen.face);
@@ -148,6 +148,7 @@ inline void expectSeen(const WindowLayout& layout, std::span<const Seen> list) {
     EXPECT_EQ(control->font.tenthsOfPoint, seen.tenthsOfPoint);
     EXPECT_EQ(control->font.bold, seen.bold);
     EXPECT_EQ(control->alignment, seen.alignment);
+    ++control;
   }
 }
 
