@@ -12,23 +12,20 @@ namespace {
 constexpr std::string_view kTitle = "Tallyrex";
 
 constexpr controls::FontLayout kTitleFont = {"MS Sans Serif", 180, true};
-constexpr controls::FontLayout kFont = {"MS Sans Serif", 83, false};
 
 constexpr auto kControls = std::to_array<ControlLayout>({
     {.name = "lblTitle", .place = {360, 300, 4680, 480}, .font = kTitleFont},
-    {.name = "lblVersion", .place = {360, 840, 4680, 270}, .font = kFont},
-    {.name = "lblDescription", .place = {360, 1200, 4680, 540}, .font = kFont},
+    {.name = "lblVersion", .place = {360, 840, 4680, 270}},
+    {.name = "lblDescription", .place = {360, 1200, 4680, 540}},
     {.kind = ControlKind::Button,
      .name = "cmdOK",
      .caption = "OK",
      .place = {3600, 1980, 1440, 405},
-     .font = kFont,
      .cancel = true},
     {.kind = ControlKind::Button,
      .name = "cmdSysInfo",
      .caption = "&System Info...",
-     .place = {1980, 1980, 1500, 405},
-     .font = kFont},
+     .place = {1980, 1980, 1500, 405}},
 });
 
 constexpr controls::WindowLayout kLayout = {

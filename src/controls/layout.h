@@ -13,7 +13,8 @@ enum class Alignment { Left, Right };
 /// What a key does; shown by its color.
 enum class KeyKind { Plain, Operator, Strong, Clear, Memory, Toggle };
 
-/// A font by its name in the design; the size is in tenths of a point.
+/// A font by its name in the design, which of most texts is the default; the size is in tenths of a
+/// point.
 struct FontLayout {
   std::string_view name = "MS Sans Serif";
   int tenthsOfPoint = 83;
