@@ -18,11 +18,11 @@ struct Shape {
   std::string_view fraction;
   bool hasPoint;
   bool grouped;
-  int integerPlaces;
-  int requiredIntegers;
-  int decimals;
-  int requiredDecimals;
-  int percentSigns;
+  long long integerPlaces;
+  long long requiredIntegers;
+  long long decimals;
+  long long requiredDecimals;
+  long long percentSigns;
 };
 
 Shape shapeOf(std::string_view pattern) {
@@ -32,7 +32,7 @@ Shape shapeOf(std::string_view pattern) {
   shape.integer = pattern.substr(0, point);
   shape.fraction = pattern.substr(shape.hasPoint ? point + 1 : point);
   shape.grouped = shape.integer.find(',') != std::string_view::npos;
-  shape.percentSigns = static_cast<int>(std::count(pattern.begin(), pattern.end(), '%'));
+  shape.percentSigns = std::ranges::count(pattern, '%');
   for (const char character : shape.integer) {
     if (!isPlaceholder(character)) continue;
     ++shape.integerPlaces;
@@ -46,20 +46,19 @@ Shape shapeOf(std::string_view pattern) {
   return shape;
 }
 
-void roundHalfAwayFromZero(DecimalDigits& number, int decimals) {
-  const int keep = number.point + decimals;
-  if (keep >= static_cast<int>(number.digits.size())) return;
+void roundHalfAwayFromZero(Decimal& number, long long decimals) {
+  const long long keep = number.point + decimals;
+  if (std::cmp_greater_equal(keep, number.digits.size())) return;
   const bool up = keep >= 0 && number.digits[static_cast<std::size_t>(keep)] >= '5';
-  cutDigits(number, static_cast<std::size_t>(std::max(keep, 0)), up);
+  cutDigits(number, static_cast<std::size_t>(std::max(keep, 0LL)), up);
 }
 
 // Writes one number in one shape.
 class PatternWriter {
  public:
-  PatternWriter(const DecimalDigits& number, const Shape& shape) : number_(number), shape_(shape) {}
+  PatternWriter(const Decimal& number, const Shape& shape) : number_(number), shape_(shape) {}
 
   std::string write() {
-    if (number_.negative && !number_.digits.empty()) text_ += '-';
     writeInteger();
     if (shape_.hasPoint) text_ += '.';
     writeFraction();
@@ -68,7 +67,7 @@ class PatternWriter {
 
  private:
   void writeInteger() {
-    int place = shape_.integerPlaces;
+    long long place = shape_.integerPlaces;
     for (const char character : shape_.integer) {
       if (isPlaceholder(character)) {
         if (place == shape_.integerPlaces) writeDigitsInFrontOf(place);
@@ -82,18 +81,18 @@ class PatternWriter {
   }
 
   // A number may have more integer digits than the pattern has places; all of them are printed.
-  void writeDigitsInFrontOf(int places) {
-    for (int place = number_.point; place > places;) writeIntegerDigit(--place);
+  void writeDigitsInFrontOf(long long places) {
+    for (long long place = number_.point; place > places;) writeIntegerDigit(--place);
   }
 
-  void writeIntegerDigit(int place) {
+  void writeIntegerDigit(long long place) {
     text_ += digitAt(number_.point - 1 - place);
     if (shape_.grouped && place > 0 && place % 3 == 0) text_ += ',';
   }
 
   void writeFraction() {
-    const int present = static_cast<int>(number_.digits.size()) - number_.point;
-    int place = 0;
+    const long long present = static_cast<long long>(number_.digits.size()) - number_.point;
+    long long place = 0;
     for (const char character : shape_.fraction) {
       if (!isPlaceholder(character)) {
         text_ += character;
@@ -103,12 +102,12 @@ class PatternWriter {
     }
   }
 
-  char digitAt(int index) const {
-    const bool inside = index >= 0 && index < static_cast<int>(number_.digits.size());
+  char digitAt(long long index) const {
+    const bool inside = index >= 0 && std::cmp_less(index, number_.digits.size());
     return inside ? number_.digits[static_cast<std::size_t>(index)] : '0';
   }
 
-  const DecimalDigits& number_;
+  const Decimal& number_;
   const Shape& shape_;
   std::string text_;
 };
@@ -117,11 +116,12 @@ class PatternWriter {
 
 std::string formatNumber(double value, std::string_view pattern) {
   const Shape shape = shapeOf(pattern);
-  DecimalDigits number = toDigits(value);
+  Decimal number = toDigits(value);
   number.point += 2 * shape.percentSigns;
   roundHalfAwayFromZero(number, shape.decimals);
   if (number.digits.empty()) number = {};
-  return PatternWriter(number, shape).write();
+  const std::string sign(value < 0 && !number.digits.empty() ? 1 : 0, '-');
+  return sign + PatternWriter(number, shape).write();
 }
 
 std::string formatText(std::string_view text, std::string_view pattern) {

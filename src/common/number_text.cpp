@@ -5,7 +5,6 @@
 #include <cmath>
 #include <cstdlib>
 
-#include "common/exact_decimal.h"
 #include "common/run_time_error.h"
 
 namespace common {
@@ -150,8 +149,9 @@ std::optional<double> valueOf(const Written& written) {
   return written.sign == '-' && *magnitude != 0 ? -*magnitude : *magnitude;
 }
 
-// Appends 0.DIGITS times ten to the power of `point` in fixed notation.
-void appendFixed(std::string& text, std::string_view digits, long long point) {
+// Appends a number in fixed notation.
+void appendFixed(std::string& text, const Decimal& number) {
+  const auto& [digits, point] = number;
   if (point <= 0) {
     text += "0.";
     text.append(static_cast<std::size_t>(-point), '0');
@@ -159,23 +159,24 @@ void appendFixed(std::string& text, std::string_view digits, long long point) {
     return;
   }
   const auto inFront = static_cast<std::size_t>(point);
-  text += digits.substr(0, inFront);
+  text.append(digits, 0, inFront);
   if (inFront < digits.size()) {
     text += '.';
-    text += digits.substr(inFront);
+    text.append(digits, inFront);
   } else {
     text.append(inFront - digits.size(), '0');
   }
 }
 
 // Appends the same in scientific notation.
-void appendScientific(std::string& text, std::string_view digits, int point) {
+void appendScientific(std::string& text, const Decimal& number) {
+  const auto& [digits, point] = number;
   text += digits.front();
   if (digits.size() > 1) {
     text += '.';
-    text += digits.substr(1);
+    text.append(digits, 1);
   }
-  const int exponent = point - 1;
+  const long long exponent = point - 1;
   text += exponent < 0 ? "E-" : "E+";
   if (std::abs(exponent) < 10) text += '0';
   text += std::to_string(std::abs(exponent));
@@ -208,10 +209,9 @@ double toNumber(std::string_view text) {
   return *value;
 }
 
-DecimalDigits toDigits(double value) {
+Decimal toDigits(double value) {
   assert(std::isfinite(value));
-  const Decimal exact = exactDecimal(value);
-  DecimalDigits number = {value < 0, exact.digits, static_cast<int>(exact.point)};
+  Decimal number = exactDecimal(value);
   if (number.digits.size() <= kSignificantDigits) return number;
   const bool isOdd = number.digits[kSignificantDigits - 1] % 2 != 0;
   const int toHalf = number.digits.compare(kSignificantDigits, std::string::npos, "5");
@@ -219,7 +219,7 @@ DecimalDigits toDigits(double value) {
   return number;
 }
 
-void cutDigits(DecimalDigits& number, std::size_t count, bool up) {
+void cutDigits(Decimal& number, std::size_t count, bool up) {
   std::string& digits = number.digits;
   digits.resize(count);
   digits.erase(digits.find_last_not_of(up ? '9' : '0') + 1);
@@ -233,14 +233,14 @@ void cutDigits(DecimalDigits& number, std::size_t count, bool up) {
 }
 
 std::string toText(double value) {
-  const DecimalDigits number = toDigits(value);
+  const Decimal number = toDigits(value);
   if (number.digits.empty()) return "0";
-  const int digitsBehind = static_cast<int>(number.digits.size()) - number.point;
-  std::string text(number.negative ? 1 : 0, '-');
+  const long long digitsBehind = static_cast<long long>(number.digits.size()) - number.point;
+  std::string text(value < 0 ? 1 : 0, '-');
   if (number.point <= kSignificantDigits && digitsBehind <= kSignificantDigits) {
-    appendFixed(text, number.digits, number.point);
+    appendFixed(text, number);
   } else {
-    appendScientific(text, number.digits, number.point);
+    appendScientific(text, number);
   }
   return text;
 }
@@ -262,7 +262,7 @@ std::optional<std::string> toPlainText(std::string_view text) {
     // A number too small for a double could have more zeros than fit into memory.
     plain += '0';
   } else {
-    appendFixed(plain, decimal.digits, decimal.point);
+    appendFixed(plain, decimal);
   }
   return plain;
 }

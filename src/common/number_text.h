@@ -5,6 +5,8 @@
 #include <string>
 #include <string_view>
 
+#include "common/exact_decimal.h"
+
 namespace common {
 
 /// Whether a character is one of the digits 0 to 9.
@@ -34,19 +36,12 @@ std::string toText(double value);
 /// already is returned unchanged. Null as for tryNumber.
 std::optional<std::string> toPlainText(std::string_view text);
 
-/// A number in decimal: 0.DIGITS times ten to the power of `point`, so that `point` is the number
-/// of digits before the decimal point. Zero has no digits and no sign.
-struct DecimalDigits {
-  bool negative = false;
-  std::string digits;
-  int point = 0;
-};
-
-/// A finite number correctly rounded to 15 significant digits, without leading or trailing zeros.
-DecimalDigits toDigits(double value);
+/// The absolute value of a finite number, correctly rounded to 15 significant digits, without
+/// trailing zeros.
+Decimal toDigits(double value);
 
 /// Keeps the first `count` digits, of at least as many; `up` adds one to the last of them. Without
 /// trailing zeros.
-void cutDigits(DecimalDigits& number, std::size_t count, bool up);
+void cutDigits(Decimal& number, std::size_t count, bool up);
 
 }  // namespace common

@@ -202,7 +202,7 @@ TEST(NumberDigits, AreThoseOfTheStandardLibrary) {
         std::to_chars(text, text + sizeof text, value, std::chars_format::scientific, 14).ptr;
     Decimal expected = decimalOf(std::string(text, end));
     expected.digits.erase(expected.digits.find_last_not_of('0') + 1);
-    const DecimalDigits number = toDigits(value);
+    const Decimal number = toDigits(value);
     EXPECT_EQ(number.digits, expected.digits) << value;
     EXPECT_EQ(number.point, expected.point) << value;
   }
