@@ -8,22 +8,19 @@
 namespace annuity {
 namespace {
 
-// Comma, and the characters of Ctrl+C, Ctrl+V, Ctrl+X and Ctrl+Z.
-constexpr std::array kAlwaysAllowed = {controls::KeyAscii{','}, 3, 22, 24, 26};
+constexpr auto kAlwaysAllowed = std::to_array<controls::KeyAscii>(
+    {',', controls::kKeyEnter, controls::kKeyBackspace, controls::kCtrlC, controls::kCtrlV,
+     controls::kCtrlX, controls::kCtrlZ});
 
-bool isAllowed(controls::KeyAscii key, std::string_view kind, std::string_view text) {
-  if (key == controls::kKeyEnter || key == controls::kKeyBackspace) return true;
-  if (key == '-') return text.find('-') == std::string_view::npos;
-  if (key == '.' && kind == "fraction") return text.find('.') == std::string_view::npos;
-  if (std::ranges::find(kAlwaysAllowed, key) != kAlwaysAllowed.end()) return true;
-  return common::isDigit(key);
+bool isAllowed(controls::KeyAscii key, std::string_view text) {
+  if (key == '-' || key == '.') return text.find(static_cast<char>(key)) == std::string_view::npos;
+  return common::isDigit(key) || std::ranges::find(kAlwaysAllowed, key) != kAlwaysAllowed.end();
 }
 
 }  // namespace
 
-bool allowKey(controls::KeyAscii key, std::string_view kind, std::string_view text,
-              controls::Desktop& desktop) {
-  const bool allowed = isAllowed(key, kind, text);
+bool allowKey(controls::KeyAscii key, std::string_view text, controls::Desktop& desktop) {
+  const bool allowed = isAllowed(key, text);
   if (!allowed) desktop.beep();
   return allowed;
 }

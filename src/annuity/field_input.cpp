@@ -44,7 +44,7 @@ void frmAnnuity::enterField(TextBox& field) {
 
 void frmAnnuity::takeKey(TextBox& field, KeyAscii& key) {
   if (takeEnterAsTab(key)) return;
-  if (!allowKey(key, "fraction", field.textWithoutSelection(), desktop_)) key = 0;
+  if (!allowKey(key, field.textWithoutSelection(), desktop_)) key = 0;
 }
 
 bool frmAnnuity::takeEnterAsTab(KeyAscii& key) {

@@ -14,6 +14,11 @@ constexpr bool isDigit(int character) {
   return character >= '0' && character <= '9';
 }
 
+/// Whether a text is a single digit.
+constexpr bool isOneDigit(std::string_view text) {
+  return text.size() == 1 && isDigit(text.front());
+}
+
 /// The number that a text represents. Accepted: surrounding blanks and tabs; a leading sign or a
 /// trailing minus; "$"; parentheses for a negative number; digits with "," anywhere in the integer
 /// part; a "."; an exponent. Null for any other text, and when out of the range of a double.

@@ -23,6 +23,12 @@ inline constexpr KeyCode kKeyInsert = 45;
 inline constexpr KeyCode kKeyDelete = 46;
 inline constexpr KeyCode kKeyF1 = 112;
 
+/// The characters of the keystrokes that every text box knows.
+inline constexpr KeyAscii kCtrlC = 3;
+inline constexpr KeyAscii kCtrlV = 22;
+inline constexpr KeyAscii kCtrlX = 24;
+inline constexpr KeyAscii kCtrlZ = 26;
+
 /// The keys that only move the caret: End, Home and the arrows.
 constexpr bool isNavigationKey(KeyCode key) {
   return key >= kKeyEnd && key <= kKeyDown;

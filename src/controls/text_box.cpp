@@ -9,12 +9,6 @@ namespace controls {
 
 namespace {
 
-// The characters of Ctrl+C, Ctrl+V, Ctrl+X and Ctrl+Z.
-constexpr KeyAscii kCopy = 3;
-constexpr KeyAscii kPaste = 22;
-constexpr KeyAscii kCut = 24;
-constexpr KeyAscii kUndo = 26;
-
 // What Ctrl+Backspace types.
 constexpr KeyAscii kRubout = 127;
 
@@ -190,15 +184,15 @@ void TextBox::actOnCharacter(KeyAscii character) {
     case kKeyEnter:
       if (layout().multiLine) replaceSelection("\r\n");
       return;
-    case kCopy:
+    case kCtrlC:
       return copy();
-    case kCut:
+    case kCtrlX:
       cut();
       return;
-    case kUndo:
+    case kCtrlZ:
       undo();
       return;
-    case kPaste:
+    case kCtrlV:
       return paste();
     default:
       if (character >= kKeySpace && character != kRubout) insert(character);

@@ -31,7 +31,7 @@ constexpr std::array kKeyCommands = {
 AddingMachine::AddingMachine(const MachineControls& c)
     : desktop_(c.desktop),
       mnuWinModes_(c.mnuWinModes),
-      decimals_(c.chkFloatingDec, c.chkShiftDec, c.txtDec),
+      decimals_(c),
       entry_(c.txtEntry, decimals_, c.desktop),
       entryPaste_(entry_, decimals_, c.desktop),
       memory_(entry_, c.cmdMemPlus, c.desktop),

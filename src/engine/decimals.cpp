@@ -6,8 +6,7 @@ namespace engine {
 
 int Decimals::places() const {
   const std::string text = places_.text();
-  const bool isOneDigit = text.size() == 1 && common::isDigit(text[0]);
-  return isOneDigit ? text[0] - '0' : 0;
+  return common::isOneDigit(text) ? text[0] - '0' : 0;
 }
 
 void Decimals::fillEmptyBox() {

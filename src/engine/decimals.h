@@ -1,7 +1,6 @@
 #pragma once
 
-#include "controls/buttons.h"
-#include "controls/text_box.h"
+#include "engine/machine_controls.h"
 
 namespace engine {
 
@@ -9,9 +8,10 @@ namespace engine {
 /// toggles.
 class Decimals {
  public:
-  Decimals(const controls::ToggleButton& floating, const controls::ToggleButton& stationary,
-           controls::TextBox& places)
-      : floating_(floating), stationary_(stationary), places_(places) {}
+  explicit Decimals(const MachineControls& controls)
+      : floating_(controls.chkFloatingDec),
+        stationary_(controls.chkShiftDec),
+        places_(controls.txtDec) {}
 
   /// As many decimals as are keyed.
   bool floating() const { return floating_.value() == 1; }

@@ -9,7 +9,6 @@ namespace engine {
 namespace {
 
 constexpr int kStationaryDigits = 15;
-constexpr controls::KeyAscii kCtrlV = 22;
 
 bool hasPoint(const std::string& text) {
   return text.find('.') != std::string::npos;
@@ -38,7 +37,7 @@ bool Entry::accepts(controls::KeyAscii key) {
       return true;
     }
   }
-  if (key == kCtrlV) return true;
+  if (key == controls::kCtrlV) return true;
   return common::isDigit(key) && acceptsDigit(text, static_cast<char>(key));
 }
 

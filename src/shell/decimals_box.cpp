@@ -14,6 +14,7 @@ constexpr controls::KeyCode kKeyShift = 16;
 
 DecimalsBox::DecimalsBox(const controls::Window& window, const engine::MachineControls& controls)
     : controls_(controls),
+      decimals_(controls),
       mnuEditFloatingDecimal_(window.menuItem("mnuEditFloatingDecimal")),
       mnuEditStationaryDecimal_(window.menuItem("mnuEditStationaryDecimal")) {}
 
@@ -31,7 +32,7 @@ void DecimalsBox::save(Settings& settings) const {
 
 void DecimalsBox::floatingChanged() {
   mnuEditFloatingDecimal_.setChecked(!mnuEditFloatingDecimal_.checked());
-  const bool floating = controls_.chkFloatingDec.value() == 1;
+  const bool floating = decimals_.floating();
   controls_.chkShiftDec.setEnabled(!floating);
   mnuEditStationaryDecimal_.setEnabled(!floating);
   controls_.txtDec.setEnabled(!floating);
@@ -63,14 +64,14 @@ void DecimalsBox::keyUp(controls::KeyCode key) {
 // A cell copied from a spreadsheet ends in a line break.
 void DecimalsBox::paste(std::string& text) {
   text = controls::firstLineOf(text);
-  if (text.size() == 1 && common::isDigit(text[0]) && hasRoom()) return;
+  if (common::isOneDigit(text) && hasRoom()) return;
   text.clear();
   controls_.desktop.beep();
 }
 
 void DecimalsBox::lostFocus() {
   controls_.txtDec.setBackColor(Color::window());
-  if (controls_.txtDec.text().empty()) controls_.txtDec.setText("0");
+  decimals_.fillEmptyBox();
 }
 
 }  // namespace shell

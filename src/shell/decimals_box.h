@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "engine/machine_controls.h"
+#include "engine/decimals.h"
 #include "shell/settings.h"
 
 namespace shell {
@@ -30,6 +30,7 @@ class DecimalsBox {
   bool hasRoom() const;
 
   const engine::MachineControls& controls_;
+  engine::Decimals decimals_;
   controls::MenuItem& mnuEditFloatingDecimal_;
   controls::MenuItem& mnuEditStationaryDecimal_;
 };

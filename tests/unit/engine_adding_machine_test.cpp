@@ -51,9 +51,8 @@ TEST_F(EntryKey, LetterIsDiscardedWithABeep) {
 }
 
 TEST_F(EntryKey, PasteCharacterIsKept) {
-  constexpr controls::KeyAscii kCtrlV = 22;
-  EXPECT_EQ(afterPress(kCtrlV), kCtrlV);
-  EXPECT_EQ(afterPress(kCtrlV - 1), 0);
+  EXPECT_EQ(afterPress(controls::kCtrlV), controls::kCtrlV);
+  EXPECT_EQ(afterPress(controls::kCtrlV - 1), 0);
   EXPECT_EQ(desktop_.beeps, 1);
 }
 
