@@ -2,6 +2,8 @@
 
 #include <windows.h>
 
+#include <string_view>
+
 namespace win32 {
 
 /// A device context with a font, to measure text. A memory context, since one of the screen would
@@ -17,6 +19,17 @@ class Ruler {
   Ruler& operator=(const Ruler&) = delete;
 
   HDC context() const { return context_; }
+  /// In pixels.
+  int widthOf(std::wstring_view text) const {
+    SIZE size = {};
+    GetTextExtentPoint32W(context_, text.data(), static_cast<int>(text.size()), &size);
+    return size.cx;
+  }
+  TEXTMETRICW metrics() const {
+    TEXTMETRICW metrics = {};
+    GetTextMetricsW(context_, &metrics);
+    return metrics;
+  }
 
  private:
   HDC context_ = CreateCompatibleDC(nullptr);

@@ -15,10 +15,7 @@ constexpr int kTabStop = 8;
 constexpr std::size_t kLongestPiece = 1024;
 
 int cellOf(HFONT font) {
-  const Ruler ruler(font);
-  SIZE size = {};
-  GetTextExtentPoint32W(ruler.context(), L"0", 1, &size);
-  return std::max(1L, size.cx);
+  return std::max(1, Ruler(font).widthOf(L"0"));
 }
 
 bool isTab(std::wstring_view text) {
@@ -57,9 +54,7 @@ void TapeLetters::setHeight(const Fonts& fonts, const controls::FontLayout& font
   regular_ = fonts.make(font, height, false);
   bold_ = fonts.make(font, height, true);
   cell_ = cellOf(regular_.get());
-  const Ruler ruler(regular_.get());
-  TEXTMETRICW metrics;
-  GetTextMetricsW(ruler.context(), &metrics);
+  const TEXTMETRICW metrics = Ruler(regular_.get()).metrics();
   fixedPitch_ = (metrics.tmPitchAndFamily & TMPF_FIXED_PITCH) == 0;
   // A quarter of the font height between lines makes the column easier to read.
   spaceAbove_ = (height + 7) / 8;
@@ -88,10 +83,7 @@ bool TapeLetters::standsInCells(std::wstring_view text) const {
 
 int TapeLetters::widthOfPiece(std::wstring_view text) const {
   if (standsInCells(text)) return static_cast<int>(text.size()) * cell_;
-  const Ruler ruler(regular_.get());
-  SIZE size = {};
-  GetTextExtentPoint32W(ruler.context(), text.data(), static_cast<int>(text.size()), &size);
-  return size.cx;
+  return Ruler(regular_.get()).widthOf(text);
 }
 
 int TapeLetters::leftOf(std::wstring_view line, std::size_t character) const {

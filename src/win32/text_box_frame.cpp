@@ -7,16 +7,6 @@
 // A native single-line box writes its line at the top, however high the box is. So its client area
 // is made as high as the line, and the rest above and below belongs to its frame.
 namespace win32 {
-namespace {
-
-TEXTMETRICW metricsOf(HFONT font) {
-  const Ruler ruler(font);
-  TEXTMETRICW metrics = {};
-  GetTextMetricsW(ruler.context(), &metrics);
-  return metrics;
-}
-
-}  // namespace
 
 std::optional<LRESULT> TextBox::takeFrame(const Message& message) {
   switch (message.id) {
@@ -43,7 +33,7 @@ LRESULT TextBox::placeLine(const Message& message) {
   area.right = std::max(area.left, area.right - cutOff_);
   inside_ = area;
   OffsetRect(&inside_, -corner.x, -corner.y);
-  const TEXTMETRICW metrics = metricsOf(reinterpret_cast<HFONT>(send(WM_GETFONT)));
+  const TEXTMETRICW metrics = Ruler(reinterpret_cast<HFONT>(send(WM_GETFONT))).metrics();
   const LONG height = area.bottom - area.top;
   const LONG rest = std::max(0L, height - metrics.tmHeight);
   const LONG middleOfFigures = (metrics.tmAscent + metrics.tmInternalLeading) / 2;
