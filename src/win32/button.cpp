@@ -30,8 +30,6 @@ void Button::showConfirmation(std::string_view text) {
 }
 
 std::optional<LRESULT> Button::take(const Message& message) {
-  if (message.id == WM_GETOBJECT && Native::layout().spoken && !std::exchange(announced_, true))
-    announceSpoken(handle());
   if (message.id != WM_TIMER || message.wParam != kConfirmationTimer) return Native::take(message);
   KillTimer(handle(), kConfirmationTimer);
   showConfirmation("");

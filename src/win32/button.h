@@ -52,7 +52,6 @@ class Button : public Key<controls::Button> {
 
   // Empty except for the moment after a confirmed click.
   std::wstring confirmation_;
-  bool announced_ = false;
 };
 
 /// A button that stays down.

@@ -1,7 +1,5 @@
 #include "win32/label.h"
 
-#include <utility>
-
 #include "win32/live_region.h"
 
 namespace win32 {
@@ -20,8 +18,6 @@ void Label::showCaption() {
 }
 
 std::optional<LRESULT> Label::take(const Message& message) {
-  if (message.id == WM_GETOBJECT && layout().spoken && !std::exchange(announced_, true))
-    announceSpoken(handle());
   if (message.id != WM_LBUTTONDBLCLK) return Native::take(message);
   doubleClick();
   return 0;

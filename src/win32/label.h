@@ -12,9 +12,6 @@ class Label : public Native<controls::Control> {
  protected:
   std::optional<LRESULT> take(const Message& message) override;
   void showCaption() override;
-
- private:
-  bool announced_ = false;
 };
 
 /// A border with a title around related controls.

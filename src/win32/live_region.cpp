@@ -1,5 +1,7 @@
 #include "win32/live_region.h"
 
+#include <utility>
+
 #include "win32/accessible_name.h"
 #include "win32/text.h"
 
@@ -22,9 +24,7 @@ void LiveRegion::say(std::string_view text) {
 }
 
 void LiveRegion::announce() {
-  if (announced_) return;
-  announced_ = true;
-  announceSpoken(handle_);
+  if (!std::exchange(announced_, true)) announceSpoken(handle_);
 }
 
 }  // namespace win32

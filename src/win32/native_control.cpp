@@ -1,9 +1,12 @@
 #include "win32/native_control.h"
 
+#include <utility>
+
 #include "win32/colors.h"
 #include "win32/desktop.h"
 #include "win32/edge.h"
 #include "win32/keys.h"
+#include "win32/live_region.h"
 #include "win32/text.h"
 
 namespace win32 {
@@ -65,6 +68,9 @@ std::optional<LRESULT> NativeControl::take(const Message& message) {
       frame_.focusControl(control_);
       return result;
     }
+    case WM_GETOBJECT:
+      if (control_.layout().spoken && !std::exchange(announced_, true)) announceSpoken(handle_);
+      return {};
     case WM_NCPAINT:
       // Without an edge there is nothing to draw, but the system would spend time on it.
       if (!(GetWindowLongW(handle_, GWL_EXSTYLE) & WS_EX_CLIENTEDGE)) return 0;

@@ -80,6 +80,7 @@ class NativeControl {
   OwnedBrush background_;
   // The first half of a surrogate pair.
   wchar_t highSurrogate_ = 0;
+  bool announced_ = false;
 };
 
 /// A control shown by a native control.
