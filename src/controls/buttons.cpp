@@ -5,7 +5,7 @@
 namespace controls {
 
 void ClickControl::click() {
-  if (enabled() && visible()) raise(onClick);
+  if (enabled() && visible()) act();
 }
 
 void ClickControl::typeCharacter(KeyAscii character) {
@@ -18,10 +18,6 @@ void ToggleButton::setValue(int value) {
   value_ = value;
   showValue();
   raise(onClick);
-}
-
-void ToggleButton::click() {
-  if (enabled() && visible()) toggle();
 }
 
 OptionButton::OptionButton(Window& window, const ControlLayout& layout)
@@ -44,10 +40,6 @@ std::vector<OptionButton*> OptionButton::group() const {
     if (option && option->layout().optionGroup == layout().optionGroup) group.push_back(option);
   }
   return group;
-}
-
-void OptionButton::click() {
-  if (enabled() && visible()) setValue(true);
 }
 
 }  // namespace controls

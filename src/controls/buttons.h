@@ -15,10 +15,13 @@ class ClickControl : public Control {
 
   /// Does what a user's click does, apart from moving the focus. No effect while disabled or
   /// hidden.
-  virtual void click();
+  void click();
 
   /// Enter and Space click the control.
   void typeCharacter(KeyAscii character) override;
+
+ protected:
+  virtual void act() { raise(onClick); }
 };
 
 /// A push button.
@@ -41,9 +44,9 @@ class ToggleButton : public ClickControl {
   /// Raises Click when the value changes, as a click by the user does.
   void setValue(int value);
   void toggle() { setValue(1 - value_); }
-  void click() override;
 
  protected:
+  void act() override { toggle(); }
   virtual void showValue() {}
 
  private:
@@ -61,9 +64,9 @@ class OptionButton : public ClickControl {
   void setValue(bool value);
   /// The buttons of its group, itself among them, in tab order.
   std::vector<OptionButton*> group() const;
-  void click() override;
 
  protected:
+  void act() override { setValue(true); }
   virtual void showValue() {}
 
  private:
