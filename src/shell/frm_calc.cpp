@@ -22,8 +22,7 @@ frmCalc::frmCalc(controls::Desktop& desktop, Program& program)
   wireFigures();
   wireEntry();
   wireOtherBoxes();
-  wireFileAndEditMenu();
-  wireWinAndHelpMenu();
+  wireMenu();
   window_->onResize = [this] { resize(); };
   window_->onActivate = [this] { activate(); };
   window_->onClose = [this] { unload(); };

@@ -41,8 +41,7 @@ class frmCalc {
   void wireKeys();
   void wireEntry();
   void wireOtherBoxes();
-  void wireFileAndEditMenu();
-  void wireWinAndHelpMenu();
+  void wireMenu();
 
   void typeKey(controls::KeyCode key, controls::KeyAscii character);
   void wireFigures();

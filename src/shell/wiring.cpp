@@ -101,7 +101,8 @@ void frmCalc::wireOtherBoxes() {
   window_->control("Label1").onDblClick = [this] { colors_.choose(); };
 }
 
-void frmCalc::wireFileAndEditMenu() {
+void frmCalc::wireMenu() {
+  using common::AnnuityKind;
   const auto item = [this](std::string_view name) -> std::function<void()>& {
     return window_->menuItem(name).onClick;
   };
@@ -115,13 +116,6 @@ void frmCalc::wireFileAndEditMenu() {
   item("mnuEditStationaryDecimal") = [this] { controls_.chkShiftDec.toggle(); };
   item("mnuEditCopyTape") = [this] { tapeOutput_.copyTape(); };
   item("mnuEditTapeToNotepad") = [this] { tapeOutput_.openInNotepad(); };
-}
-
-void frmCalc::wireWinAndHelpMenu() {
-  using common::AnnuityKind;
-  const auto item = [this](std::string_view name) -> std::function<void()>& {
-    return window_->menuItem(name).onClick;
-  };
   item("mnuWinAlwaysOnTop") = [this] { place_.toggleOnTop(); };
   item("mnuWinMicroWindow") = [this] { place_.switchLayout(); };
   item("mnuWinMode(0)") = [this] { chooseMode(engine::Mode::Add); };
