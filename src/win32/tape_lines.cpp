@@ -1,20 +1,11 @@
 #include "win32/tape_lines.h"
 
+#include <windows.h>
+
 #include <algorithm>
 #include <cwctype>
 
 namespace win32 {
-namespace {
-
-bool isHighSurrogate(wchar_t unit) {
-  return unit >= 0xD800 && unit < 0xDC00;
-}
-
-bool isLowSurrogate(wchar_t unit) {
-  return unit >= 0xDC00 && unit < 0xE000;
-}
-
-}  // namespace
 
 std::wstring_view TapeLines::part(int start, int length) const {
   return std::wstring_view(text_).substr(static_cast<std::size_t>(start),
@@ -37,8 +28,7 @@ bool TapeLines::isInside(int place) const {
   if (place <= 0 || place >= length()) return false;
   const wchar_t before = at(place - 1);
   const wchar_t behind = at(place);
-  return (before == L'\r' && behind == L'\n') ||
-         (isHighSurrogate(before) && isLowSurrogate(behind));
+  return (before == L'\r' && behind == L'\n') || IS_SURROGATE_PAIR(before, behind);
 }
 
 int TapeLines::next(int place) const {
