@@ -63,14 +63,10 @@ void Application::openFinancialCalc(common::AnnuityKind kind) {
 
 void Application::showAbout(std::function<void()> closed) {
   about_ = std::make_unique<about::frmAbout>(desktop_, about::programVersion(), [this, closed] {
-    unloadAbout();
+    unload(about_);
     closed();
   });
   about_->window().showModal();
-}
-
-void Application::unloadAbout() {
-  unload(about_);
 }
 
 void Application::unloadCalc() {

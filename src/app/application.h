@@ -44,7 +44,6 @@ class Application : private shell::Program, private annuity::Program {
 
   void loadCalc();
   void offerLostTapes();
-  void unloadAbout();
   template <class Form>
   void unload(std::unique_ptr<Form>& form);
   void endSession();
