@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cmath>
 
 #include "common/number_pattern.h"
 #include "common/number_text.h"

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <utility>
-
 #include "controls/tape_safe.h"
 
 namespace inmemory {

@@ -6,8 +6,6 @@
 
 namespace inmemory {
 
-class Desktop;
-
 /// A text box without a screen.
 class TextBox : public controls::TextBox {
  public:

@@ -2,7 +2,6 @@
 
 #include <array>
 #include <string>
-#include <vector>
 
 #include "controls/desktop.h"
 #include "win32/registry_settings.h"

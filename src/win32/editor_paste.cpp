@@ -3,7 +3,6 @@
 #include <windows.h>
 
 #include <algorithm>
-#include <string_view>
 #include <vector>
 
 #include "win32/programs.h"

@@ -1,5 +1,6 @@
 #include "win32/native_control.h"
 
+#include <cassert>
 #include <utility>
 
 #include "win32/colors.h"

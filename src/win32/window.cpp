@@ -1,6 +1,7 @@
 #include "win32/window.h"
 
 #include <algorithm>
+#include <cassert>
 
 #include "win32/button.h"
 #include "win32/desktop.h"
