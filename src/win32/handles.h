@@ -9,40 +9,21 @@
 
 namespace win32 {
 
-struct DeleteGdiObject {
-  void operator()(HGDIOBJ object) const noexcept { DeleteObject(object); }
+template <auto kRelease>
+struct Release {
+  void operator()(auto handle) const noexcept { kRelease(handle); }
 };
 
-struct DestroyOwnedIcon {
-  void operator()(HICON icon) const noexcept { DestroyIcon(icon); }
-};
+/// A handle that its owner releases with a function.
+template <class Handle, auto kRelease>
+using Owned = std::unique_ptr<std::remove_pointer_t<Handle>, Release<kRelease>>;
 
-struct DestroyOwnedMenu {
-  void operator()(HMENU menu) const noexcept { DestroyMenu(menu); }
-};
-
-struct CloseTheme {
-  void operator()(HTHEME theme) const noexcept { closeTheme(theme); }
-};
-
-struct CloseRegistryKey {
-  void operator()(HKEY key) const noexcept { RegCloseKey(key); }
-};
-
-struct CloseOwnedHandle {
-  void operator()(HANDLE handle) const noexcept { CloseHandle(handle); }
-};
-
-template <class Handle, class Release>
-using Owned = std::unique_ptr<std::remove_pointer_t<Handle>, Release>;
-
-/// Handles that are released by their owner.
-using OwnedFont = Owned<HFONT, DeleteGdiObject>;
-using OwnedBrush = Owned<HBRUSH, DeleteGdiObject>;
-using OwnedIcon = Owned<HICON, DestroyOwnedIcon>;
-using OwnedMenu = Owned<HMENU, DestroyOwnedMenu>;
-using OwnedTheme = Owned<HTHEME, CloseTheme>;
-using OwnedKey = Owned<HKEY, CloseRegistryKey>;
-using OwnedHandle = Owned<HANDLE, CloseOwnedHandle>;
+using OwnedFont = Owned<HFONT, DeleteObject>;
+using OwnedBrush = Owned<HBRUSH, DeleteObject>;
+using OwnedIcon = Owned<HICON, DestroyIcon>;
+using OwnedMenu = Owned<HMENU, DestroyMenu>;
+using OwnedTheme = Owned<HTHEME, closeTheme>;
+using OwnedKey = Owned<HKEY, RegCloseKey>;
+using OwnedHandle = Owned<HANDLE, CloseHandle>;
 
 }  // namespace win32

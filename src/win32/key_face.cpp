@@ -132,7 +132,7 @@ void KeyFace::drawCheckMark(const NMCUSTOMDRAW& draw, COLORREF color) const {
   const POINT mark[] = {{x + size * 5 / 32, y + size * 17 / 32},
                         {x + size * 13 / 32, y + size * 25 / 32},
                         {x + size * 27 / 32, y + size * 8 / 32}};
-  const Owned<HPEN, DeleteGdiObject> pen(CreatePen(PS_SOLID, size / 8, color));
+  const Owned<HPEN, DeleteObject> pen(CreatePen(PS_SOLID, size / 8, color));
   const HGDIOBJ before = SelectObject(draw.hdc, pen.get());
   Polyline(draw.hdc, mark, 3);
   SelectObject(draw.hdc, before);

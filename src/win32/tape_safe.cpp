@@ -10,18 +10,13 @@ namespace {
 
 constexpr wchar_t kExtension[] = L".tape";
 
-struct CloseSearch {
-  void operator()(HANDLE search) const noexcept { FindClose(search); }
-};
-using OwnedSearch = Owned<HANDLE, CloseSearch>;
-
 // The names of the tapes in a folder, from old to new: they start with the time.
 std::set<std::wstring> tapesIn(const std::wstring& folder) {
   std::set<std::wstring> names;
   WIN32_FIND_DATAW found;
   const HANDLE search = FindFirstFileW((folder + L"\\*" + kExtension).c_str(), &found);
   if (search == INVALID_HANDLE_VALUE) return names;
-  const OwnedSearch owned(search);
+  const Owned<HANDLE, FindClose> owned(search);
   do {
     names.emplace(found.cFileName);
   } while (FindNextFileW(search, &found));
