@@ -54,10 +54,7 @@ int TapeLines::previousWord(int place) const {
 }
 
 int TapeLines::wordStart(int place) const {
-  const int first = start(lineOf(place));
-  while (place > first && std::iswspace(at(place - 1))) --place;
-  while (place > first && !std::iswspace(at(place - 1))) --place;
-  return place;
+  return std::max(previousWord(place), start(lineOf(place)));
 }
 
 int TapeLines::wordEnd(int place) const {
