@@ -4,9 +4,6 @@
 
 #include <commdlg.h>
 
-#include <iterator>
-#include <string_view>
-
 #include "win32/clipboard.h"
 #include "win32/dialog_place.h"
 #include "win32/editor_paste.h"
@@ -29,10 +26,7 @@ HWND handleOf(const controls::Window* window) {
 }
 
 BOOL CALLBACK dismissDialog(HWND window, LPARAM) {
-  constexpr wchar_t kDialogClass[] = L"#32770";
-  wchar_t name[std::size(kDialogClass) + 1] = L"";
-  GetClassNameW(window, name, static_cast<int>(std::size(name)));
-  if (std::wstring_view(name) == kDialogClass) EndDialog(window, 0);
+  if (isSystemDialog(window)) EndDialog(window, 0);
   return TRUE;
 }
 

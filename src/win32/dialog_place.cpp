@@ -10,12 +10,6 @@ namespace {
 // Of the dialog that opens next; nothing once it stands.
 HWND ownerOfNext = nullptr;
 
-bool isDialog(HWND window) {
-  wchar_t name[8] = L"";
-  GetClassNameW(window, name, 8);
-  return lstrcmpW(name, L"#32770") == 0;
-}
-
 void placeOver(HWND owner, HWND dialog) {
   RECT below;
   RECT box;
@@ -31,6 +25,12 @@ void placeOver(HWND owner, HWND dialog) {
 
 }  // namespace
 
+bool isSystemDialog(HWND window) {
+  wchar_t name[8] = L"";
+  GetClassNameW(window, name, 8);
+  return lstrcmpW(name, L"#32770") == 0;
+}
+
 DialogPlace::DialogPlace(HWND owner)
     : ownerBefore_(std::exchange(ownerOfNext, owner)),
       hook_(SetWindowsHookExW(WH_CBT, notice, nullptr, GetCurrentThreadId())) {}
@@ -42,7 +42,7 @@ DialogPlace::~DialogPlace() {
 
 LRESULT CALLBACK DialogPlace::notice(int code, WPARAM wParam, LPARAM lParam) {
   const auto window = reinterpret_cast<HWND>(wParam);
-  if (code == HCBT_ACTIVATE && ownerOfNext && isDialog(window))
+  if (code == HCBT_ACTIVATE && ownerOfNext && isSystemDialog(window))
     placeOver(std::exchange(ownerOfNext, nullptr), window);
   return CallNextHookEx(nullptr, code, wParam, lParam);
 }

@@ -4,6 +4,9 @@
 
 namespace win32 {
 
+/// Whether a window is a dialog of the system's.
+bool isSystemDialog(HWND window);
+
 /// While it lives, a dialog of the system's opens over the middle of its window rather than of the
 /// screen, and within the screen.
 class DialogPlace {
