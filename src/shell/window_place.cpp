@@ -8,7 +8,6 @@ using controls::Rect;
 
 namespace {
 
-constexpr Rect kFirstGeometry = {500, 500, 6690, 3525};
 constexpr Rect kNormalGeometry = {0, 0, 6690, 3525};
 constexpr Rect kMicroGeometry = {0, 0, kMicroWidth, kMicroHeight};
 
@@ -21,7 +20,7 @@ WindowPlace::WindowPlace(controls::Window& window, Settings& settings)
       mnuWinMicroWindow_(window.menuItem("mnuWinMicroWindow")) {}
 
 void WindowPlace::restore() {
-  read("frmCalcAtUnload", kFirstGeometry);
+  read("frmCalcAtUnload", frmCalcLayout().place);
   mnuWinAlwaysOnTop_.setChecked(settings_.truth("frmCalcmnuWinAlwaysOnTop"));
   mnuWinMicroWindow_.setChecked(settings_.truth("frmCalcmnuWinMicroWindow"));
 }
