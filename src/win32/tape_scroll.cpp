@@ -30,9 +30,8 @@ void TapeView::shiftTo(int shift) {
 
 // How much the longest line is wider than the window.
 int TapeView::overflow() const {
-  constexpr int kCaret = 1;
   const RECT area = textArea();
-  const int room = static_cast<int>(area.right - area.left) - kCaret;
+  const int room = static_cast<int>(area.right - area.left) - kCaretWidth;
   return std::max(0, lines_.columns() * letters_.cell() - room);
 }
 

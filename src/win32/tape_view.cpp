@@ -6,12 +6,6 @@ namespace win32 {
 
 using controls::Alignment;
 
-namespace {
-
-constexpr int kCaretWidth = 1;
-
-}  // namespace
-
 void TapeView::replace(int start, int length, std::wstring_view text) {
   lines_.replace(start, length, text);
   select(start + static_cast<int>(text.size()), start + static_cast<int>(text.size()));

@@ -74,6 +74,8 @@ class TapeView {
     bool operator==(const ScrollBar&) const = default;
   };
 
+  static constexpr int kCaretWidth = 1;
+
   void refresh();
   void keepInView();
   int lastFirstLine() const;
