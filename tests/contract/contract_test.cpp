@@ -94,7 +94,16 @@ ContractTest::ContractTest()
       tape_(window_->textBox("tape")),
       button_(window_->button("button")),
       toggle_(window_->toggleButton("toggle")) {
-  window_->show();
+  show(*window_);
+}
+
+void ContractTest::show(controls::Window& window) {
+  window.show();
+  kind_->settle();
+}
+
+void ContractTest::focus(controls::Control& control) {
+  control.setFocus();
   kind_->settle();
 }
 
@@ -118,6 +127,16 @@ void ContractTest::pressControl(char letter) {
 void ContractTest::paste(controls::TextBox& box, std::string_view text) {
   ASSERT_TRUE(kind_->desktop().setClipboardText(text));
   box.paste();
+}
+
+void ContractTest::put(controls::TextBox& box, std::string_view text, int caret, int selected) {
+  box.setText(text);
+  box.select(caret, selected);
+  takeLog();
+}
+
+std::string ContractTest::shown(const controls::TextBox& box) {
+  return box.text() + " " + std::to_string(box.selStart()) + "+" + std::to_string(box.selLength());
 }
 
 std::vector<std::string> ContractTest::takeLog() {

@@ -18,12 +18,19 @@ class ContractTest : public testing::Test {
  protected:
   ContractTest();
 
+  /// These wait until the system has done it.
+  void show(controls::Window& window);
+  void focus(controls::Control& control);
   /// Types characters of a common keyboard, including "\b" and "\r".
   void type(std::string_view text);
   void press(controls::KeyCode key, controls::KeyAscii character = 0);
   void pressControl(char letter);
   /// Puts a text on the clipboard and pastes it with the Paste command.
   void paste(controls::TextBox& box, std::string_view text);
+  /// Assigns a text, selects a part of it, and forgets the events noted so far.
+  void put(controls::TextBox& box, std::string_view text, int caret, int selected = 0);
+  /// The text, the caret and the length of the selection.
+  static std::string shown(const controls::TextBox& box);
   /// The events noted since the last call.
   std::vector<std::string> takeLog();
   void note(const std::string& event) { log_.push_back(event); }

@@ -3,25 +3,19 @@
 #include <initializer_list>
 
 #include "contract/contract_test.h"
+#include "driver/native_handles.h"
 #include "win32/clipboard.h"
-#include "win32/native_control.h"
 #include "win32/registry_settings.h"
+#include "win32/window.h"
 
 // Tests that make sense only for a window on a screen.
 namespace contract {
 
 using controls::Rect;
 using controls::Twips;
+using driver::handleOf;
 
 namespace {
-
-HWND handleOf(controls::Window& window) {
-  return static_cast<win32::Window&>(window).handle();
-}
-
-HWND handleOf(controls::Control& control) {
-  return win32::NativeControl::of(control).handle();
-}
 
 SIZE clientSize(HWND window) {
   RECT client;
@@ -126,8 +120,7 @@ TEST_F(NativeWindow, SurrogatePairIsTypedAsOneCharacter) {
   first_.onChange = [this](controls::ChangedBy) { note("change"); };
   send(first_, WM_CHAR, 0xD83D);
   send(first_, WM_CHAR, 0xDE00);
-  EXPECT_EQ(first_.text(), "\xF0\x9F\x98\x80");
-  EXPECT_EQ(first_.selStart(), 2);
+  EXPECT_EQ(shown(first_), "\xF0\x9F\x98\x80 2+0");
   EXPECT_EQ(takeLog(), Log{"change"});
 }
 
@@ -283,8 +276,7 @@ TEST_F(NativeWindow, ReleasesItsHandles) {
   const auto makeAndDestroy = [this](int times) {
     for (int i = 0; i < times; ++i) {
       const auto other = kind_->desktop().createWindow(testLayout());
-      other->show();
-      kind_->settle();
+      show(*other);
     }
   };
   makeAndDestroy(2);

@@ -4,12 +4,9 @@
 namespace contract {
 
 TEST_P(TextBoxContract, PastedTextReplacesTheSelection) {
-  box_.setText("1995");
-  box_.select(1, 2);
-  takeLog();
+  put(box_, "1995", 1, 2);
   paste(box_, "23");
-  EXPECT_EQ(box_.text(), "1235");
-  EXPECT_EQ(box_.selStart(), 3);
+  EXPECT_EQ(shown(box_), "1235 3+0");
   EXPECT_EQ(takeLog(), Log{"user"});
 }
 
@@ -26,24 +23,18 @@ TEST_P(TextBoxContract, DiscardedPasteLeavesTheSelection) {
   box_.onMouseUp = [this](controls::MouseEdit edit) {
     note(edit == controls::MouseEdit::None ? "none" : "edit");
   };
-  box_.setText("1995");
-  box_.select(1, 2);
-  takeLog();
+  put(box_, "1995", 1, 2);
   paste(box_, "23");
   box_.closeMenu(controls::BoxCommand::Paste);
-  EXPECT_EQ(box_.text(), "1995");
-  EXPECT_EQ(box_.selectedText(), "99");
+  EXPECT_EQ(shown(box_), "1995 1+2");
   EXPECT_EQ(takeLog(), Log{"none"});
 }
 
 TEST_P(TextBoxContract, PasteIsReportedAlsoWhenItChangesNothing) {
   box_.onPasted = [this] { note("pasted"); };
-  box_.setText("1995");
-  box_.select(1, 2);
-  takeLog();
+  put(box_, "1995", 1, 2);
   paste(box_, "99");
-  EXPECT_EQ(box_.selStart(), 3);
-  EXPECT_EQ(box_.selLength(), 0);
+  EXPECT_EQ(shown(box_), "1995 3+0");
   EXPECT_EQ(takeLog(), Log{"pasted"});
   paste(box_, "7");
   EXPECT_EQ(box_.text(), "19975");
@@ -52,9 +43,7 @@ TEST_P(TextBoxContract, PasteIsReportedAlsoWhenItChangesNothing) {
 
 TEST_P(TextBoxContract, CutAndCopyOfNothingLeaveTheClipboard) {
   kind_->desktop().setClipboardText("77");
-  box_.setText("12345");
-  box_.setSelStart(2);
-  takeLog();
+  put(box_, "12345", 2);
   box_.copy();
   EXPECT_FALSE(box_.cut());
   EXPECT_EQ(box_.text(), "12345");
@@ -71,11 +60,9 @@ TEST_P(TextBoxContract, UndoBringsTheLastEditBackAndThenRedoesIt) {
   takeLog();
   EXPECT_TRUE(box_.canUndo());
   EXPECT_TRUE(box_.undo());
-  EXPECT_EQ(box_.text(), "12345");
-  EXPECT_EQ(box_.selStart(), 3);
+  EXPECT_EQ(shown(box_), "12345 3+0");
   EXPECT_TRUE(box_.undo());
-  EXPECT_EQ(box_.text(), "1745");
-  EXPECT_EQ(box_.selStart(), 2);
+  EXPECT_EQ(shown(box_), "1745 2+0");
   EXPECT_EQ(takeLog(), (Log{"user", "user"}));
 }
 
@@ -119,8 +106,7 @@ TEST_P(TextBoxContract, ShiftInsertPastesBeforeTheBoxSeesTheKey) {
 }
 
 TEST_P(TextBoxContract, ShiftDeleteCutsAndCtrlInsertCopies) {
-  box_.setText("12345");
-  box_.select(1, 2);
+  put(box_, "12345", 1, 2);
   kind_->press({.key = controls::kKeyInsert, .control = true}, 0);
   EXPECT_EQ(kind_->desktop().clipboardText().text, "23");
   EXPECT_EQ(box_.text(), "12345");
@@ -138,15 +124,12 @@ TEST_P(TextBoxContract, ShiftDeleteCutsAndCtrlInsertCopies) {
 
 TEST_P(TextBoxContract, InsertAndDeleteWithOtherModifiersDoNothing) {
   kind_->desktop().setClipboardText("77");
-  box_.setText("12345");
-  box_.select(1, 2);
-  takeLog();
+  put(box_, "12345", 1, 2);
   press(controls::kKeyInsert);
   kind_->press({.key = controls::kKeyInsert, .shift = true, .control = true}, 0);
   kind_->press({.key = controls::kKeyDelete, .control = true}, 0);
   kind_->press({.key = controls::kKeyDelete, .shift = true, .control = true}, 0);
-  EXPECT_EQ(box_.text(), "12345");
-  EXPECT_EQ(box_.selectedText(), "23");
+  EXPECT_EQ(shown(box_), "12345 1+2");
   EXPECT_EQ(takeLog(), Log{});
   EXPECT_EQ(kind_->desktop().clipboardText().text, "77");
 }
@@ -162,10 +145,8 @@ TEST_P(TextBoxContract, TellsWhichEditKeysItTakes) {
 
 TEST_P(TextBoxContract, LockedClipboardChangesNothing) {
   kind_->desktop().setClipboardText("77");
-  box_.setText("12345");
-  box_.select(1, 2);
+  put(box_, "12345", 1, 2);
   box_.onPasteCommand = [this](const std::optional<std::string>&) { note("pasted"); };
-  takeLog();
   kind_->whileClipboardIsLocked([this] {
     box_.paste();
     box_.closeMenu(controls::BoxCommand::Paste);
@@ -184,9 +165,7 @@ TEST_P(TextBoxContract, ContextMenuReportsPasteOrEdit) {
          : edit == controls::MouseEdit::Edited ? "edited"
                                                : "none");
   };
-  box_.setText("12345");
-  box_.select(0, 2);
-  takeLog();
+  put(box_, "12345", 0, 2);
   box_.closeMenu(BoxCommand::Cut);
   box_.closeMenu(BoxCommand::Paste);
   box_.closeMenu(BoxCommand::Undo);
@@ -206,9 +185,7 @@ TEST_P(TextBoxContract, ContextMenuReportsPasteOrEdit) {
 TEST_P(TextBoxContract, MousePasteGoesToTheCaretDespiteAPasteHandler) {
   box_.onPasteCommand = [this](const std::optional<std::string>&) { note("command"); };
   kind_->desktop().setClipboardText("9");
-  box_.setText("12");
-  box_.setSelStart(1);
-  takeLog();
+  put(box_, "12", 1);
   box_.closeMenu(controls::BoxCommand::Paste);
   EXPECT_EQ(box_.text(), "192");
   EXPECT_EQ(takeLog(), Log{"user"});

@@ -10,8 +10,7 @@ namespace contract {
 class TextBoxContract : public ContractTest, public testing::WithParamInterface<const char*> {
  protected:
   TextBoxContract() : box_(window_->textBox(GetParam())) {
-    box_.setFocus();
-    kind_->settle();
+    focus(box_);
     box_.onChange = [this](controls::ChangedBy by) {
       note(by == controls::ChangedBy::User ? "user" : "program");
     };

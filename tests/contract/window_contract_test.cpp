@@ -20,11 +20,9 @@ TEST_F(WindowContract, FirstControlInTabOrderHasTheFocus) {
 TEST_F(WindowContract, FocusLeavesOneControlBeforeItReachesTheNext) {
   logFocus(first_);
   logFocus(second_);
-  second_.setFocus();
-  kind_->settle();
+  focus(second_);
   EXPECT_EQ(takeLog(), (Log{"lost first", "got second"}));
-  second_.setFocus();
-  kind_->settle();
+  focus(second_);
   EXPECT_EQ(takeLog(), Log{});
 }
 
@@ -32,8 +30,7 @@ TEST_F(WindowContract, LabelsAndDisabledControlsTakeNoFocus) {
   window_->control("label").setFocus();
   EXPECT_TRUE(first_.focused());
   second_.setEnabled(false);
-  second_.setFocus();
-  kind_->settle();
+  focus(second_);
   EXPECT_TRUE(first_.focused());
 }
 
@@ -50,25 +47,20 @@ TEST_F(WindowContract, AnotherWindowTakesTheFocusAndGivesItBack) {
   logFocus(first_);
   const auto other = kind_->desktop().createWindow(plainLayout());
   logFocus(other->textBox("first"));
-  other->show();
-  kind_->settle();
+  show(*other);
   EXPECT_EQ(takeLog(), (Log{"lost first", "got first"}));
   EXPECT_FALSE(first_.focused());
-  window_->show();
-  kind_->settle();
+  show(*window_);
   EXPECT_EQ(takeLog(), (Log{"lost first", "got first"}));
   EXPECT_TRUE(first_.focused());
 }
 
 TEST_F(WindowContract, ControlOfABackgroundWindowGetsTheFocusLater) {
   const auto other = kind_->desktop().createWindow(plainLayout());
-  other->show();
-  kind_->settle();
-  second_.setFocus();
-  kind_->settle();
+  show(*other);
+  focus(second_);
   EXPECT_TRUE(other->textBox("first").focused());
-  window_->show();
-  kind_->settle();
+  show(*window_);
   EXPECT_TRUE(second_.focused());
 }
 
@@ -116,8 +108,7 @@ TEST_F(WindowContract, ClickGivesAButtonTheFocusFirst) {
   button_.onClick = [this] { note("click"); };
   kind_->click(button_);
   EXPECT_EQ(takeLog(), (Log{"got button", "click"}));
-  first_.setFocus();
-  kind_->settle();
+  focus(first_);
   takeLog();
   button_.click();
   EXPECT_EQ(takeLog(), Log{"click"});
@@ -126,8 +117,7 @@ TEST_F(WindowContract, ClickGivesAButtonTheFocusFirst) {
 
 TEST_F(WindowContract, EnterAndSpacePressTheButtonThatHasTheFocus) {
   button_.onClick = [this] { note("click"); };
-  button_.setFocus();
-  kind_->settle();
+  focus(button_);
   press(controls::kKeyEnter, 13);
   press(controls::kKeySpace, ' ');
   EXPECT_EQ(takeLog(), (Log{"click", "click"}));
@@ -224,8 +214,7 @@ TEST_F(WindowContract, F1AsksTheWindowForHelp) {
 
 TEST_F(WindowContract, ShiftInsertOnAButtonPastesNothing) {
   kind_->desktop().setClipboardText("23");
-  button_.setFocus();
-  kind_->settle();
+  focus(button_);
   kind_->press({.key = controls::kKeyInsert, .shift = true}, 0);
   EXPECT_EQ(first_.text(), "");
   EXPECT_TRUE(button_.focused());
@@ -238,8 +227,7 @@ TEST_F(WindowContract, KeyPressMayHandTheCharacterToAnotherControl) {
   };
   button_.onKeyUp = [this](controls::KeyCode) { note("up at the button"); };
   first_.onKeyUp = [this](controls::KeyCode) { note("up at the box"); };
-  button_.setFocus();
-  kind_->settle();
+  focus(button_);
   type("7.");
   EXPECT_EQ(first_.text(), "7.");
   EXPECT_TRUE(first_.focused());
@@ -257,8 +245,7 @@ TEST_F(WindowContract, NonAsciiLettersAreNoAccessKeys) {
 
 TEST_F(WindowContract, WindowWithoutMenuLeavesTheClipboardKeysToTheBox) {
   const auto plain = kind_->desktop().createWindow(plainLayout());
-  plain->show();
-  kind_->settle();
+  show(*plain);
   controls::TextBox& box = plain->textBox("first");
   box.setText("1234");
   box.select(0, 2);
@@ -281,8 +268,7 @@ TEST_F(WindowContract, ResizeIsRaisedOnFirstShowAndOnRealChanges) {
   other->onResize = [this] { note("resize"); };
   other->setWidth(7000);
   EXPECT_EQ(takeLog(), Log{});
-  other->show();
-  kind_->settle();
+  show(*other);
   EXPECT_EQ(takeLog(), Log{"resize"});
   other->setLeft(600);
   other->setWidth(7000);
@@ -322,8 +308,7 @@ TEST_F(WindowContract, WindowThatIsMaximizedOrRestoredComesToTheFront) {
   logFocus(first_);
   logFocus(other->textBox("first"));
   for (const auto state : {WindowState::Maximized, WindowState::Normal}) {
-    other->show();
-    kind_->settle();
+    show(*other);
     takeLog();
     window_->setState(state);
     kind_->settle();
@@ -377,8 +362,7 @@ TEST_F(WindowContract, EndOfTheSessionRunsItsHandler) {
 
 TEST_F(WindowContract, HidingAWindowActivatesTheOneBehind) {
   const auto other = kind_->desktop().createWindow(plainLayout());
-  other->show();
-  kind_->settle();
+  show(*other);
   other->hide();
   kind_->settle();
   EXPECT_TRUE(first_.focused());
