@@ -2,27 +2,12 @@
 
 #include <gtest/gtest.h>
 
-#include <map>
 #include <string>
-#include <utility>
+
+#include "inmemory/settings.h"
 
 namespace common {
 namespace {
-
-class MapStore : public SettingsStore {
- public:
-  std::optional<std::string> read(std::string_view section, std::string_view key) const override {
-    const auto found = texts_.find({std::string(section), std::string(key)});
-    if (found == texts_.end()) return std::nullopt;
-    return found->second;
-  }
-  void write(std::string_view section, std::string_view key, std::string_view text) override {
-    texts_[{std::string(section), std::string(key)}] = text;
-  }
-
- private:
-  std::map<std::pair<std::string, std::string>, std::string> texts_;
-};
 
 class StoredValue : public testing::Test {
  protected:
@@ -35,7 +20,7 @@ class StoredValue : public testing::Test {
     return readTruth(store_, "Settings", "key", fallback);
   }
 
-  MapStore store_;
+  inmemory::Settings store_;
 };
 
 TEST_F(StoredValue, FallsBackWhenAbsent) {

@@ -104,12 +104,12 @@ struct Seen {
   Twips top;
   Twips width;
   Twips height;
-  std::string_view caption;
-  std::string_view face;
-  std::string_view accessibleName;
-  std::string_view toolTip;
-  std::string_view font;
-  int tenthsOfPoint;
+  std::string_view caption = {};
+  std::string_view face = {};
+  std::string_view accessibleName = {};
+  std::string_view toolTip = {};
+  std::string_view font = kSans;
+  int tenthsOfPoint = 83;
   bool bold = false;
   Alignment alignment = Alignment::Left;
 };
