@@ -280,18 +280,6 @@ void Driver::move(Command& command) {
   stage_.move(moved, left, top);
 }
 
-void Driver::minimize(Command& command) {
-  setState(command, controls::WindowState::Minimized);
-}
-
-void Driver::maximize(Command& command) {
-  setState(command, controls::WindowState::Maximized);
-}
-
-void Driver::restore(Command& command) {
-  setState(command, controls::WindowState::Normal);
-}
-
 void Driver::setState(Command& command, controls::WindowState state) {
   controls::Window& wanted = freeWindow(command.word());
   command.end();
@@ -313,11 +301,6 @@ void Driver::queueColor(Command& command) {
   const Json number = Json::parse(color, nullptr, false);
   if (!number.is_number_unsigned()) throw CommandError("a color number, or cancel");
   stage_.queueColor(number.get<std::uint32_t>());
-}
-
-void Driver::events(Command& command) {
-  command.end();
-  value_ = stage_.takeEvents();
 }
 
 void Driver::end(Command& command, Ending ending) {

@@ -53,9 +53,9 @@ class Driver {
   void choose(Command& command);
   void resize(Command& command);
   void move(Command& command);
-  void minimize(Command& command);
-  void maximize(Command& command);
-  void restore(Command& command);
+  void minimize(Command& command) { setState(command, controls::WindowState::Minimized); }
+  void maximize(Command& command) { setState(command, controls::WindowState::Maximized); }
+  void restore(Command& command) { setState(command, controls::WindowState::Normal); }
   void clipboard(Command& command);
   void store(Command& command);
   void queueAnswer(Command& command);

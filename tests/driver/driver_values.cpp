@@ -101,4 +101,30 @@ void Driver::snapshot(Command& command) {
   stage_.inspect([&] { value_ = takeSnapshot(main); });
 }
 
+void Driver::events(Command& command) {
+  command.end();
+  const Events events = stage_.takeEvents();
+  Json boxes = Json::array();
+  for (const SeenBox& box : events.boxes)
+    boxes.push_back({{"text", box.text},
+                     {"title", box.title},
+                     {"buttons", box.buttons},
+                     {"icon", box.icon},
+                     {"answer", box.answer}});
+  Json launches = Json::array();
+  for (const auto& [program, keys, text] : events.launches) {
+    launches.push_back({{"program", program}, {"keys", keys}});
+    if (text) launches.back()["text"] = *text;
+  }
+  Json help = Json::array();
+  for (const auto& request : events.helpRequests) {
+    const bool winHelp = request.caller == controls::HelpRequest::Caller::WinHelp;
+    help.push_back({{"call", winHelp ? "WinHelp" : "CommonDialog"},
+                    {"file", request.file},
+                    {"command", request.command},
+                    {"data", request.data}});
+  }
+  value_ = {{"beeps", events.beeps}, {"boxes", boxes}, {"launches", launches}, {"help", help}};
+}
+
 }  // namespace driver

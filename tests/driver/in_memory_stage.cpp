@@ -1,5 +1,7 @@
 #include "driver/in_memory_stage.h"
 
+#include <utility>
+
 #include "inmemory/window.h"
 
 namespace driver {
@@ -55,10 +57,6 @@ void InMemoryStage::doubleClick(controls::Control& control) {
   if (again->visible() && again->enabled()) click(*again);
 }
 
-void InMemoryStage::select(controls::TextBox& box, int start, int length) {
-  box.select(start, length);
-}
-
 void InMemoryStage::useBoxMenu(controls::TextBox& box, controls::BoxCommand command) {
   focus(box);
   act([&] {
@@ -71,15 +69,6 @@ void InMemoryStage::useBoxMenu(controls::TextBox& box, controls::BoxCommand comm
 void InMemoryStage::choose(controls::MenuItem& item) {
   bringToFront(*findWindow("frmCalc"));
   act([&] { item.choose(); });
-}
-
-void InMemoryStage::resize(controls::Window& window, controls::Twips width,
-                           controls::Twips height) {
-  act([&] { window.setBounds({window.bounds().left, window.bounds().top, width, height}); });
-}
-
-void InMemoryStage::move(controls::Window& window, controls::Twips left, controls::Twips top) {
-  act([&] { window.setBounds({left, top, window.bounds().width, window.bounds().height}); });
 }
 
 void InMemoryStage::setState(controls::Window& window, controls::WindowState state) {
@@ -125,33 +114,16 @@ void InMemoryStage::receive(const Request& request) {
   });
 }
 
-Json InMemoryStage::takeEvents() {
-  Json boxes = Json::array();
-  for (const auto& [box, answer] : desktop_.boxes)
-    boxes.push_back({{"text", box.text},
-                     {"title", box.title},
-                     {"buttons", box.buttons == controls::Buttons::Ok ? "OK" : "YesNo"},
-                     {"icon", box.icon == controls::Icon::None ? "none" : "question"},
-                     {"answer", answer}});
-  Json launches = Json::array();
-  for (const auto& [program, keys, text] : desktop_.launches) {
-    launches.push_back({{"program", program}, {"keys", keys}});
-    if (text) launches.back()["text"] = *text;
-  }
-  Json help = Json::array();
-  for (const auto& request : desktop_.helpRequests) {
-    const bool winHelp = request.caller == controls::HelpRequest::Caller::WinHelp;
-    help.push_back({{"call", winHelp ? "WinHelp" : "CommonDialog"},
-                    {"file", request.file},
-                    {"command", request.command},
-                    {"data", request.data}});
-  }
-  const int beeps = desktop_.beeps;
-  desktop_.beeps = 0;
-  desktop_.boxes.clear();
-  desktop_.launches.clear();
-  desktop_.helpRequests.clear();
-  return {{"beeps", beeps}, {"boxes", boxes}, {"launches", launches}, {"help", help}};
+Events InMemoryStage::takeEvents() {
+  Events events = {.beeps = std::exchange(desktop_.beeps, 0),
+                   .helpRequests = std::exchange(desktop_.helpRequests, {})};
+  for (const auto& [box, answer] : std::exchange(desktop_.boxes, {}))
+    events.boxes.push_back({box.text, box.title,
+                            box.buttons == controls::Buttons::Ok ? "OK" : "YesNo",
+                            box.icon == controls::Icon::None ? "none" : "question", answer});
+  for (const auto& [program, keys, text] : std::exchange(desktop_.launches, {}))
+    events.launches.push_back({program, keys, text});
+  return events;
 }
 
 bool InMemoryStage::arrange(const std::string& command, const std::vector<std::string>& texts) {

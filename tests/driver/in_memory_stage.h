@@ -28,11 +28,8 @@ class InMemoryStage : public Stage {
   void click(controls::Control& control) override;
   void doubleClick(controls::Control& control) override;
   void focus(controls::Control& control) override;
-  void select(controls::TextBox& box, int start, int length) override;
   void useBoxMenu(controls::TextBox& box, controls::BoxCommand command) override;
   void choose(controls::MenuItem& item) override;
-  void resize(controls::Window& window, controls::Twips width, controls::Twips height) override;
-  void move(controls::Window& window, controls::Twips left, controls::Twips top) override;
   void setState(controls::Window& window, controls::WindowState state) override;
   std::optional<std::string> clipboardText() override { return desktop_.clipboard; }
   void setClipboard(const std::optional<std::string>& text) override { desktop_.clipboard = text; }
@@ -51,12 +48,11 @@ class InMemoryStage : public Stage {
   void queueColor(const std::optional<std::uint32_t>& color) override {
     desktop_.colors.push_back(color);
   }
-  Json takeEvents() override;
+  Events takeEvents() override;
   bool arrange(const std::string& command, const std::vector<std::string>& texts) override;
 
  private:
-  /// Runs input to the program as one event.
-  void act(const std::function<void()>& body) { desktop_.events().runEvent(body); }
+  void act(const std::function<void()>& body) override { desktop_.events().runEvent(body); }
 
   inmemory::Desktop desktop_;
   inmemory::Keyboard keyboard_{desktop_};

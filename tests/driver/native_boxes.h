@@ -7,20 +7,12 @@
 #include <functional>
 #include <mutex>
 #include <optional>
-#include <string>
 #include <utility>
 #include <vector>
 
-namespace driver {
+#include "driver/events.h"
 
-/// A message box that was shown, and its answer.
-struct SeenBox {
-  std::string text;
-  std::string title;
-  std::string buttons;
-  std::string icon;
-  int answer = 0;
-};
+namespace driver {
 
 /// Operates the system dialogs of the program as a user does: reads a message box and presses a
 /// button, or picks a color.

@@ -25,7 +25,7 @@ int NativeDesktop::showMessage(const controls::UserMessage& box) {
 }
 
 void NativeDesktop::beep() {
-  ++happenings_.beeps;
+  ++events_.beeps;
   win32::Desktop::beep();
 }
 
@@ -33,7 +33,7 @@ bool NativeDesktop::startProgram(const std::string& program) {
   const std::vector<HWND> before = windowsOfStarted();
   if (!win32::Desktop::startProgram(program)) return false;
   std::ranges::copy(windowsSince(before), std::back_inserter(launched_));
-  happenings_.launches.push_back({program, "", {}});
+  events_.launches.push_back({program, "", {}});
   return true;
 }
 
@@ -51,7 +51,7 @@ bool NativeDesktop::startProgramAndPaste(const std::string& program) {
     launched_.push_back(window);
     pasted = pasted || waitForText(window);
   }
-  happenings_.launches.push_back({program, pasted ? "^V" : "", {}});
+  events_.launches.push_back({program, pasted ? "^V" : "", {}});
   starting_ = false;
   return true;
 }
@@ -62,12 +62,12 @@ bool NativeDesktop::openText(const std::string& program, std::string_view text) 
   if (!win32::Desktop::openText(program, text)) return false;
   const HWND window = waitForWindowSince(before);
   if (window) launched_.push_back(window);
-  happenings_.launches.push_back({program, "", textShownIn(window)});
+  events_.launches.push_back({program, "", textShownIn(window)});
   return true;
 }
 
 void NativeDesktop::showHelp(const controls::HelpRequest& request) {
-  happenings_.helpRequests.push_back(request);
+  events_.helpRequests.push_back(request);
 }
 
 void NativeDesktop::loseTape() {

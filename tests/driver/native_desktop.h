@@ -11,20 +11,6 @@
 
 namespace driver {
 
-/// A program that was started; `keys` were sent to its window ("^V" is Ctrl+V).
-struct Launch {
-  std::string program;
-  std::string keys;
-  std::optional<std::string> text;
-};
-
-/// What the program has asked of the desktop, apart from message boxes.
-struct Happenings {
-  int beeps = 0;
-  std::vector<Launch> launches;
-  std::vector<controls::HelpRequest> helpRequests;
-};
-
 /// The real desktop, which also records what the program asks of it. The help viewer is not opened,
 /// since it would stay open in front of the program.
 class NativeDesktop : public win32::Desktop {
@@ -54,12 +40,12 @@ class NativeDesktop : public win32::Desktop {
   /// Closes the windows of started programs.
   void closeLaunched();
 
-  /// The requests since the last call.
-  Happenings takeHappenings() { return std::exchange(happenings_, {}); }
+  /// The events since the last call, apart from the message boxes.
+  Events takeEvents() { return std::exchange(events_, {}); }
 
  private:
   NativeBoxes& boxes_;
-  Happenings happenings_;
+  Events events_;
   std::string name_;
   win32::RegistrySettings settings_;
   std::optional<win32::TapeSafe> tapeSafe_;

@@ -1,22 +1,17 @@
 #include "driver/native_settings.h"
 
-#include <windows.h>
-
 #include <map>
-#include <vector>
 
-#include "support/registry.h"
-#include "win32/handles.h"
+#include "support/registry_key.h"
 #include "win32/text.h"
 
 namespace driver {
 
+using support::RegistryKey;
+
 namespace {
 
-using Settings = std::map<std::string, std::string>;
-
 constexpr char kRoot[] = "Software\\TallyrexDriver";
-constexpr DWORD kLongestName = 16384;
 
 std::wstring pathOf(const std::string& application) {
   return win32::wide(storedKey(application));
@@ -24,40 +19,6 @@ std::wstring pathOf(const std::string& application) {
 
 std::wstring pathOf(const std::string& application, const std::string& section) {
   return win32::wide(storedKey(application) + "\\" + section);
-}
-
-win32::OwnedKey open(const std::wstring& path) {
-  HKEY key = nullptr;
-  RegOpenKeyExW(HKEY_CURRENT_USER, path.c_str(), 0, KEY_READ, &key);
-  return win32::OwnedKey(key);
-}
-
-std::vector<std::string> sectionsOf(const std::string& application) {
-  std::vector<std::string> names;
-  const win32::OwnedKey key = open(pathOf(application));
-  if (!key) return names;
-  std::wstring name(kLongestName, L'\0');
-  DWORD length = kLongestName;
-  while (RegEnumKeyExW(key.get(), static_cast<DWORD>(names.size()), name.data(), &length, nullptr,
-                       nullptr, nullptr, nullptr) == ERROR_SUCCESS) {
-    names.push_back(win32::narrow({name.data(), length}));
-    length = kLongestName;
-  }
-  return names;
-}
-
-std::vector<std::string> keysOf(const std::string& application, const std::string& section) {
-  std::vector<std::string> names;
-  const win32::OwnedKey key = open(pathOf(application, section));
-  if (!key) return names;
-  std::wstring name(kLongestName, L'\0');
-  DWORD length = kLongestName;
-  while (RegEnumValueW(key.get(), static_cast<DWORD>(names.size()), name.data(), &length, nullptr,
-                       nullptr, nullptr, nullptr) == ERROR_SUCCESS) {
-    names.push_back(win32::narrow({name.data(), length}));
-    length = kLongestName;
-  }
-  return names;
 }
 
 }  // namespace
@@ -82,7 +43,8 @@ void deleteStored(const std::string& application, const std::string& section,
                   const std::string& key) {
   const std::wstring path = pathOf(application, section);
   RegDeleteKeyValueW(HKEY_CURRENT_USER, path.c_str(), win32::wide(key).c_str());
-  if (keysOf(application, section).empty()) RegDeleteTreeW(HKEY_CURRENT_USER, path.c_str());
+  if (RegistryKey::open(HKEY_CURRENT_USER, path).values().empty())
+    RegDeleteTreeW(HKEY_CURRENT_USER, path.c_str());
 }
 
 void clearStored(const std::string& application) {
@@ -94,13 +56,14 @@ void clearAllStored() {
 }
 
 Json dumpStored(const std::string& application) {
-  std::map<std::string, Settings> sections;
-  for (const std::string& section : sectionsOf(application))
-    for (const std::string& key : keysOf(application, section))
-      sections[section][key] = readStored(application, section, key).value_or("");
-  Json dump = Json::object();
-  for (const auto& [section, settings] : sections)
-    for (const auto& [key, text] : settings) dump[section][key] = text;
+  std::map<std::string, std::map<std::string, std::string>> dump;
+  const RegistryKey root = RegistryKey::open(HKEY_CURRENT_USER, pathOf(application));
+  for (const std::wstring& section : root.keys()) {
+    const RegistryKey key = RegistryKey::open(root.get(), section);
+    for (const support::RegistryValue& value : key.values())
+      dump[win32::narrow(section)][win32::narrow(value.name)] =
+          win32::narrow(key.readText(value.name).value_or(std::wstring()));
+  }
   return dump;
 }
 

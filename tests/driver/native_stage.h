@@ -41,11 +41,8 @@ class NativeStage : public Stage {
   void click(controls::Control& control) override;
   void doubleClick(controls::Control& control) override;
   void focus(controls::Control& control) override;
-  void select(controls::TextBox& box, int start, int length) override;
   void useBoxMenu(controls::TextBox& box, controls::BoxCommand command) override;
   void choose(controls::MenuItem& item) override;
-  void resize(controls::Window& window, controls::Twips width, controls::Twips height) override;
-  void move(controls::Window& window, controls::Twips left, controls::Twips top) override;
   void setState(controls::Window& window, controls::WindowState state) override;
   std::optional<std::string> clipboardText() override;
   void setClipboard(const std::optional<std::string>& text) override;
@@ -62,12 +59,12 @@ class NativeStage : public Stage {
   }
   void queueAnswer(int answer) override { boxes_.queueAnswer(answer); }
   void queueColor(const std::optional<std::uint32_t>& color) override { boxes_.queueColor(color); }
-  Json takeEvents() override;
+  Events takeEvents() override;
   bool arrange(const std::string&, const std::vector<std::string>&) override { return false; }
 
  private:
   void send(std::vector<INPUT> inputs);
-  void act(const std::function<void()>& body);
+  void act(const std::function<void()>& body) override;
   void deliver(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
   void sendRequest(const Request& request);
   void settle();

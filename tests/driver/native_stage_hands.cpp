@@ -179,10 +179,6 @@ void NativeStage::focus(controls::Control& control) {
   act([handle] { SetFocus(handle); });
 }
 
-void NativeStage::select(controls::TextBox& box, int start, int length) {
-  act([&] { box.select(start, length); });
-}
-
 // The menu of a box outside the window or the screen, which the mouse cannot reach, opens on the
 // screen all the same.
 bool NativeStage::openBoxMenu(controls::TextBox& box) {
@@ -273,16 +269,6 @@ void NativeStage::receive(const Request& request) {
 
 void NativeStage::bringToFront(controls::Window& window) {
   putInFront(window);
-}
-
-// Dragging by whole pixels would not give exactly the requested twips. Window::setBounds makes the
-// same system call as the end of a drag, and keeps the twips.
-void NativeStage::resize(controls::Window& window, controls::Twips width, controls::Twips height) {
-  act([&] { window.setBounds({window.bounds().left, window.bounds().top, width, height}); });
-}
-
-void NativeStage::move(controls::Window& window, controls::Twips left, controls::Twips top) {
-  act([&] { window.setBounds({left, top, window.bounds().width, window.bounds().height}); });
 }
 
 void NativeStage::setState(controls::Window& window, controls::WindowState state) {

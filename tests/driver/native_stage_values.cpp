@@ -43,31 +43,12 @@ Json NativeStage::dumpSettings() {
   return dumpStored(desktop_.programName());
 }
 
-Json NativeStage::takeEvents() {
+Events NativeStage::takeEvents() {
   clearAway();
-  Json boxes = Json::array();
-  for (const SeenBox& box : boxes_.takeSeen())
-    boxes.push_back({{"text", box.text},
-                     {"title", box.title},
-                     {"buttons", box.buttons},
-                     {"icon", box.icon},
-                     {"answer", box.answer}});
-  Happenings happenings;
-  inspect([&] { happenings = desktop_.takeHappenings(); });
-  Json launches = Json::array();
-  for (const auto& [program, keys, text] : happenings.launches) {
-    launches.push_back({{"program", program}, {"keys", keys}});
-    if (text) launches.back()["text"] = *text;
-  }
-  Json help = Json::array();
-  for (const auto& request : happenings.helpRequests) {
-    const bool winHelp = request.caller == controls::HelpRequest::Caller::WinHelp;
-    help.push_back({{"call", winHelp ? "WinHelp" : "CommonDialog"},
-                    {"file", request.file},
-                    {"command", request.command},
-                    {"data", request.data}});
-  }
-  return {{"beeps", happenings.beeps}, {"boxes", boxes}, {"launches", launches}, {"help", help}};
+  Events events;
+  inspect([&] { events = desktop_.takeEvents(); });
+  events.boxes = boxes_.takeSeen();
+  return events;
 }
 
 }  // namespace driver

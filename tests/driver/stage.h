@@ -5,6 +5,7 @@
 #include <string>
 
 #include "controls/desktop.h"
+#include "driver/events.h"
 #include "driver/json.h"
 
 namespace driver {
@@ -37,12 +38,20 @@ class Stage {
   virtual void click(controls::Control& control) = 0;
   virtual void doubleClick(controls::Control& control) = 0;
   virtual void focus(controls::Control& control) = 0;
-  virtual void select(controls::TextBox& box, int start, int length) = 0;
+  void select(controls::TextBox& box, int start, int length) {
+    act([&] { box.select(start, length); });
+  }
   /// Right-clicks the box and chooses a command of its menu. A grayed one does nothing.
   virtual void useBoxMenu(controls::TextBox& box, controls::BoxCommand command) = 0;
   virtual void choose(controls::MenuItem& item) = 0;
-  virtual void resize(controls::Window& window, controls::Twips width, controls::Twips height) = 0;
-  virtual void move(controls::Window& window, controls::Twips left, controls::Twips top) = 0;
+  /// Dragging by whole pixels would not give exactly the requested twips. Window::setBounds makes
+  /// the same system call as the end of a drag, and keeps the twips.
+  void resize(controls::Window& window, controls::Twips width, controls::Twips height) {
+    act([&] { window.setBounds({window.bounds().left, window.bounds().top, width, height}); });
+  }
+  void move(controls::Window& window, controls::Twips left, controls::Twips top) {
+    act([&] { window.setBounds({left, top, window.bounds().width, window.bounds().height}); });
+  }
   virtual void setState(controls::Window& window, controls::WindowState state) = 0;
 
   virtual std::optional<std::string> clipboardText() = 0;
@@ -64,11 +73,15 @@ class Stage {
   virtual void queueAnswer(int answer) = 0;
   /// The choice in the next color picker; null cancels it.
   virtual void queueColor(const std::optional<std::uint32_t>& color) = 0;
-  /// Beeps, boxes, launches and help requests since the last call.
-  virtual Json takeEvents() = 0;
+  /// The events since the last call.
+  virtual Events takeEvents() = 0;
 
   /// Commands that only one kind supports. False if this one does not.
   virtual bool arrange(const std::string& command, const std::vector<std::string>& texts) = 0;
+
+ protected:
+  /// Runs input to the program as one event, and waits until it has been handled.
+  virtual void act(const std::function<void()>& body) = 0;
 };
 
 }  // namespace driver

@@ -62,8 +62,8 @@ HKEY rootOf(const RegistryKey& record) {
 // False if this user may not write there.
 bool putBackValue(const RegistryKey& record) {
   if (record.readNumber(kWhole) == 0) return true;
-  const std::wstring key = record.readText(kKey);
-  const std::wstring name = record.readText(kName);
+  const std::wstring key = record.readText(kKey).value_or(L"");
+  const std::wstring name = record.readText(kName).value_or(L"");
   if (record.readNumber(kKeyWasMissing) != 0) {
     RegDeleteKeyW(rootOf(record), key.c_str());
     return !RegistryKey::open(rootOf(record), key);

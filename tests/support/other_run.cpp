@@ -7,7 +7,7 @@
 #include "support/clipboard.h"
 #include "support/input.h"
 #include "support/kept_state.h"
-#include "support/registry.h"
+#include "support/registry_key.h"
 #include "support/started_programs.h"
 #include "support/taken_desktop.h"
 #include "support/wait.h"

@@ -5,7 +5,19 @@
 namespace support {
 namespace {
 
-constexpr DWORD kLongestName = 16'384;
+// `next` is RegEnumValueW or RegEnumKeyExW.
+template <class Next>
+std::vector<std::wstring> namesIn(HKEY key, Next next) {
+  constexpr DWORD kLongestName = 16'384;
+  std::vector<std::wstring> names;
+  std::wstring name(kLongestName, L'\0');
+  DWORD length = kLongestName;
+  for (DWORD i = 0;
+       next(key, i, name.data(), &length, nullptr, nullptr, nullptr, nullptr) == ERROR_SUCCESS;
+       ++i, length = kLongestName)
+    names.push_back(name.substr(0, length));
+  return names;
+}
 
 }  // namespace
 
@@ -60,7 +72,7 @@ DWORD RegistryKey::readNumber(const std::wstring& name) const {
   return number;
 }
 
-std::wstring RegistryKey::readText(const std::wstring& name) const {
+std::optional<std::wstring> RegistryKey::readText(const std::wstring& name) const {
   const auto value = read(name);
   if (!value || value->type != REG_SZ) return {};
   std::wstring text(value->data.size() / sizeof(wchar_t), L'\0');
@@ -70,24 +82,21 @@ std::wstring RegistryKey::readText(const std::wstring& name) const {
 
 std::vector<RegistryValue> RegistryKey::values() const {
   std::vector<RegistryValue> found;
-  std::wstring name(kLongestName, L'\0');
-  DWORD length = kLongestName;
-  for (DWORD i = 0; RegEnumValueW(key_, i, name.data(), &length, nullptr, nullptr, nullptr,
-                                  nullptr) == ERROR_SUCCESS;
-       ++i, length = kLongestName)
-    if (auto value = read(name.substr(0, length))) found.push_back(std::move(*value));
+  for (const std::wstring& name : namesIn(key_, RegEnumValueW))
+    if (auto value = read(name)) found.push_back(std::move(*value));
   return found;
 }
 
 std::vector<std::wstring> RegistryKey::keys() const {
-  std::vector<std::wstring> found;
-  std::wstring name(kLongestName, L'\0');
-  DWORD length = kLongestName;
-  for (DWORD i = 0; RegEnumKeyExW(key_, i, name.data(), &length, nullptr, nullptr, nullptr,
-                                  nullptr) == ERROR_SUCCESS;
-       ++i, length = kLongestName)
-    found.push_back(name.substr(0, length));
-  return found;
+  return namesIn(key_, RegEnumKeyExW);
+}
+
+std::optional<std::wstring> readUserText(const std::wstring& key, const std::wstring& name) {
+  return RegistryKey::open(HKEY_CURRENT_USER, key).readText(name);
+}
+
+void writeUserText(const std::wstring& key, const std::wstring& name, const std::wstring& text) {
+  RegistryKey::make(HKEY_CURRENT_USER, key).write(registryText(name, text));
 }
 
 }  // namespace support

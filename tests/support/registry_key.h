@@ -41,8 +41,8 @@ class RegistryKey {
   std::optional<RegistryValue> read(const std::wstring& name) const;
   /// 0 without a number of that name.
   DWORD readNumber(const std::wstring& name) const;
-  /// Empty without a text of that name.
-  std::wstring readText(const std::wstring& name) const;
+  /// Null without a text of that name.
+  std::optional<std::wstring> readText(const std::wstring& name) const;
 
   /// All values, and the names of all keys, in it.
   std::vector<RegistryValue> values() const;
@@ -53,5 +53,9 @@ class RegistryKey {
 
   HKEY key_;
 };
+
+/// A text under the user's registry root; null if it does not exist.
+std::optional<std::wstring> readUserText(const std::wstring& key, const std::wstring& name);
+void writeUserText(const std::wstring& key, const std::wstring& name, const std::wstring& text);
 
 }  // namespace support

@@ -10,7 +10,6 @@
 #include "support/kept_clipboard.h"
 #include "support/kept_state.h"
 #include "support/other_run.h"
-#include "support/registry.h"
 #include "support/registry_key.h"
 #include "support/started_programs.h"
 #include "support/wait.h"
@@ -95,9 +94,7 @@ class TakenDesktopTest : public testing::Test {
     EXPECT_TRUE(eventually([this] { return look() == seen_; })) << look() << ", not " << seen_;
     EXPECT_EQ(readUserText(kChangedKey, L"text"), L"of a person");
     EXPECT_EQ(readUserText(kChangedKey, L"absent"), std::nullopt);
-    HKEY made = nullptr;
-    EXPECT_EQ(RegOpenKeyW(HKEY_CURRENT_USER, (kChangedKey + std::wstring(L"\\New")).c_str(), &made),
-              ERROR_FILE_NOT_FOUND);
+    EXPECT_FALSE(RegistryKey::open(HKEY_CURRENT_USER, kChangedKey + std::wstring(L"\\New")));
     EXPECT_FALSE(isDown(VK_SHIFT));
     EXPECT_FALSE(isAnythingKept());
   }

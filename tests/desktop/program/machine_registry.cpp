@@ -1,15 +1,12 @@
 #include "desktop/program/machine_registry.h"
 
 #include "support/kept_state.h"
+#include "support/registry_key.h"
 
 namespace program {
 
 bool MachineKey::isWritable() {
-  HKEY key = nullptr;
-  if (RegOpenKeyExW(HKEY_LOCAL_MACHINE, L"SOFTWARE", 0, KEY_WRITE, &key) != ERROR_SUCCESS)
-    return false;
-  RegCloseKey(key);
-  return true;
+  return static_cast<bool>(support::RegistryKey::open(HKEY_LOCAL_MACHINE, L"SOFTWARE", KEY_WRITE));
 }
 
 void MachineKey::set(const std::wstring& name, const std::wstring& text) {

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "support/kept_state.h"
-#include "support/registry.h"
+#include "support/registry_key.h"
 #include "support/wine.h"
 
 namespace program {

@@ -2,7 +2,7 @@
 
 #include <windows.h>
 
-#include "support/registry.h"
+#include "support/registry_key.h"
 
 namespace program {
 
