@@ -32,9 +32,7 @@ void frmAnnuity::wireMoneyField(TextBox& field) {
   field.onKeyUp = [&field](KeyCode key) { tidyMoney(field, !controls::isNavigationKey(key)); };
   // No key comes up behind what the mouse or another program does.
   field.onPasted = [&field] { tidyMoney(field, true); };
-  field.onMouseUp = [&field](controls::MouseEdit edit) {
-    if (edit != controls::MouseEdit::None) tidyMoney(field, true);
-  };
+  field.onMenuEdit = [&field](controls::MenuEdit) { tidyMoney(field, true); };
 }
 
 void frmAnnuity::enterField(TextBox& field) {

@@ -131,7 +131,7 @@ void TextBox::paste() {
   }
 }
 
-bool TextBox::pasteByMouse() {
+bool TextBox::pasteFromMenu() {
   const Clipping clipping = window().desktop().clipboardText();
   if (clipping.found == Clipping::Found::Locked) window().desktop().beep();
   return clipping.found == Clipping::Found::Text && pasteText(clipping.text);
@@ -216,29 +216,28 @@ bool TextBox::takeEditKey(const KeyStroke& stroke) {
 }
 
 void TextBox::closeMenu(BoxCommand chosen) {
-  const MouseEdit edit = carryOut(chosen);
-  raise(onMouseUp, edit);
+  if (!carryOut(chosen)) return;
+  raise(onMenuEdit, chosen == BoxCommand::Paste ? MenuEdit::Pasted : MenuEdit::Edited);
 }
 
-MouseEdit TextBox::carryOut(BoxCommand chosen) {
-  const auto edited = [](bool changed) { return changed ? MouseEdit::Edited : MouseEdit::None; };
+bool TextBox::carryOut(BoxCommand chosen) {
   switch (chosen) {
     case BoxCommand::Undo:
-      return edited(undo());
+      return undo();
     case BoxCommand::Cut:
-      return edited(cut());
+      return cut();
     case BoxCommand::Delete:
-      return edited(replaceSelection(""));
+      return replaceSelection("");
     case BoxCommand::Paste:
-      return pasteByMouse() ? MouseEdit::Pasted : MouseEdit::None;
+      return pasteFromMenu();
     case BoxCommand::Copy:
       copy();
-      return MouseEdit::None;
+      return false;
     case BoxCommand::SelectAll:
       selectAll();
-      return MouseEdit::None;
+      return false;
     default:
-      return MouseEdit::None;
+      return false;
   }
 }
 

@@ -13,7 +13,7 @@ namespace controls {
 enum class ChangedBy { Program, User };
 
 /// What the user did to the text with the context menu: edited it as with a key, or pasted into it.
-enum class MouseEdit { None, Edited, Pasted };
+enum class MenuEdit { Edited, Pasted };
 
 /// The commands of a box's context menu.
 enum class BoxCommand { None, Undo, Cut, Copy, Paste, Delete, SelectAll };
@@ -49,9 +49,8 @@ class TextBox : public Control {
   /// Replaces what the Paste command does; the argument is the clipboard's text, null without one.
   /// The context menu still pastes at the caret.
   std::function<void(const std::optional<std::string>&)> onPasteCommand;
-  /// The mouse button goes down in the box, and has come up, after any command of the context menu.
-  std::function<void()> onMouseDown;
-  std::function<void(MouseEdit)> onMouseUp;
+  /// Raised when a command of the context menu has changed the text.
+  std::function<void(MenuEdit)> onMenuEdit;
 
   /// How a line of a multi-line text is drawn; without it all lines are amounts.
   std::function<LineStyle(std::string_view)> styleOfLine;
@@ -102,9 +101,7 @@ class TextBox : public Control {
   Alignment alignment() const { return alignment_; }
   void setAlignment(Alignment alignment);
 
-  void mouseDown() { raise(onMouseDown); }
-  void mouseUp() { raise(onMouseUp, MouseEdit::None); }
-  /// The context menu closes: carries out the command, then raises MouseUp.
+  /// The context menu closes: carries out the command.
   void closeMenu(BoxCommand chosen);
 
  protected:
@@ -137,13 +134,14 @@ class TextBox : public Control {
   void backspace();
   void deleteForward();
   void takeAway(int start, int end);
-  bool pasteByMouse();
+  bool pasteFromMenu();
   bool pasteText(std::string text);
   bool hasPairAt(int start) const;
   // Longer by the other half of a pair that it cuts.
   Selection wholeCharacters(Selection selection) const;
   bool copySelection();
-  MouseEdit carryOut(BoxCommand chosen);
+  /// Whether it changed the text.
+  bool carryOut(BoxCommand chosen);
   void actOnCharacter(KeyAscii character);
   void insert(KeyAscii character);
 

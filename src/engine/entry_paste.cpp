@@ -14,18 +14,16 @@ void EntryPaste::paste(const std::optional<std::string>& text) {
   }
 }
 
-void EntryPaste::mousePaste(std::string& text) {
+void EntryPaste::menuPaste(std::string& text) {
   text = controls::withoutLineEnd(std::move(text));
-  mousePasteIsOdd_ = common::hasOddCommas(text);
+  menuPasteIsOdd_ = common::hasOddCommas(text);
 }
 
-// Separators that were in the entry before are the program's own, wherever they are now. An empty
-// box had nothing pasted into it.
-void EntryPaste::mouseUp(controls::MouseEdit edit) {
+// Separators that were in the entry before are the program's own, wherever they are now.
+void EntryPaste::menuEdit(controls::MenuEdit edit) {
+  if (edit == controls::MenuEdit::Edited) return entry_.tidy();
   std::string text = entry_.text();
-  if (edit == controls::MouseEdit::Edited) entry_.tidy();
-  if (edit != controls::MouseEdit::Pasted || text.empty()) return;
-  if (mousePasteIsOdd_) {
+  if (menuPasteIsOdd_) {
     refuse();
   } else {
     std::erase(text, ',');

@@ -16,10 +16,10 @@ class EntryPaste {
   /// Replaces the whole entry by the clipboard's text.
   void paste(const std::optional<std::string>& text);
   /// The context menu is about to insert the text at the caret: checks its commas.
-  void mousePaste(std::string& text);
+  void menuPaste(std::string& text);
   /// After a paste by the context menu the whole entry must be a number; any other edit counts as
   /// one by keyboard.
-  void mouseUp(controls::MouseEdit edit);
+  void menuEdit(controls::MenuEdit edit);
 
  private:
   void take(const std::string& text);
@@ -29,7 +29,7 @@ class EntryPaste {
   Entry& entry_;
   const Decimals& decimals_;
   controls::Desktop& desktop_;
-  bool mousePasteIsOdd_ = false;
+  bool menuPasteIsOdd_ = false;
 };
 
 }  // namespace engine

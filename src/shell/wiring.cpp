@@ -69,11 +69,11 @@ void frmCalc::wireEntry() {
   txtEntry.onKeyPress = [this](controls::KeyAscii& key) { machine_.keyPress(key); };
   txtEntry.onKeyUp = [this](controls::KeyCode key) { machine_.entry().keyUp(key); };
   txtEntry.onChange = [this](controls::ChangedBy by) { machine_.entry().changed(by); };
-  txtEntry.onMouseUp = [this](controls::MouseEdit edit) { machine_.entryPaste().mouseUp(edit); };
+  txtEntry.onMenuEdit = [this](controls::MenuEdit edit) { machine_.entryPaste().menuEdit(edit); };
   txtEntry.onPasteCommand = [this](const std::optional<std::string>& text) {
     machine_.entryPaste().paste(text);
   };
-  txtEntry.onPaste = [this](std::string& text) { machine_.entryPaste().mousePaste(text); };
+  txtEntry.onPaste = [this](std::string& text) { machine_.entryPaste().menuPaste(text); };
   txtEntry.onGotFocus = [this, &txtEntry] { colors_.mark(txtEntry); };
 }
 

@@ -63,7 +63,6 @@ std::optional<LRESULT> TapeBox::takeMouse(const Message& message) {
       return 0;
     case WM_LBUTTONUP:
       if (dragging_) ReleaseCapture();
-      mouseUp();
       return 0;
     case WM_CAPTURECHANGED:
       dragging_ = false;
@@ -84,7 +83,6 @@ void TapeBox::pressMouse(const Message& message) {
   const int firstLine = view_.firstLine();
   const int anchor = isDown(VK_SHIFT) ? view_.anchor() : place;
   SetFocus(handle());
-  mouseDown();
   view_.scrollTo(firstLine);
   if (isThirdClick()) return startDrag(Unit::Line, spanAt(place, Unit::Line));
   doubleClickTime_ = 0;

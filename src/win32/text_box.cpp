@@ -29,11 +29,6 @@ std::optional<LRESULT> TextBox::take(const Message& message) {
   switch (message.id) {
     case WM_KEYDOWN:
       return {};
-    case WM_LBUTTONUP: {
-      const LRESULT result = passOn(message);
-      mouseUp();
-      return result;
-    }
     case WM_LBUTTONDBLCLK: {
       const LRESULT result = passOn(message);
       doubleClick();

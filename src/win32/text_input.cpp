@@ -81,11 +81,8 @@ std::optional<LRESULT> TextInput::takeMouse(const Message& message) {
   if (message.id == WM_LBUTTONDOWN || message.id == WM_RBUTTONDOWN) {
     // The focus moves first, so that the click places the caret even if a focus handler moves it.
     SetFocus(native_.handle());
-    box_.mouseDown();
     return message.id == WM_RBUTTONDOWN ? std::optional<LRESULT>(0) : std::nullopt;
   }
-  // A menu opened by the keyboard counts like one opened by the mouse.
-  if (message.id == WM_CONTEXTMENU) box_.mouseDown();
   showMenu(menuPlace(message));
   return 0;
 }

@@ -20,14 +20,12 @@ TEST_P(TextBoxContract, PasteHandlerMayChangeOrDiscardTheText) {
 TEST_P(TextBoxContract, DiscardedPasteLeavesTheSelection) {
   box_.onPaste = [](std::string& text) { text.clear(); };
   box_.onPasted = [this] { note("pasted"); };
-  box_.onMouseUp = [this](controls::MouseEdit edit) {
-    note(edit == controls::MouseEdit::None ? "none" : "edit");
-  };
+  box_.onMenuEdit = [this](controls::MenuEdit) { note("edit"); };
   put(box_, "1995", 1, 2);
   paste(box_, "23");
   box_.closeMenu(controls::BoxCommand::Paste);
   EXPECT_EQ(shown(box_), "1995 1+2");
-  EXPECT_EQ(takeLog(), Log{"none"});
+  EXPECT_EQ(takeLog(), Log{});
 }
 
 TEST_P(TextBoxContract, PasteIsReportedAlsoWhenItChangesNothing) {
@@ -160,10 +158,8 @@ TEST_P(TextBoxContract, LockedClipboardChangesNothing) {
 
 TEST_P(TextBoxContract, ContextMenuReportsPasteOrEdit) {
   using controls::BoxCommand;
-  box_.onMouseUp = [this](controls::MouseEdit edit) {
-    note(edit == controls::MouseEdit::Pasted   ? "pasted"
-         : edit == controls::MouseEdit::Edited ? "edited"
-                                               : "none");
+  box_.onMenuEdit = [this](controls::MenuEdit edit) {
+    note(edit == controls::MenuEdit::Pasted ? "pasted" : "edited");
   };
   put(box_, "12345", 0, 2);
   box_.closeMenu(BoxCommand::Cut);
@@ -175,7 +171,7 @@ TEST_P(TextBoxContract, ContextMenuReportsPasteOrEdit) {
   box_.closeMenu(BoxCommand::None);
   box_.closeMenu(BoxCommand::SelectAll);
   box_.closeMenu(BoxCommand::Copy);
-  EXPECT_EQ(takeLog(), (Log{"none", "none", "none", "none"}));
+  EXPECT_EQ(takeLog(), Log{});
   EXPECT_EQ(kind_->desktop().clipboardText().text, "345");
   box_.closeMenu(BoxCommand::Delete);
   EXPECT_EQ(box_.text(), "");
@@ -199,6 +195,12 @@ TEST_F(OneLineContract, PasteStopsAtALineBreak) {
     paste(first_, text);
     EXPECT_EQ(first_.text(), "quick") << testing::PrintToString(text);
   }
+}
+
+TEST_F(OneLineContract, EnterTypesNothing) {
+  first_.setText("12");
+  first_.typeCharacter(controls::kKeyEnter);
+  EXPECT_EQ(first_.text(), "12");
 }
 
 TEST_F(OneLineContract, OverlongEditIsRefused) {

@@ -59,10 +59,7 @@ void InMemoryStage::doubleClick(controls::Control& control) {
 
 void InMemoryStage::useBoxMenu(controls::TextBox& box, controls::BoxCommand command) {
   focus(box);
-  act([&] {
-    box.mouseDown();
-    box.closeMenu(command);
-  });
+  act([&] { box.closeMenu(command); });
 }
 
 // Only the main window has a menu.

@@ -64,16 +64,6 @@ TEST_F(EntryKey, LoneSeparatorIsNoEntry) {
   EXPECT_TRUE(desktop_.boxes.empty());
 }
 
-// The number of messages after an edit by the context menu has left `text` in the entry.
-std::size_t boxesAfterMouse(controls::MouseEdit edit, const char* text) {
-  inmemory::Desktop desktop;
-  const auto window = desktop.createWindow(shell::frmCalcLayout());
-  AddingMachine machine{MachineControls(*window)};
-  window->textBox("txtEntry").setText(text);
-  machine.entryPaste().mouseUp(edit);
-  return desktop.boxes.size();
-}
-
 TEST(EntryPaste, LockedClipboardBeeps) {
   inmemory::Desktop desktop;
   const auto window = desktop.createWindow(shell::frmCalcLayout());
@@ -85,22 +75,6 @@ TEST(EntryPaste, LockedClipboardBeeps) {
   entry.closeMenu(controls::BoxCommand::Paste);
   EXPECT_EQ(entry.text(), "12");
   EXPECT_EQ(desktop.beeps, 2);
-}
-
-TEST(EntryMouse, PastedWordIsReported) {
-  EXPECT_EQ(boxesAfterMouse(controls::MouseEdit::Pasted, "12abc"), 1U);
-}
-
-TEST(EntryMouse, EmptyPasteIsNotReported) {
-  EXPECT_EQ(boxesAfterMouse(controls::MouseEdit::Pasted, ""), 0U);
-}
-
-TEST(EntryMouse, CutIsNotAPaste) {
-  EXPECT_EQ(boxesAfterMouse(controls::MouseEdit::Edited, ""), 0U);
-}
-
-TEST(EntryMouse, ClickIsNotAPaste) {
-  EXPECT_EQ(boxesAfterMouse(controls::MouseEdit::None, "-"), 0U);
 }
 
 }  // namespace
