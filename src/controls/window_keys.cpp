@@ -85,7 +85,7 @@ bool Window::takeAccessKey(KeyCode character) {
     if (control.accessKey() != wanted || !control.visible() || !control.enabled()) continue;
     if (control.takesFocus()) {
       control.setFocus();
-      if (auto* clickable = dynamic_cast<ClickControl*>(&control)) clickable->click();
+      dynamic_cast<ClickControl&>(control).click();
       return true;
     }
     const auto next =

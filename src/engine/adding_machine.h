@@ -68,8 +68,8 @@ class AddingMachine {
   bool takeEntry(const std::string& text, Operator key);
   bool total();
   bool printEntryAndTotal(const std::string& text);
-  bool printShown();
-  bool printShownAsTotal();
+  void printShown();
+  void printShownAsTotal();
   void takeSquareRoot();
   void showPercent(const Amount& amount);
   bool entryIsTyped(const std::string& text) const;

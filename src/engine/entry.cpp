@@ -17,12 +17,9 @@ constexpr controls::Twips kWidthOfALongTotal = 2300;
 
 std::optional<Amount> Entry::amountIn(const std::string& text) const {
   Amount amount = {.text = text};
-  const bool isNumber = common::trap(
-      [&] {
-        amount.value = common::toNumber(text);
-        if (!isShowable(amount.value)) throw common::RunTimeError(common::kOverflow);
-      },
-      [&](const common::RunTimeError& error) { showError(desktop_, error.number()); });
+  const bool isNumber =
+      common::trap([&] { amount.value = common::toNumber(text); },
+                   [&](const common::RunTimeError& error) { showError(desktop_, error.number()); });
   return isNumber ? std::optional(amount) : std::nullopt;
 }
 

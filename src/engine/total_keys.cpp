@@ -1,3 +1,5 @@
+#include <cassert>
+
 #include "common/number_text.h"
 #include "engine/adding_machine.h"
 
@@ -19,8 +21,11 @@ bool AddingMachine::total() {
     askForPlusOrMinus(text);
     return false;
   }
-  const bool printed = entryIsTyped(text) ? printEntryAndTotal(text) : printShown();
-  if (!printed) return false;
+  if (!entryIsTyped(text)) {
+    printShown();
+  } else if (!printEntryAndTotal(text)) {
+    return false;
+  }
   entry_.format();
   if (mode_ == Mode::Product) {
     mode_ = Mode::Add;
@@ -52,24 +57,24 @@ bool AddingMachine::printEntryAndTotal(const std::string& text) {
   if (!takeEntry(text, Operator::Equals)) return false;
   if (calculation_.lastMark() == Mark::Total) return true;
   entry_.format();
-  return printShownAsTotal();
+  printShownAsTotal();
+  return true;
 }
 
 // After a total, prints a zero.
-bool AddingMachine::printShown() {
+void AddingMachine::printShown() {
   if (calculation_.lastMark() == Mark::Total) {
     entry_.showValue("0");
     calculation_.clearTotal();
   }
-  if (!printShownAsTotal()) return false;
+  printShownAsTotal();
   if (addMode()) calculation_.clearTotal();
-  return true;
 }
 
-bool AddingMachine::printShownAsTotal() {
+void AddingMachine::printShownAsTotal() {
   const auto amount = entry_.amountIn(entry_.text());
-  if (amount) postToTape({*amount, Mark::Total});
-  return amount.has_value();
+  assert(amount);
+  postToTape({*amount, Mark::Total});
 }
 
 void AddingMachine::squareRoot() {
