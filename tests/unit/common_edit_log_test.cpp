@@ -24,6 +24,17 @@ TEST(EditLog, ReplaysTheEdits) {
   EXPECT_EQ(replayEdits(log), kExample);
 }
 
+// A tape may be offered by a later version than the one that kept it.
+TEST(EditLog, RecordsKeepTheirForm) {
+  constexpr char kRecords[] =
+      "\0\0\0\0\0\0\0\0\3\0\0\0\xAD\xC5\x3F\xF2Top"
+      "\1\0\0\0\2\0\0\0\3\0\0\0\x3D\xA7\x1E\x22"
+      "ape";
+  EXPECT_EQ(
+      editRecord({.inserted = "Top"}) + editRecord({.start = 1, .removed = 2, .inserted = "ape"}),
+      std::string(kRecords, sizeof kRecords - 1));
+}
+
 TEST(EditLog, TruncatedLogEndsWithItsLastCompleteRecord) {
   const std::string log = exampleLog();
   const std::string last = editRecord({.start = 17, .inserted = "\r\nend"});

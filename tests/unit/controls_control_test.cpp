@@ -106,6 +106,16 @@ TEST_F(ControlTest, PassesTheFocusOnBeforeItIsShownAsDisabledOrHidden) {
   EXPECT_EQ(takeLog(), Log{"cancel enabled"});
 }
 
+TEST_F(ControlTest, KeepsTheFocusThatNoOtherCanTake) {
+  for (const auto& each : window_->controls())
+    if (each.get() != &box_) each->setEnabled(false);
+  box_.setEnabled(false);
+  EXPECT_EQ(focused(), "box");
+  button_.setEnabled(true);
+  box_.setEnabled(true);
+  EXPECT_EQ(focused(), "box");
+}
+
 TEST_F(ControlTest, RaisesTheEventsOfKeysAndMouse) {
   Control& label = window_->control("label");
   label.onKeyPress = [this](KeyAscii& character) {

@@ -46,6 +46,15 @@ TEST_F(DesktopTest, DialogOutlivesItsOwner) {
   EXPECT_EQ(takeLog().back(), "answered");
 }
 
+TEST_F(DesktopTest, DialogKeepsItsOwnerWhenAnotherWindowGoes) {
+  meanwhile([this] {
+    const SystemDialog dialog(desktop_);
+    other_.reset();
+    EXPECT_EQ(dialog.owner(), window_.get());
+  });
+  showMessage();
+}
+
 TEST_F(DesktopTest, GoneWindowIsNeitherInFrontNorADialog) {
   other_->showModal();
   other_.reset();

@@ -68,6 +68,17 @@ TEST(TapeSafe, ReturnsTheOlderRunFirstAndForgetsBoth) {
   EXPECT_EQ(safe.lostTapes(), "");
 }
 
+class DamagedSafe : public inmemory::TapeSafe {
+ protected:
+  std::vector<std::string> lostRecords() override {
+    return {"damaged", common::editRecord({.inserted = "Top"}), "damaged"};
+  }
+};
+
+TEST(TapeSafe, LeavesOutWhatCannotBeReplayed) {
+  EXPECT_EQ(DamagedSafe().lostTapes(), "Top");
+}
+
 // A line, or an edit in the middle, takes the same space on a tape of any length.
 TEST(TapeSafe, CostOfAnEditDoesNotGrowWithTheTape) {
   inmemory::TapeSafe safe;

@@ -107,6 +107,27 @@ TEST_F(WindowTest, FocusAndActivationFollowTheWindowInFront) {
   EXPECT_EQ(takeLog(), Log{"window to front"});
 }
 
+TEST_F(WindowTest, WithNothingToFocusComesToTheFrontToo) {
+  const auto bare = desktop_.createWindow(
+      {.name = "bare", .caption = "Bare", .place = kAnyPlace, .controls = {}});
+  bare->onActivate = noting("bare active");
+  bare->show();
+  other_->show();
+  EXPECT_EQ(takeLog(), (Log{"bare visible", "bare to front", "bare active", "other visible",
+                            "other to front"}));
+}
+
+TEST_F(WindowTest, FirstControlThatCanHaveTheFocusGetsItInFront) {
+  for (const auto& each : other_->controls()) each->setEnabled(false);
+  other_->show();
+  EXPECT_EQ(other_->focusedControl(), nullptr);
+  other_->control("box").onGotFocus = noting("got");
+  other_->control("box").setEnabled(true);
+  takeLog();
+  other_->control("box").setFocus();
+  EXPECT_EQ(takeLog(), (Log{"other focus on box", "got"}));
+}
+
 TEST_F(WindowTest, HidingABackgroundOrHiddenWindowLeavesTheOneInFront) {
   other_->hide();
   EXPECT_EQ(takeLog(), Log{});

@@ -47,6 +47,9 @@ TEST(TapeLineStyle, TellsAmountsTotalsAndNotesApart) {
       {"a caption of a record", "     Monthly Payment =", LineStyle::Note},
       {"words", "for the garage", LineStyle::Note},
       {"a number alone", "12.00", LineStyle::Note},
+      {"a number and a blank", "12.00 ", LineStyle::Note},
+      {"a number and a letter", "12.00 x ", LineStyle::Note},
+      {"a date", "12.05.26 + ", LineStyle::Note},
       {"a number of things", "12 apples", LineStyle::Note},
   };
   for (const StyleCase& each : cases)
