@@ -1,5 +1,5 @@
 #include <string>
-#include <thread>
+#include <string_view>
 
 #include "appearance/appearance_test_base.h"
 #include "win32/work_area.h"
@@ -8,27 +8,31 @@
 namespace appearance {
 namespace {
 
+RECT placeOfLastMessage;
+
+// A message may be gone too soon to be found among the windows.
+LRESULT CALLBACK noteMessage(int code, WPARAM wParam, LPARAM lParam) {
+  constexpr int kLongestName = 8;
+  const auto window = reinterpret_cast<HWND>(wParam);
+  wchar_t name[kLongestName] = L"";
+  if (code == HCBT_DESTROYWND && GetClassNameW(window, name, kLongestName) > 0 &&
+      std::wstring_view(name) == L"#32770")
+    GetWindowRect(window, &placeOfLastMessage);
+  return CallNextHookEx(nullptr, code, wParam, lParam);
+}
+
 class MessagePlace : public AppearanceTest {
  protected:
   /// Has the main window show a message, which is closed at once; returns where it was.
   RECT placeOfMessage() {
-    RECT box = {};
-    std::thread watcher([&box] {
-      constexpr int kTries = 2000;
-      bool gone = false;
-      for (int tries = 0; tries < kTries && !gone; ++tries) {
-        RECT seen = {};
-        const HWND dialog = FindWindowW(L"#32770", L"Tallyrex");
-        if (dialog && IsWindowVisible(dialog) && GetWindowRect(dialog, &seen)) box = seen;
-        gone = !dialog && box.right > 0;
-        Sleep(1);
-      }
-    });
+    placeOfLastMessage = {};
+    const DWORD thread = GetWindowThreadProcessId(window("frmCalc"), nullptr);
+    const HHOOK hook = SetWindowsHookExW(WH_CBT, noteMessage, nullptr, thread);
     tell("type \"1+\"");
     tell("menu mnuWinPadTape");
-    watcher.join();
-    EXPECT_GT(box.right, 0) << "no message";
-    return box;
+    UnhookWindowsHookEx(hook);
+    EXPECT_GT(placeOfLastMessage.right, 0) << "no message";
+    return placeOfLastMessage;
   }
 };
 
