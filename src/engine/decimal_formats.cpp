@@ -37,9 +37,8 @@ int trailingZeros(std::string_view digits) {
 }  // namespace
 
 std::string decimalsPattern(int places) {
-  std::string pattern(kWholePattern);
-  if (places > 0) pattern.append(".").append(static_cast<std::size_t>(places), '0');
-  return pattern;
+  const std::string whole(kWholePattern);
+  return places > 0 ? whole + '.' + std::string(static_cast<std::size_t>(places), '0') : whole;
 }
 
 std::string formatFloating(std::string_view text) {
@@ -58,7 +57,7 @@ std::string formatKeyed(std::string_view text, int places) {
   if (point == std::string_view::npos) return groupWhole(text);
   const int typed = static_cast<int>(text.size() - point) - 1;
   const std::string pattern =
-      typed == 0 ? std::string(kWholePattern) + "." : decimalsPattern(std::min(typed, places));
+      typed == 0 ? decimalsPattern(0) + "." : decimalsPattern(std::min(typed, places));
   return keepSign(text, formatText(text, pattern));
 }
 
