@@ -19,7 +19,7 @@ inline constexpr ULONGLONG kPatience = 30'000;
 /// Whether the condition becomes true within so many milliseconds.
 template <class Condition>
 bool eventually(Condition condition, ULONGLONG patience = kPatience) {
-  constexpr DWORD kPoll = 2;
+  constexpr DWORD kPoll = 10;
   const ULONGLONG until = GetTickCount64() + patience;
   while (!condition()) {
     if (GetTickCount64() > until) return false;
