@@ -1,7 +1,5 @@
 #include "appearance/appearance_test_base.h"
 
-#include "driver/native_handles.h"
-
 namespace appearance {
 namespace {
 
@@ -37,18 +35,6 @@ void AppearanceTest::TearDown() {
   DesktopTest::TearDown();
 }
 
-HWND AppearanceTest::window(const std::string& name) {
-  HWND handle = nullptr;
-  stage().inspect([&] { handle = driver::handleOf(*stage().findWindow(name)); });
-  return handle;
-}
-
-HWND AppearanceTest::control(const std::string& window, const std::string& name) {
-  HWND handle = nullptr;
-  stage().inspect([&] { handle = driver::handleOf(stage().findWindow(window)->control(name)); });
-  return handle;
-}
-
 void AppearanceTest::openAnsweredLoan() {
   tell("menu mnuWinFinCalcLoan");
   for (const char* keys : {"\"30\\r\"", "\"7.5\\r\""}) tell(std::string("type ") + keys);
@@ -75,12 +61,6 @@ void AppearanceTest::chooseTextSize(int percent) {
 
 void AppearanceTest::forgetTextSize() {
   RegDeleteKeyValueW(HKEY_CURRENT_USER, kAccessibility, kTextSize);
-}
-
-RECT AppearanceTest::placeOf(HWND window) {
-  RECT place;
-  GetWindowRect(window, &place);
-  return place;
 }
 
 SIZE AppearanceTest::clientSize(HWND window) {

@@ -5,8 +5,11 @@
 #include <string>
 
 #include "desktop/desktop_test.h"
+#include "support/windows.h"
 
 namespace appearance {
+
+using support::placeOf;
 
 /// The resolutions of 100, 125, 150, 200 and 300 percent.
 inline constexpr int kResolutions[] = {96, 120, 144, 192, 288};
@@ -15,9 +18,6 @@ inline constexpr int kResolutions[] = {96, 120, 144, 192, 288};
 class AppearanceTest : public desktop::DesktopTest {
  protected:
   void TearDown() override;
-
-  HWND window(const std::string& name);
-  HWND control(const std::string& window, const std::string& name);
 
   /// Opens the loan calculator and calculates an answer, so that each of its controls is visible.
   void openAnsweredLoan();
@@ -31,7 +31,6 @@ class AppearanceTest : public desktop::DesktopTest {
   static void chooseTextSize(int percent);
   static void forgetTextSize();
 
-  static RECT placeOf(HWND window);
   static SIZE clientSize(HWND window);
   static LOGFONTW fontOf(HWND control);
   static TEXTMETRICW metricsOf(HWND control);

@@ -4,7 +4,9 @@
 
 #include "appearance/appearance_test_base.h"
 #include "appearance/picture.h"
+#include "shell/frm_calc_layout.h"
 #include "win32/fonts.h"
+#include "win32/text.h"
 
 // What is drawn on every key: each face is compared with a picture of the same letters, symbol or
 // icon.
@@ -12,43 +14,21 @@ namespace appearance {
 namespace {
 
 struct Face {
-  const char* key;
-  const wchar_t* text;
+  std::string key;
+  std::wstring text;
+  controls::FontLayout font;
 };
 
-constexpr Face kFaces[] = {
-    {"cmdNumber(0)", L"0"},
-    {"cmdNumber(1)", L"1"},
-    {"cmdNumber(2)", L"2"},
-    {"cmdNumber(3)", L"3"},
-    {"cmdNumber(4)", L"4"},
-    {"cmdNumber(5)", L"5"},
-    {"cmdNumber(6)", L"6"},
-    {"cmdNumber(7)", L"7"},
-    {"cmdNumber(8)", L"8"},
-    {"cmdNumber(9)", L"9"},
-    {"cmdPeriod", L"."},
-    {"cmdDivide", L"\u00F7"},
-    {"cmdTimes", L"\u00D7"},
-    {"cmdMinus", L"\u2212"},
-    {"cmdPlus", L"+"},
-    {"cmdEquals", L"="},
-    {"cmdChangeSign", L"\u00B1"},
-    {"cmdPercent", L"%"},
-    {"cmdArrow", L"\u2190"},
-    {"cmdMemClear", L"MC"},
-    {"cmdMemRecall", L"MR"},
-    {"cmdMemStore", L"MS"},
-    {"cmdMemPlus", L"&M +"},
-    {"cmdClearCurrent", L"CE&ntry"},
-    {"cmdClearCalc", L"C&Total"},
-    {"cmdClearTape", L"CTa&pe"},
-    {"cmdClearAll", L"C&All"},
-    {"cmdSquareRoot", L"sqrt"},
-    {"chkFloatingDec", L"Float\ndec."},
-    {"chkShiftDec", L"Stat.\ndec."},
-    {"chkTapeOff", L"Tape\noff"},
-};
+// What each key of the main window shows: its face, or else its caption.
+std::vector<Face> faces() {
+  std::vector<Face> faces;
+  for (const auto& key : shell::frmCalcLayout().controls)
+    if (key.kind == controls::ControlKind::Button ||
+        key.kind == controls::ControlKind::ToggleButton)
+      faces.push_back({std::string(key.name),
+                       win32::wide(key.face.empty() ? key.caption : key.face), key.font});
+  return faces;
+}
 
 struct Icon {
   const char* key;
@@ -178,20 +158,14 @@ class KeyFaces : public AppearanceTest {
     constexpr int kFrame = 3;
     return {kFrame, kFrame, picture.width() - kFrame, picture.height() - kFrame};
   }
-
-  controls::FontLayout fontLayoutOf(const std::string& key) {
-    controls::FontLayout font;
-    stage().inspect([&] { font = stage().findWindow("frmCalc")->control(key).layout().font; });
-    return font;
-  }
 };
 
 TEST_F(KeyFaces, LettersAndSymbolsAreThoseOfTheKey) {
   tell("press Ctrl+T");
-  for (const Face& face : kFaces) {
+  for (const Face& face : faces()) {
     const HWND key = control("frmCalc", face.key);
     win32::Fonts fonts(win32::Scale::of(key));
-    const HFONT font = fonts.fontShowing(fontLayoutOf(face.key), face.text);
+    const HFONT font = fonts.fontShowing(face.font, face.text);
     EXPECT_TRUE(hasEveryGlyph(font, face.text)) << face.key;
     const Picture picture(key);
     const SIZE size = {picture.width(), picture.height()};
@@ -203,11 +177,12 @@ TEST_F(KeyFaces, LettersAndSymbolsAreThoseOfTheKey) {
 TEST_F(KeyFaces, NoTwoLookAlike) {
   tell("press Ctrl+T");
   std::vector<Shape> shapes;
-  for (const Face& face : kFaces) shapes.push_back(shapeOn(Picture(control("frmCalc", face.key))));
+  const std::vector<Face> keys = faces();
+  for (const Face& face : keys) shapes.push_back(shapeOn(Picture(control("frmCalc", face.key))));
   for (std::size_t one = 0; one < shapes.size(); ++one)
     for (std::size_t other = one + 1; other < shapes.size(); ++other)
       EXPECT_LT(agreement(shapes[one], shapes[other]), 98)
-          << kFaces[one].key << " and " << kFaces[other].key;
+          << keys[one].key << " and " << keys[other].key;
 }
 
 TEST_F(KeyFaces, PictureButtonsShowTheirIcons) {

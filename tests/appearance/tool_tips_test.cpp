@@ -1,42 +1,15 @@
-#include <algorithm>
-#include <cstddef>
 #include <string>
 
+#include "annuity/frm_annuity_layout.h"
 #include "appearance/appearance_test_base.h"
 #include "driver/native_handles.h"
+#include "shell/frm_calc_layout.h"
 #include "support/wait.h"
+#include "win32/text.h"
 
 // The tool tips as the user sees them: in the system's tool tip window, below the mouse.
 namespace appearance {
 namespace {
-
-struct Tip {
-  const char* window;
-  const char* control;
-  const wchar_t* text;
-};
-
-constexpr Tip kTips[] = {
-    {"frmCalc", "cmdClearCurrent", L"Clears only the entry."},
-    {"frmCalc", "cmdMemClear", L"Clear memory total only."},
-    {"frmCalc", "cmdClearCalc", L"Clears only the total and sets it to zero."},
-    {"frmCalc", "cmdMemRecall", L"Recall memory total."},
-    {"frmCalc", "cmdClearTape", L"Clears only the tape."},
-    {"frmCalc", "cmdMemStore", L"Replace memory total with entry."},
-    {"frmCalc", "cmdChangeSign", L"Change Sign"},
-    {"frmCalc", "cmdClearAll",
-     L"Clears the entry box, the tape and resets the total to zero but does not clear the memory."},
-    {"frmCalc", "cmdMemPlus", L"Add entry to memory total."},
-    {"frmCalc", "cmdSquareRoot", L"Square Root"},
-    {"frmCalc", "chkFloatingDec", L"Floating decimal is on when pressed down."},
-    {"frmCalc", "chkShiftDec", L"The decimal is stationary until keyed when pressed down."},
-    {"frmCalc", "chkTapeOff", L"Tape is off when pressed down."},
-    {"frmCalc", "txtDec", L"Number of decimal places allowed."},
-    {"frmAnnuity", "cmdRotateLabels", L"Rotate the financial annuity configuration."},
-    {"frmAnnuity", "cmdClearAll", L"Clear all boxes."},
-    {"frmAnnuity", "cmdHelp", L"Pulls up help."},
-    {"frmAnnuity", "cmdPrintToTape", L"Send Info to Tape."},
-};
 
 // The text of the tool tip on the screen; empty without one.
 std::wstring shownTip() {
@@ -71,35 +44,27 @@ class ToolTips : public AppearanceTest {
     return seen;
   }
 
-  void expectTipsOf(const std::string& window) {
-    for (const Tip& tip : kTips) {
-      if (tip.window != window) continue;
-      EXPECT_EQ(tipUnderTheMouse(control(window, tip.control)), tip.text) << tip.control;
+  /// Of all controls that have one; returns how many these are.
+  int expectTipsOf(const controls::WindowLayout& layout) {
+    int tips = 0;
+    for (const controls::ControlLayout& each : layout.controls) {
+      if (each.toolTip.empty()) continue;
+      const HWND handle = control(std::string(layout.name), std::string(each.name));
+      EXPECT_EQ(tipUnderTheMouse(handle), win32::wide(each.toolTip)) << each.name;
+      ++tips;
     }
-  }
-
-  /// How many controls of a window have a tool tip.
-  std::ptrdiff_t tipsIn(const std::string& window) {
-    std::ptrdiff_t count = 0;
-    stage().inspect([&] {
-      const auto& controls = stage().findWindow(window)->controls();
-      count = std::count_if(controls.begin(), controls.end(),
-                            [](const auto& control) { return !control->toolTip().empty(); });
-    });
-    return count;
+    return tips;
   }
 };
 
 TEST_F(ToolTips, OfTheMainWindowAppearUnderTheMouse) {
   tell("press Ctrl+T");
-  expectTipsOf("frmCalc");
-  EXPECT_EQ(tipsIn("frmCalc"), 14);
+  EXPECT_EQ(expectTipsOf(shell::frmCalcLayout()), 14);
 }
 
 TEST_F(ToolTips, OfTheFinancialCalculatorAppearUnderTheMouse) {
   openAnsweredLoan();
-  expectTipsOf("frmAnnuity");
-  EXPECT_EQ(tipsIn("frmAnnuity"), 4);
+  EXPECT_EQ(expectTipsOf(annuity::frmAnnuityLayout()), 4);
 }
 
 TEST_F(ToolTips, KeyWithoutOneShowsNone) {

@@ -23,6 +23,8 @@ class DesktopTest : public testing::Test {
   driver::NativeStage& stage() { return *stage_; }
   /// Carries out a driver command, which must not fail, and returns its answer.
   driver::Json tell(const std::string& command);
+  HWND window(const std::string& name);
+  HWND control(const std::string& window, const std::string& name);
   std::string entry() { return tell("snapshot")["entry"]; }
   std::string tape() { return tell("snapshot")["tape"]; }
 

@@ -1,8 +1,8 @@
 #include <iterator>
 
 #include "desktop/desktop_test.h"
-#include "driver/native_handles.h"
 #include "support/input.h"
+#include "support/windows.h"
 
 namespace desktop {
 namespace {
@@ -13,19 +13,6 @@ constexpr int kTwipsPerInch = 1440;
 
 class WindowTest : public DesktopTest {
  protected:
-  HWND mainWindow() {
-    HWND handle = nullptr;
-    stage().inspect([&] { handle = driver::handleOf(*stage().findWindow("frmCalc")); });
-    return handle;
-  }
-
-  HWND handleOf(const std::string& control) {
-    HWND handle = nullptr;
-    stage().inspect(
-        [&] { handle = driver::handleOf(stage().findWindow("frmCalc")->control(control)); });
-    return handle;
-  }
-
   /// The keys of a hand that does not wait in between: the driver gives up a menu that stays open.
   void pressAltAnd(WORD key, Inputs keysBehind = {}) {
     Inputs inputs;
@@ -37,7 +24,7 @@ class WindowTest : public DesktopTest {
   }
 
   int twips(int pixels) { return MulDiv(pixels, kTwipsPerInch, static_cast<int>(dpi())); }
-  UINT dpi() { return GetDpiForWindow(mainWindow()); }
+  UINT dpi() { return GetDpiForWindow(window("frmCalc")); }
 
   /// The answer to the next command after something was changed behind the program's back.
   std::string errorOfNextCommand() {
@@ -63,8 +50,7 @@ TEST_F(WindowTest, DraggingTheCornerResizesWindowAndTape) {
   constexpr int kPixels = 40;
   const int width = tell("get frmCalc Width")["value"];
   const int tapeWidth = tell("get txtTape Width")["value"];
-  RECT frame = {};
-  GetWindowRect(mainWindow(), &frame);
+  RECT frame = placeOf(window("frmCalc"));
   stage().dragFrame({frame.right - 2, frame.bottom - 2},
                     {frame.right - 2 + kPixels, frame.bottom - 2 + kPixels});
   EXPECT_EQ(tell("get frmCalc Width")["value"], width + twips(kPixels));
@@ -73,12 +59,11 @@ TEST_F(WindowTest, DraggingTheCornerResizesWindowAndTape) {
 
 TEST_F(WindowTest, DraggingStopsAtTheMicroWindowSize) {
   tell("move frmCalc 1500 1500");
-  RECT frame = {};
-  GetWindowRect(mainWindow(), &frame);
+  RECT frame = placeOf(window("frmCalc"));
   stage().dragFrame({frame.right - 2, frame.bottom - 2}, {frame.left + 10, frame.top + 10});
   EXPECT_EQ(tell("get frmCalc Width")["value"], 2280);
   EXPECT_EQ(tell("get frmCalc Height")["value"], 1095);
-  GetWindowRect(mainWindow(), &frame);
+  frame = placeOf(window("frmCalc"));
   stage().dragFrame({frame.left + 1, frame.top + 1}, {frame.right + 300, frame.bottom + 300});
   // The system may stop one pixel short.
   const int pixel = twips(1);
@@ -98,8 +83,7 @@ TEST_F(WindowTest, SmallerStoredSizesAreAppliedUnchanged) {
 TEST_F(WindowTest, DraggingTheTitleMovesTheWindow) {
   constexpr int kPixels = 60;
   const int width = tell("get frmCalc Width")["value"];
-  RECT frame = {};
-  GetWindowRect(mainWindow(), &frame);
+  RECT frame = placeOf(window("frmCalc"));
   const POINT title = {(frame.left + frame.right) / 2, frame.top + 12};
   stage().dragFrame(title, {title.x + kPixels, title.y + kPixels});
   EXPECT_EQ(tell("get frmCalc Left")["value"], twips(frame.left + kPixels));
@@ -109,22 +93,22 @@ TEST_F(WindowTest, DraggingTheTitleMovesTheWindow) {
 // The driver compares its answers with the screen; it must notice each of these differences.
 TEST_F(WindowTest, DifferencesOnTheScreenAreDetected) {
   wchar_t title[64] = L"";
-  GetWindowTextW(mainWindow(), title, static_cast<int>(std::size(title)));
-  SetWindowTextW(mainWindow(), L"another title");
+  GetWindowTextW(window("frmCalc"), title, static_cast<int>(std::size(title)));
+  SetWindowTextW(window("frmCalc"), L"another title");
   EXPECT_EQ(errorOfNextCommand(), "on the screen: frmCalc shows wrongly its caption");
-  SetWindowTextW(mainWindow(), title);
-  ShowWindow(handleOf("cmdPlus"), SW_HIDE);
+  SetWindowTextW(window("frmCalc"), title);
+  ShowWindow(control("frmCalc", "cmdPlus"), SW_HIDE);
   EXPECT_EQ(errorOfNextCommand(), "on the screen: cmdPlus shows wrongly whether it is visible");
-  ShowWindow(handleOf("cmdPlus"), SW_SHOWNA);
-  EnableWindow(handleOf("cmdPlus"), FALSE);
+  ShowWindow(control("frmCalc", "cmdPlus"), SW_SHOWNA);
+  EnableWindow(control("frmCalc", "cmdPlus"), FALSE);
   EXPECT_EQ(errorOfNextCommand(), "on the screen: cmdPlus shows wrongly whether it is enabled");
-  EnableWindow(handleOf("cmdPlus"), TRUE);
-  SendMessageW(handleOf("chkTapeOff"), BM_SETCHECK, BST_CHECKED, 0);
+  EnableWindow(control("frmCalc", "cmdPlus"), TRUE);
+  SendMessageW(control("frmCalc", "chkTapeOff"), BM_SETCHECK, BST_CHECKED, 0);
   EXPECT_EQ(errorOfNextCommand(), "on the screen: chkTapeOff shows wrongly its value");
-  SendMessageW(handleOf("chkTapeOff"), BM_SETCHECK, BST_UNCHECKED, 0);
-  EnableMenuItem(GetMenu(mainWindow()), 0, MF_BYPOSITION | MF_GRAYED);
+  SendMessageW(control("frmCalc", "chkTapeOff"), BM_SETCHECK, BST_UNCHECKED, 0);
+  EnableMenuItem(GetMenu(window("frmCalc")), 0, MF_BYPOSITION | MF_GRAYED);
   EXPECT_EQ(errorOfNextCommand(), "on the screen: mnuFile shows wrongly whether it is enabled");
-  EnableMenuItem(GetMenu(mainWindow()), 0, MF_BYPOSITION | MF_ENABLED);
+  EnableMenuItem(GetMenu(window("frmCalc")), 0, MF_BYPOSITION | MF_ENABLED);
   EXPECT_EQ(errorOfNextCommand(), "");
 }
 
