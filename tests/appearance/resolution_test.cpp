@@ -12,11 +12,6 @@ struct Seen {
   LOGFONTW font;
 };
 
-BOOL CALLBACK addChild(HWND child, LPARAM children) {
-  reinterpret_cast<std::vector<HWND>*>(children)->push_back(child);
-  return TRUE;
-}
-
 bool same(const RECT& one, const RECT& other) {
   return EqualRect(&one, &other);
 }
@@ -31,10 +26,8 @@ class ResolutionTest : public AppearanceTest, public testing::WithParamInterface
   }
 
   std::vector<Seen> look() {
-    std::vector<HWND> children;
-    EnumChildWindows(window_, addChild, reinterpret_cast<LPARAM>(&children));
     std::vector<Seen> seen;
-    for (const HWND child : children) {
+    for (const HWND child : support::allChildren(window_)) {
       RECT place = placeOf(child);
       MapWindowPoints(nullptr, window_, reinterpret_cast<POINT*>(&place), 2);
       seen.push_back({place, fontOf(child)});

@@ -67,9 +67,7 @@ class Speech : public AppearanceTest {
   }
   /// The system's answer to a screen reader that asks for the caret's rectangle.
   static void expectCaretAt(HWND box, int place) {
-    GUITHREADINFO thread = {};
-    thread.cbSize = sizeof thread;
-    ASSERT_TRUE(GetGUIThreadInfo(GetWindowThreadProcessId(box, nullptr), &thread));
+    const GUITHREADINFO thread = support::inputStateOf(box);
     EXPECT_EQ(thread.hwndCaret, box);
     const LRESULT point = SendMessageW(box, EM_POSFROMCHAR, static_cast<WPARAM>(place), 0);
     EXPECT_EQ(thread.rcCaret.left, static_cast<short>(LOWORD(point)));

@@ -37,8 +37,8 @@ class ToolTips : public AppearanceTest {
     support::eventually([&] {
       SetCursorPos(0, 0);
       support::eventually([] { return shownTip().empty(); }, kMoveIsLost);
-      const RECT place = placeOf(control);
-      SetCursorPos((place.left + place.right) / 2, (place.top + place.bottom) / 2);
+      const POINT middle = support::middleOf(placeOf(control));
+      SetCursorPos(middle.x, middle.y);
       return support::eventually([&] { return !(seen = shownTip()).empty(); }, kMoveIsLost);
     });
     return seen;
@@ -69,8 +69,8 @@ TEST_F(ToolTips, OfTheFinancialCalculatorAppearUnderTheMouse) {
 
 TEST_F(ToolTips, KeyWithoutOneShowsNone) {
   SetCursorPos(0, 0);
-  const RECT place = placeOf(control("frmCalc", "cmdNumber(7)"));
-  SetCursorPos((place.left + place.right) / 2, (place.top + place.bottom) / 2);
+  const POINT middle = support::middleOf(placeOf(control("frmCalc", "cmdNumber(7)")));
+  SetCursorPos(middle.x, middle.y);
   constexpr ULONGLONG kLongEnough = 1500;
   const ULONGLONG until = GetTickCount64() + kLongEnough;
   while (GetTickCount64() < until) {

@@ -6,6 +6,7 @@
 #include "driver/native_handles.h"
 #include "driver/native_keyboard.h"
 #include "driver/native_mouse.h"
+#include "support/input.h"
 #include "win32/desktop.h"
 #include "win32/message_loop.h"
 #include "win32/native_control.h"
@@ -25,10 +26,7 @@ constexpr ULONG_PTR kMark = 0x7A11;
 bool markSeen = false;
 
 INPUT mark() {
-  INPUT input = {};
-  input.type = INPUT_KEYBOARD;
-  input.ki.wVk = kMarkKey;
-  input.ki.dwFlags = KEYEVENTF_KEYUP;
+  INPUT input = support::keyInput(kMarkKey, KEYEVENTF_KEYUP);
   input.ki.dwExtraInfo = kMark;
   return input;
 }
@@ -121,7 +119,7 @@ class NativeKind : public Kind {
     markSeen = false;
     for (int i = 0; i < kTries && !markSeen; ++i) {
       if (i > 0) bringToFront();
-      SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT));
+      support::send(inputs);
       waitForMark();
     }
     win32::dispatchWaiting(desktop_);

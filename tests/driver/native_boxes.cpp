@@ -43,20 +43,16 @@ struct Parts {
   HICON icon = nullptr;
 };
 
-BOOL CALLBACK takePart(HWND child, LPARAM found) {
-  auto& parts = *reinterpret_cast<Parts*>(found);
-  const std::wstring kind = support::classOf(child);
-  const LONG_PTR style = GetWindowLongPtrW(child, GWL_STYLE);
-  if ((style & WS_VISIBLE) == 0) return TRUE;
-  if (kind == L"Button") parts.buttons.push_back(child);
-  if (kind == L"Static" && (style & SS_TYPEMASK) == SS_ICON)
-    parts.icon = reinterpret_cast<HICON>(SendMessageW(child, STM_GETICON, 0, 0));
-  return TRUE;
-}
-
 Parts partsOf(HWND box) {
   Parts parts;
-  EnumChildWindows(box, takePart, reinterpret_cast<LPARAM>(&parts));
+  for (HWND child : support::allChildren(box)) {
+    const std::wstring kind = support::classOf(child);
+    const LONG_PTR style = GetWindowLongPtrW(child, GWL_STYLE);
+    if ((style & WS_VISIBLE) == 0) continue;
+    if (kind == L"Button") parts.buttons.push_back(child);
+    if (kind == L"Static" && (style & SS_TYPEMASK) == SS_ICON)
+      parts.icon = reinterpret_cast<HICON>(SendMessageW(child, STM_GETICON, 0, 0));
+  }
   return parts;
 }
 

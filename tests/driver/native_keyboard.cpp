@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "driver/native_ui_thread.h"
+#include "support/input.h"
 
 namespace driver {
 
@@ -15,19 +16,13 @@ bool isExtended(WORD key) {
 }
 
 INPUT keyInput(WORD key, bool up) {
-  INPUT input = {};
-  input.type = INPUT_KEYBOARD;
-  input.ki.wVk = key;
-  input.ki.wScan = static_cast<WORD>(MapVirtualKeyW(key, MAPVK_VK_TO_VSC));
-  input.ki.dwFlags = (up ? KEYEVENTF_KEYUP : 0U) | (isExtended(key) ? KEYEVENTF_EXTENDEDKEY : 0U);
-  return input;
+  return support::keyInput(
+      key, (up ? KEYEVENTF_KEYUP : 0U) | (isExtended(key) ? KEYEVENTF_EXTENDEDKEY : 0U));
 }
 
 INPUT characterInput(WORD character, bool up) {
-  INPUT input = {};
-  input.type = INPUT_KEYBOARD;
+  INPUT input = support::keyInput(0, KEYEVENTF_UNICODE | (up ? KEYEVENTF_KEYUP : 0U));
   input.ki.wScan = character;
-  input.ki.dwFlags = KEYEVENTF_UNICODE | (up ? KEYEVENTF_KEYUP : 0U);
   return input;
 }
 
@@ -54,7 +49,7 @@ NativeKeyboard::~NativeKeyboard() {
   hold({}, inputs);
   if (numLockSwitched_) tap(VK_NUMLOCK, inputs);
   if (capsLockSwitched_) tap(VK_CAPITAL, inputs);
-  SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT));
+  support::send(inputs);
 }
 
 // Returns whether it had to be switched.
@@ -62,7 +57,7 @@ bool NativeKeyboard::setLock(WORD key, bool on) {
   if (((GetKeyState(key) & 1) != 0) == on) return false;
   Inputs inputs;
   tap(key, inputs);
-  SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT));
+  support::send(inputs);
   return true;
 }
 

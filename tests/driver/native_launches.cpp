@@ -15,31 +15,21 @@ namespace {
 // Less than the driver waits for the program, which waits here.
 constexpr ULONGLONG kPatience = 20'000;
 
-BOOL CALLBACK takeWindow(HWND window, LPARAM found) {
-  if (IsWindowVisible(window) && !isOurs(window) && support::isStartedHere(window))
-    reinterpret_cast<std::vector<HWND>*>(found)->push_back(window);
-  return TRUE;
-}
-
 // The system's editors have one text box.
-BOOL CALLBACK takeTextBox(HWND child, LPARAM found) {
-  const std::wstring kind = support::classOf(child);
-  if (kind != L"Edit" && !kind.starts_with(L"RichEdit")) return TRUE;
-  *reinterpret_cast<HWND*>(found) = child;
-  return FALSE;
-}
-
 HWND textBoxOf(HWND window) {
-  HWND box = nullptr;
-  EnumChildWindows(window, takeTextBox, reinterpret_cast<LPARAM>(&box));
-  return box;
+  for (HWND child : support::allChildren(window)) {
+    const std::wstring kind = support::classOf(child);
+    if (kind == L"Edit" || kind.starts_with(L"RichEdit")) return child;
+  }
+  return nullptr;
 }
 
 }  // namespace
 
 std::vector<HWND> windowsOfStarted() {
-  std::vector<HWND> windows;
-  EnumWindows(takeWindow, reinterpret_cast<LPARAM>(&windows));
+  std::vector<HWND> windows = support::shownWindows();
+  std::erase_if(windows,
+                [](HWND window) { return isOurs(window) || !support::isStartedHere(window); });
   return windows;
 }
 
@@ -68,12 +58,7 @@ HWND waitForWindowSince(const std::vector<HWND>& before) {
 }
 
 std::string textShownIn(HWND window) {
-  if (!waitForText(window)) return {};
-  HWND box = textBoxOf(window);
-  std::wstring text(static_cast<std::size_t>(support::ask(box, WM_GETTEXTLENGTH)) + 1, L'\0');
-  text.resize(static_cast<std::size_t>(
-      SendMessageW(box, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()))));
-  return win32::narrow(text);
+  return waitForText(window) ? win32::narrow(support::textOf(textBoxOf(window))) : "";
 }
 
 void closeUnsaved(HWND window) {

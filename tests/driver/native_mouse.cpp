@@ -3,6 +3,7 @@
 #include <iterator>
 #include <string_view>
 
+#include "support/input.h"
 #include "support/windows.h"
 
 namespace driver {
@@ -40,21 +41,12 @@ std::wstring_view captionOf(controls::BoxCommand command) {
   }
 }
 
-POINT middleOf(const RECT& rect) {
-  return {(rect.left + rect.right) / 2, (rect.top + rect.bottom) / 2};
-}
-
 }  // namespace
 
 INPUT mouseButton(MouseButton button, bool up, ULONG_PTR extra) {
   const bool left = (button == MouseButton::Left) != (GetSystemMetrics(SM_SWAPBUTTON) != 0);
-  INPUT input = {};
-  input.type = INPUT_MOUSE;
-  if (left) {
-    input.mi.dwFlags = up ? MOUSEEVENTF_LEFTUP : MOUSEEVENTF_LEFTDOWN;
-  } else {
-    input.mi.dwFlags = up ? MOUSEEVENTF_RIGHTUP : MOUSEEVENTF_RIGHTDOWN;
-  }
+  INPUT input = support::mouseInput(left ? (up ? MOUSEEVENTF_LEFTUP : MOUSEEVENTF_LEFTDOWN)
+                                         : (up ? MOUSEEVENTF_RIGHTUP : MOUSEEVENTF_RIGHTDOWN));
   input.mi.dwExtraInfo = extra;
   return input;
 }
@@ -68,7 +60,7 @@ bool isShown(HWND control) {
   RECT rect = {};
   RECT client = {};
   if (!IsWindowVisible(control) || !GetWindowRect(control, &rect)) return false;
-  const POINT middle = middleOf(rect);
+  const POINT middle = support::middleOf(rect);
   POINT inWindow = middle;
   return GetClientRect(window, &client) && ScreenToClient(window, &inWindow) &&
          PtInRect(&client, inWindow) && MonitorFromPoint(middle, MONITOR_DEFAULTTONULL);
@@ -83,7 +75,7 @@ bool placeToClick(HWND control, POINT& place) {
   RECT rect = {};
   if (!GetWindowRect(control, &rect)) return false;
   side = -side;
-  place = middleOf(rect);
+  place = support::middleOf(rect);
   place.x += side * GetSystemMetrics(SM_CXDOUBLECLK);
   return WindowFromPoint(place) == control;
 }
@@ -91,21 +83,19 @@ bool placeToClick(HWND control, POINT& place) {
 bool placeInBar(HWND window, const MenuPlace& item, POINT& place) {
   RECT rect = {};
   if (!GetMenuItemRect(window, item.menu, static_cast<UINT>(item.position), &rect)) return false;
-  place = middleOf(rect);
+  place = support::middleOf(rect);
   return WindowFromPoint(place) == window;
 }
 
 bool placeInMenu(const MenuPlace& item, POINT& place) {
   RECT rect = {};
   if (!GetMenuItemRect(nullptr, item.menu, static_cast<UINT>(item.position), &rect)) return false;
-  place = middleOf(rect);
+  place = support::middleOf(rect);
   return menuIn(WindowFromPoint(place)) == item.menu;
 }
 
 HWND mouseCapture(HWND window) {
-  GUITHREADINFO info = {};
-  info.cbSize = sizeof info;
-  GetGUIThreadInfo(GetWindowThreadProcessId(window, nullptr), &info);
+  const GUITHREADINFO info = support::inputStateOf(window);
   return (info.flags & GUI_INMENUMODE) != 0 ? info.hwndMenuOwner : info.hwndCapture;
 }
 

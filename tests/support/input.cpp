@@ -4,15 +4,6 @@ namespace support {
 
 namespace {
 
-INPUT keyInput(WORD key, DWORD flags) {
-  INPUT input = {};
-  input.type = INPUT_KEYBOARD;
-  input.ki.wVk = key;
-  input.ki.wScan = static_cast<WORD>(MapVirtualKeyW(key, MAPVK_VK_TO_VSC));
-  input.ki.dwFlags = flags;
-  return input;
-}
-
 struct KeypadKey {
   WORD key;
   DWORD flags = 0;
@@ -38,6 +29,26 @@ KeypadKey keypadKey(char cap) {
 }
 
 }  // namespace
+
+INPUT keyInput(WORD key, DWORD flags) {
+  INPUT input = {};
+  input.type = INPUT_KEYBOARD;
+  input.ki.wVk = key;
+  input.ki.wScan = static_cast<WORD>(MapVirtualKeyW(key, MAPVK_VK_TO_VSC));
+  input.ki.dwFlags = flags;
+  return input;
+}
+
+INPUT mouseInput(DWORD flags) {
+  INPUT input = {};
+  input.type = INPUT_MOUSE;
+  input.mi.dwFlags = flags;
+  return input;
+}
+
+void send(Inputs inputs) {
+  SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT));
+}
 
 void keyDown(Inputs& inputs, WORD key) {
   inputs.push_back(keyInput(key, 0));

@@ -47,12 +47,8 @@ void releaseKeys() {
   Inputs inputs;
   for (const int key : kHeld)
     if (GetAsyncKeyState(key) < 0) keyUp(inputs, static_cast<WORD>(key));
-  if (GetAsyncKeyState(VK_LBUTTON) < 0) {
-    inputs.emplace_back();
-    inputs.back().type = INPUT_MOUSE;
-    inputs.back().mi.dwFlags = MOUSEEVENTF_LEFTUP;
-  }
-  if (!inputs.empty()) SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT));
+  if (GetAsyncKeyState(VK_LBUTTON) < 0) inputs.push_back(mouseInput(MOUSEEVENTF_LEFTUP));
+  if (!inputs.empty()) send(std::move(inputs));
 }
 
 HKEY rootOf(const RegistryKey& record) {

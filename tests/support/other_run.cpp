@@ -38,9 +38,7 @@ void change() {
   }
   keepRegistryValue(HKEY_CURRENT_USER, newKey, L"text");
   writeUserText(newKey, L"text", L"of the test");
-  Inputs inputs;
-  keyDown(inputs, VK_SHIFT);
-  SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT));
+  send({keyInput(VK_SHIFT, 0)});
   CloseHandle(startProgram(L"notepad.exe"));
   awaitWindow("Notepad", [] { return FindWindowW(L"Notepad", nullptr); });
 }

@@ -7,9 +7,14 @@ namespace {
 
 constexpr UINT kAnswerLimit = 10'000;
 
-BOOL CALLBACK addShown(HWND window, LPARAM list) {
-  if (IsWindowVisible(window)) reinterpret_cast<std::vector<HWND>*>(list)->push_back(window);
+BOOL CALLBACK addWindow(HWND window, LPARAM list) {
+  reinterpret_cast<std::vector<HWND>*>(list)->push_back(window);
   return TRUE;
+}
+
+std::vector<HWND> visible(std::vector<HWND> windows) {
+  std::erase_if(windows, [](HWND window) { return !IsWindowVisible(window); });
+  return windows;
 }
 
 }  // namespace
@@ -41,16 +46,24 @@ DWORD processOf(HWND window) {
   return process;
 }
 
-std::vector<HWND> shownWindows() {
+std::vector<HWND> allWindows() {
   std::vector<HWND> windows;
-  EnumWindows(addShown, reinterpret_cast<LPARAM>(&windows));
+  EnumWindows(addWindow, reinterpret_cast<LPARAM>(&windows));
   return windows;
 }
 
-std::vector<HWND> shownChildren(HWND window) {
+std::vector<HWND> allChildren(HWND window) {
   std::vector<HWND> children;
-  EnumChildWindows(window, addShown, reinterpret_cast<LPARAM>(&children));
+  EnumChildWindows(window, addWindow, reinterpret_cast<LPARAM>(&children));
   return children;
+}
+
+std::vector<HWND> shownWindows() {
+  return visible(allWindows());
+}
+
+std::vector<HWND> shownChildren(HWND window) {
+  return visible(allChildren(window));
 }
 
 HWND childOfClass(HWND window, std::wstring_view name) {
@@ -63,6 +76,17 @@ RECT placeOf(HWND window) {
   RECT place = {};
   GetWindowRect(window, &place);
   return place;
+}
+
+POINT middleOf(const RECT& place) {
+  return {(place.left + place.right) / 2, (place.top + place.bottom) / 2};
+}
+
+GUITHREADINFO inputStateOf(HWND window) {
+  GUITHREADINFO state = {};
+  state.cbSize = sizeof state;
+  GetGUIThreadInfo(GetWindowThreadProcessId(window, nullptr), &state);
+  return state;
 }
 
 }  // namespace support

@@ -18,6 +18,9 @@ std::wstring textOf(HWND window);
 std::wstring classOf(HWND window);
 DWORD processOf(HWND window);
 
+/// All windows of the desktop, from front to back, and all children of a window; hidden ones, too.
+std::vector<HWND> allWindows();
+std::vector<HWND> allChildren(HWND window);
 /// All visible windows of the desktop, from front to back.
 std::vector<HWND> shownWindows();
 /// The visible children of a window.
@@ -26,5 +29,8 @@ std::vector<HWND> shownChildren(HWND window);
 HWND childOfClass(HWND window, std::wstring_view name);
 /// The position on the screen.
 RECT placeOf(HWND window);
+POINT middleOf(const RECT& place);
+/// What the thread of a window says about its focus, mouse and caret.
+GUITHREADINFO inputStateOf(HWND window);
 
 }  // namespace support

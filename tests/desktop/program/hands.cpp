@@ -1,7 +1,6 @@
 #include "desktop/program/hands.h"
 
 #include <cctype>
-#include <vector>
 
 #include "support/input.h"
 #include "support/wait.h"
@@ -12,10 +11,6 @@ namespace program {
 using namespace support;
 
 namespace {
-
-void send(Inputs& inputs) {
-  SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT));
-}
 
 WORD keyOf(char cap) {
   switch (cap) {
@@ -34,18 +29,6 @@ WORD keyOf(char cap) {
     default:
       return static_cast<WORD>(std::toupper(static_cast<unsigned char>(cap)));
   }
-}
-
-void addMouse(Inputs& inputs, DWORD flags) {
-  INPUT input = {};
-  input.type = INPUT_MOUSE;
-  input.mi.dwFlags = flags;
-  inputs.push_back(input);
-}
-
-void addClick(Inputs& inputs) {
-  addMouse(inputs, MOUSEEVENTF_LEFTDOWN);
-  addMouse(inputs, MOUSEEVENTF_LEFTUP);
 }
 
 }  // namespace
@@ -72,39 +55,27 @@ void pressWith(WORD modifier, WORD key) {
 
 void click(POINT place) {
   SetCursorPos(place.x, place.y);
-  Inputs inputs;
-  addClick(inputs);
-  send(inputs);
+  send({mouseInput(MOUSEEVENTF_LEFTDOWN), mouseInput(MOUSEEVENTF_LEFTUP)});
 }
 
 void doubleClick(POINT place) {
   SetCursorPos(place.x, place.y);
-  Inputs inputs;
-  addClick(inputs);
-  addClick(inputs);
-  send(inputs);
+  const INPUT down = mouseInput(MOUSEEVENTF_LEFTDOWN);
+  const INPUT up = mouseInput(MOUSEEVENTF_LEFTUP);
+  send({down, up, down, up});
 }
 
 void dragWindow(HWND window, POINT from, POINT to) {
   SetCursorPos(from.x, from.y);
-  Inputs hold;
-  addMouse(hold, MOUSEEVENTF_LEFTDOWN);
-  send(hold);
-  await("a window that is being dragged", [window] {
-    GUITHREADINFO thread = {};
-    thread.cbSize = sizeof thread;
-    GetGUIThreadInfo(GetWindowThreadProcessId(window, nullptr), &thread);
-    return (thread.flags & GUI_INMOVESIZE) != 0;
-  });
+  send({mouseInput(MOUSEEVENTF_LEFTDOWN)});
+  await("a window that is being dragged",
+        [window] { return (inputStateOf(window).flags & GUI_INMOVESIZE) != 0; });
   SetCursorPos(to.x, to.y);
-  Inputs release;
-  addMouse(release, MOUSEEVENTF_LEFTUP);
-  send(release);
+  send({mouseInput(MOUSEEVENTF_LEFTUP)});
 }
 
 POINT middleOf(HWND window) {
-  const RECT place = placeOf(window);
-  return {(place.left + place.right) / 2, (place.top + place.bottom) / 2};
+  return support::middleOf(placeOf(window));
 }
 
 }  // namespace program

@@ -75,18 +75,6 @@ class OutsideMessages : public ProgramTest {
            GetLastError() != ERROR_TIMEOUT;
   }
 
-  static std::vector<HWND> controls() {
-    std::vector<HWND> all;
-    EnumChildWindows(
-        program().mainWindow(),
-        [](HWND child, LPARAM list) -> BOOL {
-          reinterpret_cast<std::vector<HWND>*>(list)->push_back(child);
-          return TRUE;
-        },
-        reinterpret_cast<LPARAM>(&all));
-    return all;
-  }
-
   /// Wine copies the text onto the stack of the program before that sees it.
   static bool endsNotepad(const std::wstring& text) {
     CloseHandle(startProgram(L"notepad.exe"));
@@ -114,7 +102,7 @@ class OutsideMessages : public ProgramTest {
 TEST_F(OutsideMessages, OddMessagesNeitherCrashNorHangTheProgram) {
   // Addresses point to a text; numbers are enormous.
   static std::array<wchar_t, 70'000> text = {L'7'};
-  for (const HWND control : controls()) {
+  for (const HWND control : allChildren(program().mainWindow())) {
     for (const UINT message : messages()) {
       for (const WPARAM number : {static_cast<WPARAM>(0), static_cast<WPARAM>(1),
                                   static_cast<WPARAM>(-1), static_cast<WPARAM>(INT_MAX)}) {

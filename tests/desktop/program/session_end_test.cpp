@@ -6,11 +6,6 @@
 namespace program {
 namespace {
 
-BOOL CALLBACK addWindow(HWND window, LPARAM list) {
-  reinterpret_cast<std::vector<HWND>*>(list)->push_back(window);
-  return TRUE;
-}
-
 // The end of the session or a request to close, with various windows open.
 class SessionEndTest : public ProgramTest {
  protected:
@@ -35,16 +30,15 @@ class SessionEndTest : public ProgramTest {
   void expectMainWindowSaved() { EXPECT_EQ(settings().get(L"frmCalcchkShiftDec"), L"1"); }
 
   /// All top-level windows of the program, including hidden ones.
-  static std::vector<HWND> allWindows() {
-    std::vector<HWND> all;
-    EnumWindows(addWindow, reinterpret_cast<LPARAM>(&all));
-    std::erase_if(all, [](HWND window) { return !program().owns(window); });
-    return all;
+  static std::vector<HWND> itsWindows() {
+    std::vector<HWND> windows = allWindows();
+    std::erase_if(windows, [](HWND window) { return !program().owns(window); });
+    return windows;
   }
 
   /// The financial calculator while it is loaded but not yet visible.
   static HWND hiddenWindow() {
-    for (HWND window : allWindows())
+    for (HWND window : itsWindows())
       if (classOf(window) == kWindowClass && !IsWindowVisible(window)) return window;
     return nullptr;
   }
@@ -111,7 +105,7 @@ TEST_F(SessionEndTest, SentToTheCalculatorDuringItsFirstNoteKeepsTheFields) {
 
 TEST_F(SessionEndTest, SentToAllWindowsKeepsTheFields) {
   openFirstNote();
-  endSession(allWindows());
+  endSession(itsWindows());
   expectEnd();
   expectFieldsAsStored();
   expectMainWindowSaved();
@@ -119,7 +113,7 @@ TEST_F(SessionEndTest, SentToAllWindowsKeepsTheFields) {
 
 TEST_F(SessionEndTest, CloseRequestToAllWindowsDuringTheFirstNoteKeepsTheFields) {
   openFirstNote();
-  askToClose(allWindows());
+  askToClose(itsWindows());
   expectEnd();
   expectFieldsAsStored();
   expectMainWindowSaved();
@@ -173,7 +167,7 @@ TEST_F(SessionEndTest, OpenFieldsAreSavedUnchanged) {
   openCalculator(0, L"Loan Annuities");
   type("25");
   await("the term", [] { return textOf(program().focus()) == L"25"; });
-  endSession(allWindows());
+  endSession(itsWindows());
   expectEnd();
   EXPECT_EQ(settings().read(L"Annuity", L"txtNper"), L"25");
   EXPECT_EQ(settings().read(L"Annuity", L"txtPmt"), L"1,234.56");
@@ -181,7 +175,7 @@ TEST_F(SessionEndTest, OpenFieldsAreSavedUnchanged) {
 
 TEST_F(SessionEndTest, CancelledEndChangesNothing) {
   startWithFields();
-  for (HWND window : allWindows()) {
+  for (HWND window : itsWindows()) {
     SendMessageW(window, WM_QUERYENDSESSION, 0, 0);
     SendMessageW(window, WM_ENDSESSION, FALSE, 0);
   }

@@ -1,8 +1,5 @@
 #include "desktop/program/tested_program.h"
 
-#include <algorithm>
-#include <string_view>
-
 #include "support/wait.h"
 #include "support/windows.h"
 
@@ -147,11 +144,7 @@ HWND TestedProgram::dialog() const {
 
 HWND TestedProgram::focus() const {
   const HWND front = GetForegroundWindow();
-  if (!owns(front)) return nullptr;
-  GUITHREADINFO thread = {};
-  thread.cbSize = sizeof thread;
-  GetGUIThreadInfo(GetWindowThreadProcessId(front, nullptr), &thread);
-  return thread.hwndFocus;
+  return owns(front) ? inputStateOf(front).hwndFocus : nullptr;
 }
 
 HWND TestedProgram::entry() const {
