@@ -1,8 +1,8 @@
 #include <vector>
 
 #include "appearance/appearance_test_base.h"
-#include "appearance/picture.h"
 #include "driver/native_handles.h"
+#include "support/kept_state.h"
 #include "support/wait.h"
 #include "win32/light_icon.h"
 #include "win32/text.h"
@@ -171,7 +171,7 @@ TEST_F(Appearance, BoxesFollowAChangeOfTheSystemColorsAtOnce) {
   const COLORREF before = GetSysColor(COLOR_WINDOW);
   EXPECT_TRUE(becomes(box, before));
   {
-    const OtherSystemColor window(COLOR_WINDOW, RGB(0, 0, 64));
+    const support::OtherSystemColor window(COLOR_WINDOW, RGB(0, 0, 64));
     EXPECT_TRUE(becomes(box, RGB(0, 0, 64)));
   }
   EXPECT_TRUE(becomes(box, before));

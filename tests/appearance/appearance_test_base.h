@@ -5,10 +5,13 @@
 #include <string>
 
 #include "desktop/desktop_test.h"
+#include "support/picture.h"
 #include "support/windows.h"
 
 namespace appearance {
 
+using support::contrast;
+using support::Picture;
 using support::placeOf;
 
 /// The resolutions of 100, 125, 150, 200 and 300 percent.

@@ -2,7 +2,6 @@
 #include <vector>
 
 #include "appearance/appearance_test_base.h"
-#include "appearance/picture.h"
 #include "driver/native_handles.h"
 #include "win32/colors.h"
 #include "win32/key_style.h"

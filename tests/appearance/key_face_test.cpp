@@ -3,7 +3,6 @@
 #include <vector>
 
 #include "appearance/appearance_test_base.h"
-#include "appearance/picture.h"
 #include "shell/frm_calc_layout.h"
 #include "win32/fonts.h"
 #include "win32/text.h"

@@ -3,7 +3,6 @@
 #include <vector>
 
 #include "appearance/appearance_test_base.h"
-#include "appearance/picture.h"
 #include "support/wait.h"
 
 // What a screen reader is told: a client that listens to the system's accessibility events.

@@ -1,6 +1,7 @@
 #include <vector>
 
 #include "appearance/tape_test.h"
+#include "support/kept_state.h"
 #include "win32/tape_ink.h"
 
 // How the lines of the tape look, and how large their letters are.
@@ -143,7 +144,7 @@ TEST_F(TapeAppearance, TextIsLegibleOnEveryBackground) {
 
 TEST_F(TapeAppearance, HighContrastUsesOnlySystemColors) {
   resizeWindow(12000, 7000);
-  const OtherSystemColor face(COLOR_BTNFACE, RGB(0, 0, 0));
+  const support::OtherSystemColor face(COLOR_BTNFACE, RGB(0, 0, 0));
   write(kLines);
   const Picture picture(paper());
   EXPECT_EQ(inkOf(picture, kTop), inkOf(picture, kAdded));

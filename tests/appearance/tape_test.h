@@ -3,7 +3,6 @@
 #include <string>
 
 #include "appearance/appearance_test_base.h"
-#include "appearance/picture.h"
 
 namespace appearance {
 

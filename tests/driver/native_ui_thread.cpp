@@ -4,6 +4,7 @@
 #include <limits>
 #include <memory>
 
+#include "support/input.h"
 #include "support/retries.h"
 
 namespace driver {
@@ -80,10 +81,7 @@ void UiThread::post(std::function<void()> body) {
 
 INPUT UiThread::nextMark() {
   ++marks_;
-  INPUT mark = {};
-  mark.type = INPUT_KEYBOARD;
-  mark.ki.wVk = kMarkKey;
-  mark.ki.dwFlags = KEYEVENTF_KEYUP;
+  INPUT mark = support::keyInput(kMarkKey, KEYEVENTF_KEYUP);
   mark.ki.dwExtraInfo = kMarkSign | marks_;
   return mark;
 }

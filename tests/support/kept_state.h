@@ -28,4 +28,16 @@ void putBackEverything();
 /// Whether anything is recorded.
 bool isAnythingKept();
 
+/// Changes a system color until the end of the test.
+class OtherSystemColor {
+ public:
+  OtherSystemColor(int index, COLORREF color) {
+    keepSystemColor(index);
+    SetSysColors(1, &index, &color);
+  }
+  ~OtherSystemColor() { putBackSystemColors(); }
+  OtherSystemColor(const OtherSystemColor&) = delete;
+  OtherSystemColor& operator=(const OtherSystemColor&) = delete;
+};
+
 }  // namespace support

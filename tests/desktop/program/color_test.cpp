@@ -1,7 +1,7 @@
 #include <algorithm>
 
-#include "desktop/program/picture.h"
 #include "desktop/program/program_test.h"
+#include "support/picture.h"
 
 namespace program {
 namespace {
@@ -53,7 +53,7 @@ class ColorTest : public ProgramTest {
   static void expectEntryColor(COLORREF color) {
     constexpr int kInside = 6;
     const RECT place = placeOf(program().entry());
-    const auto seen = [&] { return colorAt({place.left + kInside, place.top + kInside}); };
+    const auto seen = [&] { return Picture(place).at(kInside, kInside); };
     eventually([&] { return seen() == color; });
     EXPECT_EQ(seen(), color);
   }
@@ -62,8 +62,8 @@ class ColorTest : public ProgramTest {
   /// of the box.
   static void expectLetters(HWND box, bool light) {
     constexpr int kFrame = 4;
-    constexpr std::uint32_t kWhite = 0xE0;
-    constexpr std::uint32_t kBlack = 0x20;
+    constexpr BYTE kWhite = 0xE0;
+    constexpr BYTE kBlack = 0x20;
     RECT place = placeOf(box);
     InflateRect(&place, -kFrame, -kFrame);
     // Excludes the caret after the text, which always contrasts with the color.
@@ -71,9 +71,9 @@ class ColorTest : public ProgramTest {
     place.right -= box == program().tape() ? (place.right - place.left) / 4 : kCaret;
     EXPECT_TRUE(eventually([&] {
       const Picture picture(place);
-      return std::ranges::any_of(picture.dots(), [light](std::uint32_t dot) {
-        const std::uint32_t red = dot >> 16;
-        const std::uint32_t green = dot >> 8 & 0xFF;
+      return std::ranges::any_of(picture.points(), [light](COLORREF point) {
+        const BYTE red = GetRValue(point);
+        const BYTE green = GetGValue(point);
         return light ? std::min(red, green) > kWhite : std::max(red, green) < kBlack;
       });
     })) << "the figures of the "

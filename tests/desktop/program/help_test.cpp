@@ -1,7 +1,7 @@
 #include <set>
 
-#include "desktop/program/picture.h"
 #include "desktop/program/program_test.h"
+#include "support/picture.h"
 #include "support/wine.h"
 
 namespace program {
@@ -13,7 +13,7 @@ constexpr DWORD kTopic = 23;
 // shows when asked for it directly.
 class HelpTest : public ProgramTest {
  protected:
-  using Page = std::vector<std::uint32_t>;
+  using Page = std::vector<COLORREF>;
 
   void SetUp() override {
     ProgramTest::SetUp();
@@ -45,7 +45,7 @@ class HelpTest : public ProgramTest {
     RECT client = {};
     GetClientRect(viewer, &client);
     MapWindowPoints(viewer, nullptr, reinterpret_cast<POINT*>(&client), 2);
-    return Picture(client).dots();
+    return Picture(client).points();
   }
 
   static HWND awaitViewer() {

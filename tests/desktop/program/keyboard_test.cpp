@@ -6,44 +6,6 @@
 namespace program {
 namespace {
 
-// The keys row by row, from left to right.
-constexpr std::array kTabOrder = {
-    L"entry box",
-    L"Clear entry",
-    L"Memory clear",
-    L"Divide",
-    L"Backspace",
-    L"Clear total",
-    L"Memory recall",
-    L"7",
-    L"8",
-    L"9",
-    L"Multiply",
-    L"Percent",
-    L"Clear tape",
-    L"Memory store",
-    L"4",
-    L"5",
-    L"6",
-    L"Minus",
-    L"Change sign",
-    L"Clear all",
-    L"Memory plus",
-    L"1",
-    L"2",
-    L"3",
-    L"Plus",
-    L"Equals",
-    L"Square root",
-    L"0",
-    L"Decimal point",
-    L"Floating decimal",
-    L"Stationary decimal",
-    L"Tape off",
-    L"tape",
-    L"decimals box",
-};
-
 // The whole program by keyboard.
 class KeyboardTest : public ProgramTest {
  protected:
@@ -55,9 +17,9 @@ class KeyboardTest : public ProgramTest {
   static HWND window() { return program().mainWindow(); }
 
   static std::wstring nameOf(HWND control) {
-    if (control == program().entry()) return L"entry box";
-    if (control == program().decimals()) return L"decimals box";
-    if (control == program().tape()) return L"tape";
+    if (control == program().entry()) return L"Entry";
+    if (control == program().decimals()) return L"Decimal places";
+    if (control == program().tape()) return L"Tape";
     return plainTextOf(control);
   }
 
@@ -67,7 +29,8 @@ class KeyboardTest : public ProgramTest {
   }
 
   static void goTo(const std::wstring& name) {
-    for (std::size_t i = 0; i < kTabOrder.size() && nameOf(program().focus()) != name; ++i) {
+    const std::size_t most = namesInTabOrder().size();
+    for (std::size_t i = 0; i < most && nameOf(program().focus()) != name; ++i) {
       const HWND before = program().focus();
       press(VK_TAB);
       await("the focus at the next control",
@@ -89,15 +52,16 @@ class KeyboardTest : public ProgramTest {
 };
 
 TEST_F(KeyboardTest, TabVisitsEveryControlRowByRow) {
-  for (const wchar_t* name : kTabOrder) {
+  for (const std::wstring& name : namesInTabOrder()) {
     expectFocus(name);
     press(VK_TAB);
   }
-  expectFocus(kTabOrder.front());
+  expectFocus(L"Entry");
 }
 
 TEST_F(KeyboardTest, ShiftTabGoesBack) {
-  std::for_each(kTabOrder.rbegin(), kTabOrder.rend(), [this](const auto& name) {
+  const std::vector<std::wstring> names = namesInTabOrder();
+  std::for_each(names.rbegin(), names.rend(), [this](const std::wstring& name) {
     pressWith(VK_SHIFT, VK_TAB);
     expectFocus(name);
   });
@@ -107,7 +71,7 @@ TEST_F(KeyboardTest, SpaceAndEnterPressTheFocusedKey) {
   goTo(L"7");
   press(VK_SPACE);
   expectText(program().entry(), L"7");
-  expectFocus(L"entry box");
+  expectFocus(L"Entry");
   goTo(L"5");
   press(VK_RETURN);
   expectText(program().entry(), L"75");
@@ -184,10 +148,9 @@ TEST_F(KeyboardTest, WinMenuWorksByLetters) {
   chooseFromMenu('W', "T");
   expectPressed(L"Tape off", true);
   chooseFromMenu('W', "A");
-  const auto style = [] { return GetWindowLongW(window(), GWL_EXSTYLE); };
-  await("always on top", [&] { return (style() & WS_EX_TOPMOST) != 0; });
+  await("always on top", isOnTop);
   chooseFromMenu('W', "A");
-  await("no longer on top", [&] { return (style() & WS_EX_TOPMOST) == 0; });
+  await("no longer on top", [] { return !isOnTop(); });
   chooseFromMenu('W', "M");
   await("the micro window", [&] { return width() < normal && width() > 0; });
   chooseFromMenu('W', "M");
@@ -206,25 +169,19 @@ TEST_F(KeyboardTest, FinancialCalculatorsOpenByLettersAndArrows) {
 }
 
 TEST_F(KeyboardTest, AboutBoxOpensByLettersAndClosesWithEscape) {
-  chooseFromMenu('H', "A");
-  const HWND about =
-      awaitWindow("the About box", [] { return program().windowTitled(L"About Tallyrex"); });
-  awaitInFront(about);
+  openAboutBox();
   press(VK_ESCAPE);
   awaitInFront(window());
-  expectFocus(L"entry box");
+  expectFocus(L"Entry");
 }
 
 TEST_F(KeyboardTest, AboutBoxClosedBehindTheWindowLeavesTheKeysToTheEntry) {
-  chooseFromMenu('H', "A");
-  const HWND about =
-      awaitWindow("the About box", [] { return program().windowTitled(L"About Tallyrex"); });
-  awaitInFront(about);
+  const HWND about = openAboutBox();
   // The desktop may activate a window that takes no input.
   SetForegroundWindow(window());
   awaitInFront(window());
   PostMessageW(about, WM_CLOSE, 0, 0);
-  expectFocus(L"entry box");
+  expectFocus(L"Entry");
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "desktop/program/kept_tapes.h"
+#include "shell/frm_calc_layout.h"
 #include "support/kept_state.h"
 #include "support/retries.h"
 #include "support/wine.h"
@@ -110,6 +111,30 @@ HWND ProgramTest::openCalculator(int place, const std::wstring& title) {
       awaitWindow("the calculator", [&title] { return program().windowTitled(title); });
   awaitInFront(calculator);
   return calculator;
+}
+
+HWND ProgramTest::openAboutBox() {
+  chooseFromMenu('H', "A");
+  const HWND about =
+      awaitWindow("the About box", [] { return program().windowTitled(L"About Tallyrex"); });
+  awaitInFront(about);
+  return about;
+}
+
+// The names are in ASCII.
+std::vector<std::wstring> ProgramTest::namesInTabOrder() {
+  std::vector<std::wstring> names;
+  for (const controls::ControlLayout& control : shell::frmCalcLayout().controls) {
+    if (control.kind == controls::ControlKind::Label) continue;
+    const auto name = control.accessibleName.empty() ? control.face : control.accessibleName;
+    names.emplace_back(name.begin(), name.end());
+    std::erase(names.back(), L'&');
+  }
+  return names;
+}
+
+bool ProgramTest::isOnTop() {
+  return (GetWindowLongW(program().mainWindow(), GWL_EXSTYLE) & WS_EX_TOPMOST) != 0;
 }
 
 bool ProgramTest::isPressed(const std::wstring& toggle) {

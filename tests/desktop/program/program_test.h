@@ -54,6 +54,12 @@ class ProgramTest : public testing::Test {
   static void chooseCalculator(int place);
   /// Opens one of the calculators, answers its note, and returns its window, which is in front.
   HWND openCalculator(int place, const std::wstring& title);
+  /// Opens the About box, and returns its window, which is in front.
+  static HWND openAboutBox();
+  /// What screen readers call the controls of the main window that take the focus, in tab order.
+  static std::vector<std::wstring> namesInTabOrder();
+  /// Whether the main window is always on top.
+  static bool isOnTop();
   /// Whether a toggle of the main window is down.
   static bool isPressed(const std::wstring& toggle);
   /// A window of another program that the test or the program has started; null without one.

@@ -38,8 +38,6 @@ class RestartTest : public ProgramTest {
     EXPECT_EQ(now(), expected);
   }
 
-  static bool isOnTop() { return (GetWindowLongW(window(), GWL_EXSTYLE) & WS_EX_TOPMOST) != 0; }
-
   static void moveAndSize() {
     constexpr POINT kMove = {150, 90};
     constexpr POINT kGrow = {60, 45};

@@ -66,14 +66,8 @@ class SessionEndTest : public ProgramTest {
   HWND openAboutBoxOverAWindowOnTop() {
     startWithFields();
     chooseFromMenu('W', "A");
-    await("always on top", [] {
-      return (GetWindowLongW(program().mainWindow(), GWL_EXSTYLE) & WS_EX_TOPMOST) != 0;
-    });
-    chooseFromMenu('H', "A");
-    const HWND about =
-        awaitWindow("the About box", [] { return program().windowTitled(L"About Tallyrex"); });
-    awaitInFront(about);
-    return about;
+    await("always on top", isOnTop);
+    return openAboutBox();
   }
 
   void expectOnTopKept() {

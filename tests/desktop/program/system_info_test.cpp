@@ -41,10 +41,7 @@ class SystemInfoTest : public ProgramTest {
 
   void askForSystemInfo() {
     start();
-    chooseFromMenu('H', "A");
-    const HWND about =
-        awaitWindow("the About box", [] { return program().windowTitled(L"About Tallyrex"); });
-    awaitInFront(about);
+    openAboutBox();
     pressWith(VK_MENU, 'S');
   }
 

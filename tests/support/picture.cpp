@@ -1,11 +1,11 @@
-#include "appearance/picture.h"
+#include "support/picture.h"
 
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
 #include <utility>
 
-namespace appearance {
+namespace support {
 namespace {
 
 // A window counts as painted when two pictures, this many milliseconds apart, are equal.
@@ -37,22 +37,29 @@ Picture::Picture(HWND window) {
   for (int i = 0; i < kMostLooks && (i == 0 || points_ != before); ++i) {
     before = std::exchange(points_, {});
     Sleep(kRest);
-    copyFrom(context);
+    copyFrom(context, {});
   }
   ReleaseDC(window, context);
 }
 
-Picture::Picture(HDC context, SIZE size)
-    : width_(static_cast<int>(size.cx)), height_(static_cast<int>(size.cy)) {
-  copyFrom(context);
+Picture::Picture(const RECT& ofScreen)
+    : width_(ofScreen.right - ofScreen.left), height_(ofScreen.bottom - ofScreen.top) {
+  const HDC screen = GetDC(nullptr);
+  copyFrom(screen, {ofScreen.left, ofScreen.top});
+  ReleaseDC(nullptr, screen);
 }
 
-void Picture::copyFrom(HDC context) {
+Picture::Picture(HDC context, SIZE size)
+    : width_(static_cast<int>(size.cx)), height_(static_cast<int>(size.cy)) {
+  copyFrom(context, {});
+}
+
+void Picture::copyFrom(HDC context, POINT corner) {
   points_.resize(static_cast<std::size_t>(width_) * static_cast<std::size_t>(height_));
   const HDC memory = CreateCompatibleDC(context);
   const HBITMAP bitmap = CreateCompatibleBitmap(context, width_, height_);
   const HGDIOBJ before = SelectObject(memory, bitmap);
-  BitBlt(memory, 0, 0, width_, height_, context, 0, 0, SRCCOPY);
+  BitBlt(memory, 0, 0, width_, height_, context, corner.x, corner.y, SRCCOPY);
   SelectObject(memory, before);
   BITMAPINFO format = {};
   format.bmiHeader.biSize = sizeof format.bmiHeader;
@@ -75,4 +82,4 @@ double contrast(COLORREF one, COLORREF other) {
   return (std::max(a, b) + 0.05) / (std::min(a, b) + 0.05);
 }
 
-}  // namespace appearance
+}  // namespace support

@@ -5,19 +5,20 @@
 #include <cstddef>
 #include <vector>
 
-#include "support/kept_state.h"
+namespace support {
 
-namespace appearance {
-
-/// A picture of a window's client area.
+/// A picture of a window's client area, or of a part of the screen.
 class Picture {
  public:
   explicit Picture(HWND window);
+  explicit Picture(const RECT& ofScreen);
   /// A picture of what has been drawn in a device context.
   Picture(HDC context, SIZE size);
 
   int width() const { return width_; }
   int height() const { return height_; }
+  /// All pixels, row by row.
+  const std::vector<COLORREF>& points() const { return points_; }
   /// The color of a pixel. Throws outside the picture.
   COLORREF at(int x, int y) const {
     return points_.at(static_cast<std::size_t>(y) * static_cast<std::size_t>(width_) +
@@ -34,7 +35,7 @@ class Picture {
   }
 
  private:
-  void copyFrom(HDC context);
+  void copyFrom(HDC context, POINT corner);
 
   int width_ = 0;
   int height_ = 0;
@@ -44,16 +45,4 @@ class Picture {
 /// The contrast ratio of two colors as WCAG defines it, computed independently of the program.
 double contrast(COLORREF one, COLORREF other);
 
-/// Changes a system color until the end of the test.
-class OtherSystemColor {
- public:
-  OtherSystemColor(int index, COLORREF color) {
-    support::keepSystemColor(index);
-    SetSysColors(1, &index, &color);
-  }
-  ~OtherSystemColor() { support::putBackSystemColors(); }
-  OtherSystemColor(const OtherSystemColor&) = delete;
-  OtherSystemColor& operator=(const OtherSystemColor&) = delete;
-};
-
-}  // namespace appearance
+}  // namespace support
