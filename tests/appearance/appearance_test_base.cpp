@@ -1,31 +1,16 @@
 #include "appearance/appearance_test_base.h"
 
+#include "win32/ruler.h"
+
 namespace appearance {
 namespace {
 
 constexpr wchar_t kAccessibility[] = L"Software\\Microsoft\\Accessibility";
 constexpr wchar_t kTextSize[] = L"TextScaleFactor";
 
-/// The screen's device context with the font of a control.
-class Ruler {
- public:
-  explicit Ruler(HWND control) {
-    const auto font = reinterpret_cast<HFONT>(SendMessageW(control, WM_GETFONT, 0, 0));
-    before_ = SelectObject(context_, font);
-  }
-  ~Ruler() {
-    SelectObject(context_, before_);
-    ReleaseDC(nullptr, context_);
-  }
-  Ruler(const Ruler&) = delete;
-  Ruler& operator=(const Ruler&) = delete;
-
-  HDC context() const { return context_; }
-
- private:
-  HDC context_ = GetDC(nullptr);
-  HGDIOBJ before_ = nullptr;
-};
+HFONT handleOfFont(HWND control) {
+  return reinterpret_cast<HFONT>(SendMessageW(control, WM_GETFONT, 0, 0));
+}
 
 }  // namespace
 
@@ -71,19 +56,17 @@ SIZE AppearanceTest::clientSize(HWND window) {
 
 LOGFONTW AppearanceTest::fontOf(HWND control) {
   LOGFONTW font = {};
-  GetObjectW(reinterpret_cast<HFONT>(SendMessageW(control, WM_GETFONT, 0, 0)), sizeof font, &font);
+  GetObjectW(handleOfFont(control), sizeof font, &font);
   return font;
 }
 
 TEXTMETRICW AppearanceTest::metricsOf(HWND control) {
-  TEXTMETRICW metrics = {};
-  GetTextMetricsW(Ruler(control).context(), &metrics);
-  return metrics;
+  return win32::Ruler(handleOfFont(control)).metrics();
 }
 
 SIZE AppearanceTest::sizeOf(HWND control, const std::wstring& text, int width) {
   RECT needed = {0, 0, width, 0};
-  DrawTextW(Ruler(control).context(), text.c_str(), -1, &needed,
+  DrawTextW(win32::Ruler(handleOfFont(control)).context(), text.c_str(), -1, &needed,
             static_cast<UINT>(DT_CALCRECT | (width > 0 ? DT_WORDBREAK : 0)));
   return {needed.right, needed.bottom};
 }

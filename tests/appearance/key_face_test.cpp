@@ -5,6 +5,7 @@
 #include "appearance/appearance_test_base.h"
 #include "shell/frm_calc_layout.h"
 #include "win32/fonts.h"
+#include "win32/ruler.h"
 #include "win32/text.h"
 
 // What is drawn on every key: each face is compared with a picture of the same letters, symbol or
@@ -120,13 +121,10 @@ int agreement(const Shape& seen, const Shape& wanted) {
 bool hasEveryGlyph(HFONT font, std::wstring text) {
   std::erase(text, L'\n');
   std::erase(text, L'&');
-  const HDC context = CreateCompatibleDC(nullptr);
-  const HGDIOBJ before = SelectObject(context, font);
+  const win32::Ruler ruler(font);
   std::vector<WORD> glyphs(text.size());
-  GetGlyphIndicesW(context, text.c_str(), static_cast<int>(text.size()), glyphs.data(),
+  GetGlyphIndicesW(ruler.context(), text.c_str(), static_cast<int>(text.size()), glyphs.data(),
                    GGI_MARK_NONEXISTING_GLYPHS);
-  SelectObject(context, before);
-  DeleteDC(context);
   return std::find(glyphs.begin(), glyphs.end(), 0xFFFF) == glyphs.end();
 }
 

@@ -102,9 +102,7 @@ TEST_F(Speech, RecordSentToTheTapeIsSpokenAndShownOnItsKey) {
   EXPECT_TRUE(hearsSaid(L"Sent to the tape"));
   EXPECT_NE(Picture(key).at(6, 6), before.at(6, 6));
   EXPECT_TRUE(hears([&](const Heard&) {
-    wchar_t name[32] = L"";
-    GetWindowTextW(key, name, 32);
-    return std::wstring(name) == L"Print to tape" && Picture(key).at(6, 6) == before.at(6, 6);
+    return support::textOf(key) == L"Print to tape" && Picture(key).at(6, 6) == before.at(6, 6);
   }));
 }
 

@@ -16,9 +16,7 @@ std::wstring shownTip() {
   HWND tip = nullptr;
   while ((tip = FindWindowExW(nullptr, tip, L"tooltips_class32", nullptr)) != nullptr) {
     if (!IsWindowVisible(tip) || !driver::isOurs(tip)) continue;
-    wchar_t text[256] = L"";
-    SendMessageW(tip, WM_GETTEXT, 256, reinterpret_cast<LPARAM>(text));
-    return text;
+    return support::textOf(tip);
   }
   return {};
 }

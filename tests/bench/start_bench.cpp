@@ -7,6 +7,8 @@
 #include <string>
 #include <vector>
 
+#include "support/windows.h"
+
 // Prints what the start of programs costs, from the making of the process to the moment at which
 // its window is visible and painted and it waits for the user, and the memory that it then uses:
 //   tallyrex-start-bench RUNS PROGRAM...
@@ -21,24 +23,10 @@ struct Program {
   std::vector<double> megabytes;
 };
 
-struct WindowSearch {
-  DWORD process;
-  HWND window;
-};
-
-BOOL CALLBACK noteWindow(HWND window, LPARAM pointer) {
-  auto& search = *reinterpret_cast<WindowSearch*>(pointer);
-  DWORD process = 0;
-  GetWindowThreadProcessId(window, &process);
-  if (process != search.process || !IsWindowVisible(window)) return TRUE;
-  search.window = window;
-  return FALSE;
-}
-
 HWND visibleWindow(DWORD process) {
-  WindowSearch search = {process, nullptr};
-  EnumWindows(noteWindow, reinterpret_cast<LPARAM>(&search));
-  return search.window;
+  for (HWND window : support::shownWindows())
+    if (support::processOf(window) == process) return window;
+  return nullptr;
 }
 
 double now() {

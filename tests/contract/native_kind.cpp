@@ -6,6 +6,7 @@
 #include "driver/native_handles.h"
 #include "driver/native_keyboard.h"
 #include "driver/native_mouse.h"
+#include "support/clipboard.h"
 #include "support/input.h"
 #include "win32/desktop.h"
 #include "win32/message_loop.h"
@@ -61,12 +62,9 @@ class ClipboardHolder {
  private:
   static DWORD WINAPI hold(void* self) {
     const auto& holder = *static_cast<ClipboardHolder*>(self);
-    const HWND window = CreateWindowExW(0, L"STATIC", nullptr, 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr,
-                                        nullptr, nullptr);
-    OpenClipboard(window);
+    const support::OpenedClipboard opened;
     SetEvent(holder.held_);
     WaitForSingleObject(holder.done_, INFINITE);
-    CloseClipboard();
     return 0;
   }
 

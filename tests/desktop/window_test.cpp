@@ -1,5 +1,3 @@
-#include <iterator>
-
 #include "desktop/desktop_test.h"
 #include "support/input.h"
 #include "support/windows.h"
@@ -92,11 +90,10 @@ TEST_F(WindowTest, DraggingTheTitleMovesTheWindow) {
 
 // The driver compares its answers with the screen; it must notice each of these differences.
 TEST_F(WindowTest, DifferencesOnTheScreenAreDetected) {
-  wchar_t title[64] = L"";
-  GetWindowTextW(window("frmCalc"), title, static_cast<int>(std::size(title)));
+  const std::wstring title = textOf(window("frmCalc"));
   SetWindowTextW(window("frmCalc"), L"another title");
   EXPECT_EQ(errorOfNextCommand(), "on the screen: frmCalc shows wrongly its caption");
-  SetWindowTextW(window("frmCalc"), title);
+  SetWindowTextW(window("frmCalc"), title.c_str());
   ShowWindow(control("frmCalc", "cmdPlus"), SW_HIDE);
   EXPECT_EQ(errorOfNextCommand(), "on the screen: cmdPlus shows wrongly whether it is visible");
   ShowWindow(control("frmCalc", "cmdPlus"), SW_SHOWNA);

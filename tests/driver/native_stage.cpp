@@ -34,7 +34,7 @@ void sendInputs(std::vector<INPUT> inputs) {
 }  // namespace
 
 NativeStage::NativeStage() {
-  support::setClipboardText({}, ui_.window());
+  support::setClipboardText({});
   clearAllStored();
   desktop_.clearTapes();
 }

@@ -9,7 +9,7 @@ namespace driver {
 std::optional<std::string> NativeStage::clipboardText() {
   clearAway();
   std::optional<std::wstring> text;
-  inspect([&] { text = support::clipboardText(ui_.window()); });
+  inspect([&] { text = support::clipboardText(); });
   if (!text) return {};
   return win32::narrow(*text);
 }
@@ -18,7 +18,7 @@ void NativeStage::setClipboard(const std::optional<std::string>& text) {
   clearAway();
   std::optional<std::wstring> wide;
   if (text) wide = win32::wide(*text);
-  inspect([&] { support::setClipboardText(wide, ui_.window()); });
+  inspect([&] { support::setClipboardText(wide); });
 }
 
 std::optional<std::string> NativeStage::readSetting(const std::string& section,

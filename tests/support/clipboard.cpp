@@ -1,27 +1,32 @@
 #include "support/clipboard.h"
 
-#include <algorithm>
+#include <cstring>
 
 #include "support/wait.h"
 
 namespace support {
-namespace {
 
-/// Opens the clipboard, which another program may keep open for a moment.
-class OpenedClipboard {
- public:
-  explicit OpenedClipboard(HWND owner) {
-    await("the clipboard", [owner] { return OpenClipboard(owner) != FALSE; });
-  }
-  ~OpenedClipboard() { CloseClipboard(); }
-  OpenedClipboard(const OpenedClipboard&) = delete;
-  OpenedClipboard& operator=(const OpenedClipboard&) = delete;
-};
+OpenedClipboard::OpenedClipboard()
+    : window_(CreateWindowExW(0, L"STATIC", nullptr, 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, nullptr,
+                              nullptr)) {
+  await("the clipboard", [this] { return OpenClipboard(window_) != FALSE; });
+}
 
-}  // namespace
+OpenedClipboard::~OpenedClipboard() {
+  CloseClipboard();
+  DestroyWindow(window_);
+}
 
-std::optional<std::wstring> clipboardText(HWND owner) {
-  const OpenedClipboard opened(owner);
+void OpenedClipboard::put(UINT format, const void* data, std::size_t size) const {
+  HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, size);
+  if (!memory) return;
+  std::memcpy(GlobalLock(memory), data, size);
+  GlobalUnlock(memory);
+  if (!SetClipboardData(format, memory)) GlobalFree(memory);
+}
+
+std::optional<std::wstring> clipboardText() {
+  const OpenedClipboard opened;
   const HANDLE memory = GetClipboardData(CF_UNICODETEXT);
   if (!memory) return {};
   const auto* text = static_cast<const wchar_t*>(GlobalLock(memory));
@@ -31,14 +36,10 @@ std::optional<std::wstring> clipboardText(HWND owner) {
   return result;
 }
 
-void setClipboardText(const std::optional<std::wstring>& text, HWND owner) {
-  const OpenedClipboard opened(owner);
+void setClipboardText(const std::optional<std::wstring>& text) {
+  const OpenedClipboard opened;
   EmptyClipboard();
-  if (!text) return;
-  HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, (text->size() + 1) * sizeof(wchar_t));
-  std::copy_n(text->c_str(), text->size() + 1, static_cast<wchar_t*>(GlobalLock(memory)));
-  GlobalUnlock(memory);
-  SetClipboardData(CF_UNICODETEXT, memory);
+  if (text) opened.put(CF_UNICODETEXT, text->c_str(), (text->size() + 1) * sizeof(wchar_t));
 }
 
 }  // namespace support

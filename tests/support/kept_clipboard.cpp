@@ -6,28 +6,10 @@
 #include <iterator>
 #include <string_view>
 
-#include "support/wait.h"
+#include "support/clipboard.h"
 
 namespace support {
 namespace {
-
-/// Opens the clipboard for a window of its own, without which nothing can be put on it.
-class OwnedClipboard {
- public:
-  OwnedClipboard() {
-    await("the clipboard", [this] { return OpenClipboard(window_) != FALSE; });
-  }
-  ~OwnedClipboard() {
-    CloseClipboard();
-    DestroyWindow(window_);
-  }
-  OwnedClipboard(const OwnedClipboard&) = delete;
-  OwnedClipboard& operator=(const OwnedClipboard&) = delete;
-
- private:
-  HWND window_ = CreateWindowExW(0, L"STATIC", nullptr, 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr,
-                                 nullptr, nullptr);
-};
 
 // Handles of other kinds than memory. The system makes a bitmap again from the copy in memory.
 bool isDrawn(UINT format) {
@@ -55,7 +37,7 @@ RegistryValue formatValue(std::size_t place, UINT format, const void* data, std:
 }  // namespace
 
 void writeClipboardTo(const RegistryKey& key) {
-  const OwnedClipboard opened;
+  const OpenedClipboard opened;
   std::size_t place = 0;
   for (UINT format = EnumClipboardFormats(0); format != 0; format = EnumClipboardFormats(format)) {
     const HANDLE memory = isDrawn(format) || isLink(format) ? nullptr : GetClipboardData(format);
@@ -70,15 +52,11 @@ void writeClipboardTo(const RegistryKey& key) {
 void readClipboardFrom(const RegistryKey& key) {
   std::vector<RegistryValue> formats = key.values();
   std::ranges::sort(formats, {}, &RegistryValue::name);
-  const OwnedClipboard opened;
+  const OpenedClipboard opened;
   EmptyClipboard();
   for (const auto& [name, type, data] : formats) {
     const auto format = static_cast<UINT>(std::stoul(name.substr(name.find(L' '))));
-    HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, data.size());
-    if (!memory) continue;
-    std::ranges::copy(data, static_cast<BYTE*>(GlobalLock(memory)));
-    GlobalUnlock(memory);
-    if (!SetClipboardData(format, memory)) GlobalFree(memory);
+    opened.put(format, data.data(), data.size());
   }
 }
 

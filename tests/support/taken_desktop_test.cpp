@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <string>
 #include <string_view>
 
@@ -33,23 +32,13 @@ UINT ownFormat() {
   return RegisterClipboardFormatW(L"Tallyrex Support Tests");
 }
 
-void addToClipboard(UINT format, const std::string& bytes) {
-  ASSERT_TRUE(OpenClipboard(nullptr));
-  HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, bytes.size());
-  std::copy(bytes.begin(), bytes.end(), static_cast<char*>(GlobalLock(memory)));
-  GlobalUnlock(memory);
-  SetClipboardData(format, memory);
-  CloseClipboard();
-}
-
 std::string bytesOnClipboard(UINT format) {
   std::string bytes;
-  await("the clipboard", [] { return OpenClipboard(nullptr) != FALSE; });
+  const OpenedClipboard opened;
   if (const HANDLE memory = GetClipboardData(format)) {
     bytes.assign(static_cast<const char*>(GlobalLock(memory)), GlobalSize(memory));
     GlobalUnlock(memory);
   }
-  CloseClipboard();
   return bytes;
 }
 
@@ -66,7 +55,8 @@ class TakenDesktopTest : public testing::Test {
 
   void SetUp() override {
     setClipboardText(L"of a person \u221A");
-    addToClipboard(ownFormat(), "a person's\0own"s);
+    const std::string own = "a person's\0own"s;
+    OpenedClipboard().put(ownFormat(), own.data(), own.size());
     writeUserText(kChangedKey, L"text", L"of a person");
     seen_ = look();
   }
