@@ -3,6 +3,8 @@
 #include <array>
 #include <string_view>
 
+#include "engine/tape_line_style.h"
+
 namespace fuzz {
 
 namespace {
@@ -23,6 +25,18 @@ std::string findBrokenState(const Json& shown) {
   const bool adding = shown["caption"] == "Add Mode, Tallyrex";
   if (shown["sqrt_visible"] == Json(adding)) return "the square-root key is out of step";
   if (shown["mode_checked"] != Json(adding ? 0 : 1)) return "the mode's check mark is out of step";
+  return "";
+}
+
+// What is drawn as an amount is also spoken, and of the notes the errors alone.
+std::string findBrokenLine(const Json& shown) {
+  const std::string tape = shown["tape"];
+  const std::size_t end = tape.rfind("\r\n");
+  const std::string line = end == std::string::npos ? tape : tape.substr(end + 2);
+  const bool speaks =
+      engine::tapeLineStyle(line) != controls::LineStyle::Note || line.starts_with("Error:");
+  if (speaks == engine::spokenTapeLine(line).empty())
+    return "a line of the tape is not spoken as it is drawn";
   return "";
 }
 
@@ -107,8 +121,9 @@ std::string Watch::carryOut(const std::string& command) {
     if (const auto broken = findReplacedField(shown, stored); !broken.empty()) return broken;
   if (const auto broken = money_.findBroken(step); !broken.empty()) return broken;
   if (!step.after.is_object()) return "";
-  const std::string broken = findBrokenState(step.after);
-  return broken.empty() ? findBrokenMarks(step.after) : broken;
+  if (const auto broken = findBrokenState(step.after); !broken.empty()) return broken;
+  if (const auto broken = findBrokenLine(step.after); !broken.empty()) return broken;
+  return findBrokenMarks(step.after);
 }
 
 }  // namespace fuzz
