@@ -34,20 +34,20 @@ constexpr Twips kPictureButton = 570;
 constexpr Twips kPicturePitch = 620;
 constexpr Twips kPictureRow = 3930;
 
-constexpr Twips row(int index) {
+consteval Twips row(int index) {
   return kFirstRow + index * kRowPitch;
 }
 
 // The text of a label has the baseline of the text in its field.
-constexpr Rect label(int r) {
+consteval Rect label(int r) {
   return {kMargin, row(r) + 60, kLabelWidth, kTextHeight};
 }
 
-constexpr Rect field(int r) {
+consteval Rect field(int r) {
   return {kFieldColumn, row(r), kFieldWidth, kFieldHeight};
 }
 
-constexpr Rect picture(int index) {
+consteval Rect picture(int index) {
   return {kRightColumn + index * kPicturePitch, kPictureRow, kPictureButton, kPictureButton};
 }
 

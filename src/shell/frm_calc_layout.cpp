@@ -31,24 +31,24 @@ constexpr Twips kOperatorColumn = 2895;
 constexpr Twips kOperatorWidth = 510;
 constexpr Twips kOperatorPitch = 540;
 
-constexpr Twips row(int index) {
+consteval Twips row(int index) {
   return index == 0 ? kFirstRow : kDigitRow + (index - 1) * kRowPitch;
 }
 
-constexpr Rect clearKey(int r) {
+consteval Rect clearKey(int r) {
   return {0, row(r), 690, kKeyHeight};
 }
 
-constexpr Rect memoryKey(int r, int rows = 1) {
+consteval Rect memoryKey(int r, int rows = 1) {
   return {750, row(r), 480, kKeyHeight + (rows - 1) * kRowPitch};
 }
 
-constexpr Rect digitKey(int column, int r, int columns = 1) {
+consteval Rect digitKey(int column, int r, int columns = 1) {
   return {kDigitColumn + column * kDigitPitch, row(r), kDigitWidth + (columns - 1) * kDigitPitch,
           kKeyHeight};
 }
 
-constexpr Rect operatorKey(int column, int r, int rows = 1) {
+consteval Rect operatorKey(int column, int r, int rows = 1) {
   return {kOperatorColumn + column * kOperatorPitch, row(r), kOperatorWidth,
           kKeyHeight + (rows - 1) * kRowPitch};
 }
@@ -64,7 +64,7 @@ constexpr FontLayout kTapeFont = {"Terminal", 72, false};
 constexpr ControlKind kButton = ControlKind::Button;
 constexpr ControlKind kToggle = ControlKind::ToggleButton;
 
-constexpr ControlLayout digit(std::string_view name, std::string_view face, const Rect& place) {
+consteval ControlLayout digit(std::string_view name, std::string_view face, const Rect& place) {
   return {.kind = kButton, .name = name, .place = place, .font = kKeyFont, .face = face};
 }
 
