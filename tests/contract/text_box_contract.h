@@ -1,7 +1,5 @@
 #pragma once
 
-#include <string>
-
 #include "contract/contract_test.h"
 
 namespace contract {

@@ -2,8 +2,6 @@
 
 #include <windows.h>
 
-#include <vector>
-
 #include "controls/text_box.h"
 #include "driver/native_handles.h"
 

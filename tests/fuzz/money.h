@@ -2,7 +2,6 @@
 
 #include <optional>
 #include <string>
-#include <vector>
 
 #include "driver/json.h"
 #include "fuzz/exact_amount.h"

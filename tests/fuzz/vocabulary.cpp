@@ -24,27 +24,15 @@ constexpr auto kAnnuityKeys = std::to_array<std::string_view>(
     {"txtNper", "txtRate", "txtPmt", "txtPV", "txtFV", "OptNper0", "OptNper1", "OptDue0", "OptDue1",
      "MsgStandard", "MsgLoan", "MsgInv"});
 
-constexpr auto kMainKeys = std::to_array<std::string_view>({"frmCalcAtUnloadLeft",
-                                                            "frmCalcAtUnloadTop",
-                                                            "frmCalcAtUnloadHeight",
-                                                            "frmCalcAtUnloadWidth",
-                                                            "frmCalcLeft",
-                                                            "frmCalcTop",
-                                                            "frmCalcHeight",
-                                                            "frmCalcWidth",
-                                                            "frmCalcMicroLeft",
-                                                            "frmCalcMicroTop",
-                                                            "frmCalcMicroHeight",
-                                                            "frmCalcMicroWidth",
-                                                            "frmCalcchkShiftDec",
-                                                            "frmCalcchkTapeOff",
-                                                            "frmCalcchkFloatingDec",
-                                                            "frmCalcmnuWinAlwaysOnTop",
-                                                            "frmCalcmnuWinMicroWindow",
-                                                            "frmCalcmnuWinPadTape",
-                                                            "frmCalcmintMode",
-                                                            "frmCalctxtDec",
-                                                            "glngTextBackColor"});
+// The places of the main window: where it was closed, and those of its two sizes.
+constexpr auto kPlaces =
+    std::to_array<std::string_view>({"frmCalcAtUnload", "frmCalc", "frmCalcMicro"});
+constexpr auto kEdges = std::to_array<std::string_view>({"Left", "Top", "Height", "Width"});
+
+constexpr auto kMainKeys = std::to_array<std::string_view>(
+    {"frmCalcchkShiftDec", "frmCalcchkTapeOff", "frmCalcchkFloatingDec", "frmCalcmnuWinAlwaysOnTop",
+     "frmCalcmnuWinMicroWindow", "frmCalcmnuWinPadTape", "frmCalcmintMode", "frmCalctxtDec",
+     "glngTextBackColor"});
 
 std::string quoted(const std::string& text) {
   return driver::Json(text).dump(-1, ' ', true, driver::Json::error_handler_t::replace);
@@ -160,6 +148,9 @@ void Vocabulary::addSettings() {
     add("store set " + key + " %text");
     add("store delete " + key);
   };
+  for (const std::string_view place : kPlaces)
+    for (const std::string_view edge : kEdges)
+      addKey("Settings " + std::string(place) + std::string(edge));
   for (const std::string_view key : kMainKeys) addKey("Settings " + std::string(key));
   for (const std::string_view key : kAnnuityKeys) addKey("Annuity " + std::string(key));
   add("store get Settings frmCalctxtDec");

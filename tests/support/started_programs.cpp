@@ -24,9 +24,11 @@ void bindStartedPrograms() {
     throw std::runtime_error("the programs that a test starts cannot be tied to it");
 }
 
-HANDLE startProgram(std::wstring commandLine, DWORD flags) {
+HANDLE startProgram(std::wstring commandLine, DWORD flags, WORD show) {
   STARTUPINFOW startup = {};
   startup.cb = sizeof startup;
+  startup.dwFlags = show != SW_SHOWDEFAULT ? STARTF_USESHOWWINDOW : 0;
+  startup.wShowWindow = show;
   PROCESS_INFORMATION process = {};
   if (!CreateProcessW(nullptr, commandLine.data(), nullptr, nullptr, FALSE, flags, nullptr, nullptr,
                       &startup, &process))

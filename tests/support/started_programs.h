@@ -11,9 +11,9 @@ namespace support {
 void bindStartedPrograms();
 
 /// Starts a program and returns its process, whose handle is the caller's. With
-/// CREATE_BREAKAWAY_FROM_JOB it is like a program that somebody else has started. Throws NotSeen if
-/// it cannot be started.
-HANDLE startProgram(std::wstring commandLine, DWORD flags = 0);
+/// CREATE_BREAKAWAY_FROM_JOB it is like a program that somebody else has started. `SW_...` is the
+/// requested state of its window. Throws NotSeen if it cannot be started.
+HANDLE startProgram(std::wstring commandLine, DWORD flags = 0, WORD show = SW_SHOWDEFAULT);
 
 /// Whether the window belongs to such a program, or to this process. Only these may be ended or
 /// typed into.

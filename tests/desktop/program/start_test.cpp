@@ -1,5 +1,3 @@
-#include <algorithm>
-
 #include "desktop/program/other_program.h"
 #include "desktop/program/program_test.h"
 

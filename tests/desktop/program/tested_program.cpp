@@ -1,5 +1,6 @@
 #include "desktop/program/tested_program.h"
 
+#include "support/started_programs.h"
 #include "support/wait.h"
 #include "support/windows.h"
 
@@ -49,20 +50,8 @@ TestedProgram::~TestedProgram() {
 }
 
 void TestedProgram::launch(WORD show) {
-  STARTUPINFOW startup = {};
-  startup.cb = sizeof startup;
-  if (show != SW_SHOWDEFAULT) {
-    startup.dwFlags = STARTF_USESHOWWINDOW;
-    startup.wShowWindow = show;
-  }
-  PROCESS_INFORMATION started = {};
-  std::wstring commandLine = L"\"" + program_ + L"\"";
-  if (!CreateProcessW(program_.c_str(), commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr,
-                      nullptr, &startup, &started))
-    throw NotSeen("the program");
-  CloseHandle(started.hThread);
-  process_ = started.hProcess;
-  processId_ = started.dwProcessId;
+  process_ = startProgram(L"\"" + program_ + L"\"", 0, show);
+  processId_ = GetProcessId(process_);
   AllowSetForegroundWindow(processId_);
 }
 
