@@ -135,7 +135,3 @@ class ClassSize(unittest.TestCase):
                          ["A: 26 public functions, 0 fields", "B: 0 public functions, 13 fields"])
         self.assertEqual(complaints("struct D { %s private: void f(); };" % fields),
                          ["D: 0 public functions, 13 fields"])
-
-
-if __name__ == "__main__":
-    unittest.main()

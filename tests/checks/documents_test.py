@@ -32,7 +32,3 @@ class Documents(unittest.TestCase):
     def test_working_links_are_accepted(self):
         text = "[a](README.md#top) [b](https://example.org/none) `src/common` `tests/scenarios/*.txt`"
         self.assertEqual(missing(tree.ROOT, text), [])
-
-
-if __name__ == "__main__":
-    unittest.main()

@@ -87,7 +87,3 @@ class IncludeDirections(unittest.TestCase):
                            ("src/common/a.cpp", "#include <string_view>"),
                            ("src/common/a.cpp", "// windows.h is not for us")]:
             self.assertIsNone(complaint(file, line), (file, line))
-
-
-if __name__ == "__main__":
-    unittest.main()

@@ -19,7 +19,3 @@ class KeptIcons(unittest.TestCase):
         # Drawings for small sizes, or for one, go into the icon of the same name.
         drawings = {re.sub(r"-(small|\d+)$", "", path.stem) for path in ICONS.glob("*.svg")}
         self.assertEqual({path.stem for path in (ICONS / "kept").glob("*.ico")}, drawings)
-
-
-if __name__ == "__main__":
-    unittest.main()

@@ -111,7 +111,3 @@ class Page(unittest.TestCase):
 
     def test_comes_in_light_and_dark(self):
         self.assertIn("prefers-color-scheme: dark", self.text)
-
-
-if __name__ == "__main__":
-    unittest.main()

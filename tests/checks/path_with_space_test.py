@@ -28,7 +28,3 @@ class PathWithSpace(unittest.TestCase):
         self.run_there("scripts/build", "release", "tallyrex_common", "tallyrex_resources")
         library = self.root / "build/release/src/common/libtallyrex_common.a"
         self.assertNotIn(str(self.root).encode(), library.read_bytes())
-
-
-if __name__ == "__main__":
-    unittest.main()

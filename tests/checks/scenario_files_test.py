@@ -52,7 +52,3 @@ class ScenarioFiles(unittest.TestCase):
             text = "# What a user sees\nstart\n" + answer
             self.assertEqual(complaints_about(text), ["nothing is expected"], answer)
         self.assertEqual(complaints_about('# What a user sees\nsnapshot\n=> {"entry":""}\n'), [])
-
-
-if __name__ == "__main__":
-    unittest.main()

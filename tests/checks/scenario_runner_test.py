@@ -127,7 +127,3 @@ class ScenarioRunner(unittest.TestCase):
 
     def test_no_scenario_at_all_fails(self):
         self.assertEqual(self.run_on("start\n", "--only", "other", *self.driver())[0], 1)
-
-
-if __name__ == "__main__":
-    unittest.main()

@@ -95,7 +95,3 @@ class SourceFiles(unittest.TestCase):
         for path in tree.files(".h", below="src") + tree.files(".h", below="tests"):
             with self.subTest(file=tree.name(path)):
                 self.assertIn("#pragma once", tree.lines(path))
-
-
-if __name__ == "__main__":
-    unittest.main()

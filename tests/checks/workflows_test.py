@@ -102,7 +102,3 @@ class Workflows(unittest.TestCase):
                 if step.get("uses", "").startswith("actions/upload-artifact"):
                     for path in step["with"]["path"].split():
                         self.assertTrue(path.startswith("build/"), "%s keeps %s" % (name, path))
-
-
-if __name__ == "__main__":
-    unittest.main()

@@ -120,7 +120,3 @@ class UsersInstallation(Installation):
         self.remove()
         self.assertEqual(own.read_text(encoding="ascii"), "mine")
         self.assertEqual([path.name for path in self.place.rglob("*")], ["help", "notes.txt"])
-
-
-if __name__ == "__main__":
-    unittest.main()

@@ -143,7 +143,3 @@ class Setup(EitherProgram, unittest.TestCase):
     @classmethod
     def setUpClass(cls):
         cls.program = PeFile.read(packages.SETUP)
-
-
-if __name__ == "__main__":
-    unittest.main()

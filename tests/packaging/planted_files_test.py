@@ -123,7 +123,3 @@ class PlantedFiles(unittest.TestCase):
             account.wait_until("what is done by " + repr(steps), done)
         finally:
             self.stop(process)
-
-
-if __name__ == "__main__":
-    unittest.main()

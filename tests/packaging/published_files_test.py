@@ -189,7 +189,3 @@ class Manifests(Scratch):
         with zipfile.ZipFile(self.published(packages.ARCHIVE)) as archive:
             for shortcut, _ in manifest["shortcuts"]:
                 self.assertIn(download["extract_dir"] + "/" + shortcut, archive.namelist())
-
-
-if __name__ == "__main__":
-    unittest.main()

@@ -179,7 +179,3 @@ class RollOut(Installation):
         self.assertEqual(program.wait(timeout=30), 0)
         self.assertEqual({path: path.stat().st_mtime_ns for path in folder.rglob("*")}, before)
         self.assertTrue(account.registry(SETTINGS_KEY), "the settings were not saved")
-
-
-if __name__ == "__main__":
-    unittest.main()

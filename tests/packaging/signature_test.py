@@ -83,7 +83,3 @@ class Signature(unittest.TestCase):
             packages.make(self.folder / "wrong-packages", TALLYREX_CERTIFICATE=str(self.certificate),
                           TALLYREX_CERTIFICATE_PASSWORD_FILE=str(self.password.with_name("wrong")))
         self.assertFalse((self.folder / "wrong-packages" / "SHA256SUMS").exists())
-
-
-if __name__ == "__main__":
-    unittest.main()

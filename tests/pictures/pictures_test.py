@@ -56,7 +56,3 @@ class Pictures(unittest.TestCase):
     def test_no_two_recipes_have_the_same_name(self):
         names = [path.stem for folder in (PICTURES, APPEARANCES) for path in folder.glob("*.txt")]
         self.assertEqual(len(names), len(set(names)))
-
-
-if __name__ == "__main__":
-    unittest.main()
