@@ -1,22 +1,11 @@
 #include "controls/number_field.h"
 
-#include <gtest/gtest.h>
-
-#include <array>
-#include <memory>
-#include <string>
-
-#include "inmemory/desktop.h"
+#include "unit/controls_test.h"
 
 namespace controls {
 namespace {
 
-constexpr std::array kControls = {
-    ControlLayout{.kind = ControlKind::TextBox, .name = "txtField", .place = {0, 0, 900, 300}}};
-constexpr WindowLayout kLayout = {
-    .name = "frmTest", .caption = "Test", .place = {0, 0, 3000, 2000}, .controls = kControls};
-
-class NumberFieldTest : public testing::Test {
+class NumberFieldTest : public ControlsTest {
  protected:
   void put(std::string text, int caret, int selected = 0) {
     box_.setText(text);
@@ -29,9 +18,6 @@ class NumberFieldTest : public testing::Test {
            std::to_string(box_.selLength());
   }
 
-  inmemory::Desktop desktop_;
-  std::unique_ptr<Window> window_ = desktop_.createWindow(kLayout);
-  TextBox& box_ = window_->textBox("txtField");
   NumberField field_{box_};
   int changes_ = 0;
 
