@@ -23,7 +23,6 @@ struct Written {
   bool hasPoint;
   bool hasExponent;
   long long exponent;
-  bool plain;
 };
 
 bool isBlank(char character) {
@@ -64,7 +63,6 @@ std::string_view trimmed(std::string_view text) {
 void readFront(std::string_view& rest, Written& written) {
   written.sign = takeSign(rest);
   if (!take(rest, '$')) return;
-  written.plain = false;
   takeWhile(rest, isBlank);
   if (!written.sign) written.sign = takeSign(rest);
 }
@@ -73,7 +71,6 @@ void readFront(std::string_view& rest, Written& written) {
 bool readExponent(std::string_view& rest, Written& written) {
   if (!take(rest, 'E') && !take(rest, 'e')) return true;
   written.hasExponent = true;
-  written.plain = false;
   const bool negative = takeSign(rest) == '-';
   const std::string_view digits = takeWhile(rest, isDigit);
   for (const char digit : digits) {
@@ -92,7 +89,6 @@ bool readDigits(std::string_view& rest, Written& written) {
   if (written.hasPoint) written.fraction = takeWhile(rest, isDigit);
   if (!written.integer.empty())
     return written.integer.find_first_not_of(',') != std::string_view::npos;
-  written.plain = false;
   return !written.fraction.empty();
 }
 
@@ -104,7 +100,6 @@ bool readBack(std::string_view& rest, bool parentheses, Written& written) {
     return true;
   }
   written.sign = '-';
-  written.plain = false;
   return true;
 }
 
@@ -112,7 +107,6 @@ bool readBack(std::string_view& rest, bool parentheses, Written& written) {
 std::optional<Written> read(std::string_view text) {
   std::string_view rest = trimmed(text);
   Written written = {};
-  written.plain = rest.size() == text.size();
   const bool parentheses = take(rest, '(');
   readFront(rest, written);
   const bool isNumber = readDigits(rest, written) && readExponent(rest, written) &&
@@ -251,7 +245,6 @@ std::optional<std::string> toPlainText(std::string_view text) {
   const Decimal decimal = decimalOf(*written);
   const auto magnitude = magnitudeOf(decimal);
   if (!magnitude) return {};
-  if (written->plain) return std::string(text);
   std::string plain;
   if (written->sign) plain += written->sign;
   if (!written->hasExponent) {
