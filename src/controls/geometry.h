@@ -8,14 +8,14 @@ namespace controls {
 /// A twentieth of a point: 1440 to the inch, 15 to a pixel at 100 percent scaling.
 using Twips = int;
 
+inline constexpr Twips kTwipsPerPixel = 15;
+
 /// A stored position or size, limited to what a window can have: coordinates of a screen are 16-bit
 /// pixel numbers.
 inline Twips clampedTwips(double stored) {
-  constexpr double kFarthest = 32767 * 15;
+  constexpr double kFarthest = 32767 * kTwipsPerPixel;
   return static_cast<Twips>(std::lround(std::clamp(stored, -kFarthest, kFarthest)));
 }
-
-inline constexpr Twips kTwipsPerPixel = 15;
 
 /// A position and a size, in twips.
 struct Rect {
