@@ -1,6 +1,8 @@
 #include "inmemory/text_box.h"
 
 #include <algorithm>
+#include <cassert>
+#include <utility>
 
 #include "common/unicode.h"
 
@@ -11,6 +13,7 @@ using controls::KeyCode;
 namespace {
 
 std::u16string_view part(const std::u16string& text, int start, int length) {
+  assert(start >= 0 && length >= 0 && std::cmp_less_equal(start + length, text.size()));
   return std::u16string_view(text).substr(static_cast<std::size_t>(start),
                                           static_cast<std::size_t>(length));
 }
