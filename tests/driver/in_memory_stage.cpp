@@ -22,10 +22,6 @@ void InMemoryStage::crash() {
   app_.reset();
 }
 
-void InMemoryStage::keyDown(const controls::KeyStroke& stroke, controls::KeyAscii character) {
-  keyboard_.down(stroke, character);
-}
-
 void InMemoryStage::keyUp(const controls::KeyStroke& stroke) {
   if (!stroke.alt) keyboard_.up(stroke.key);
 }
@@ -75,26 +71,12 @@ void InMemoryStage::setState(controls::Window& window, controls::WindowState sta
   });
 }
 
-std::optional<std::string> InMemoryStage::readSetting(const std::string& section,
-                                                      const std::string& key) {
-  return desktop_.settings().read(section, key);
-}
-
-void InMemoryStage::writeSetting(const std::string& section, const std::string& key,
-                                 const std::string& text) {
-  desktop_.settings().write(section, key, text);
-}
-
 void InMemoryStage::deleteSetting(const std::string& section, const std::string& key) {
   auto& sections = desktop_.stores[desktop_.name].sections;
   const auto found = sections.find(section);
   if (found == sections.end()) return;
   found->second.erase(key);
   if (found->second.empty()) sections.erase(found);
-}
-
-void InMemoryStage::clearSettings() {
-  desktop_.stores[desktop_.name].sections.clear();
 }
 
 Json InMemoryStage::dumpSettings() {

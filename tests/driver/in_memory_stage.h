@@ -23,7 +23,9 @@ class InMemoryStage : public Stage {
   void bringToFront(controls::Window& window) override {
     act([&] { window.show(); });
   }
-  void keyDown(const controls::KeyStroke& stroke, controls::KeyAscii character) override;
+  void keyDown(const controls::KeyStroke& stroke, controls::KeyAscii character) override {
+    keyboard_.down(stroke, character);
+  }
   void keyUp(const controls::KeyStroke& stroke) override;
   void click(controls::Control& control) override;
   void doubleClick(controls::Control& control) override;
@@ -34,11 +36,15 @@ class InMemoryStage : public Stage {
   std::optional<std::string> clipboardText() override { return desktop_.clipboard; }
   void setClipboard(const std::optional<std::string>& text) override { desktop_.clipboard = text; }
   std::optional<std::string> readSetting(const std::string& section,
-                                         const std::string& key) override;
+                                         const std::string& key) override {
+    return desktop_.settings().read(section, key);
+  }
   void writeSetting(const std::string& section, const std::string& key,
-                    const std::string& text) override;
+                    const std::string& text) override {
+    desktop_.settings().write(section, key, text);
+  }
   void deleteSetting(const std::string& section, const std::string& key) override;
-  void clearSettings() override;
+  void clearSettings() override { desktop_.stores[desktop_.name].sections.clear(); }
   Json dumpSettings() override;
   void receive(const Request& request) override;
   void queueRequest(const Request& request) override {

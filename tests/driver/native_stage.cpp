@@ -7,7 +7,6 @@
 #include "driver/command.h"
 #include "driver/native_handles.h"
 #include "driver/native_screen.h"
-#include "driver/native_settings.h"
 #include "support/clipboard.h"
 #include "support/retries.h"
 #include "support/wine.h"

@@ -8,6 +8,7 @@
 #include "driver/native_desktop.h"
 #include "driver/native_keyboard.h"
 #include "driver/native_mouse.h"
+#include "driver/native_settings.h"
 #include "driver/native_ui_thread.h"
 #include "driver/stage.h"
 
@@ -34,12 +35,14 @@ class NativeStage : public Stage {
   bool running() override;
   void start(const std::string& name) override;
   void crash() override;
-  void close(controls::Window& window) override;
-  void bringToFront(controls::Window& window) override;
+  void close(controls::Window& window) override {
+    deliver(handleOf(window), WM_SYSCOMMAND, SC_CLOSE, 0);
+  }
+  void bringToFront(controls::Window& window) override { putInFront(window); }
   void keyDown(const controls::KeyStroke& stroke, controls::KeyAscii character) override;
   void keyUp(const controls::KeyStroke& stroke) override;
-  void click(controls::Control& control) override;
-  void doubleClick(controls::Control& control) override;
+  void click(controls::Control& control) override { clickWithMouse(control, 1); }
+  void doubleClick(controls::Control& control) override { clickWithMouse(control, 2); }
   void focus(controls::Control& control) override;
   void useBoxMenu(controls::TextBox& box, controls::BoxCommand command) override;
   void choose(controls::MenuItem& item) override;
@@ -47,12 +50,18 @@ class NativeStage : public Stage {
   std::optional<std::string> clipboardText() override;
   void setClipboard(const std::optional<std::string>& text) override;
   std::optional<std::string> readSetting(const std::string& section,
-                                         const std::string& key) override;
+                                         const std::string& key) override {
+    return readStored(desktop_.programName(), section, key);
+  }
   void writeSetting(const std::string& section, const std::string& key,
-                    const std::string& text) override;
-  void deleteSetting(const std::string& section, const std::string& key) override;
-  void clearSettings() override;
-  Json dumpSettings() override;
+                    const std::string& text) override {
+    writeStored(desktop_.programName(), section, key, text);
+  }
+  void deleteSetting(const std::string& section, const std::string& key) override {
+    deleteStored(desktop_.programName(), section, key);
+  }
+  void clearSettings() override { clearStored(desktop_.programName()); }
+  Json dumpSettings() override { return dumpStored(desktop_.programName()); }
   void receive(const Request& request) override;
   void queueRequest(const Request& request) override {
     boxes_.queueRequest([this, request] { sendRequest(request); });

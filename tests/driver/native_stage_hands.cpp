@@ -47,14 +47,6 @@ void NativeStage::keyUp(const controls::KeyStroke& stroke) {
   if (stroke.alt) cancelMouse();
 }
 
-void NativeStage::click(controls::Control& control) {
-  clickWithMouse(control, 1);
-}
-
-void NativeStage::doubleClick(controls::Control& control) {
-  clickWithMouse(control, 2);
-}
-
 // Asked on the program's thread: there the frame around a group of buttons lets clicks through.
 HWND NativeStage::windowAt(POINT place) {
   HWND window = nullptr;
@@ -233,10 +225,6 @@ void NativeStage::clickThrough(const std::vector<MenuPlace>& way, POINT place) {
     if (!placeInMenu(way[i], place) || !clickAt(place, MouseButton::Left)) return;
 }
 
-void NativeStage::close(controls::Window& window) {
-  deliver(handleOf(window), WM_SYSCOMMAND, SC_CLOSE, 0);
-}
-
 // Sends the message to each window of the program in turn and waits, as the system or another
 // program would.
 void NativeStage::sendRequest(const Request& request) {
@@ -265,10 +253,6 @@ void NativeStage::receive(const Request& request) {
   sendRequest(request);
   ui_.post([] {});
   settle();
-}
-
-void NativeStage::bringToFront(controls::Window& window) {
-  putInFront(window);
 }
 
 void NativeStage::setState(controls::Window& window, controls::WindowState state) {

@@ -70,7 +70,14 @@ class SessionEndTest : public ProgramTest {
     return openAboutBox();
   }
 
-  void expectOnTopKept() {
+  void expectEndWithFieldsAsStored() {
+    expectEnd();
+    expectFieldsAsStored();
+    expectMainWindowSaved();
+  }
+
+  void expectEndWithOnTopKept() {
+    expectEnd();
     EXPECT_EQ(settings().get(L"frmCalcmnuWinAlwaysOnTop"), L"True");
     expectMainWindowSaved();
   }
@@ -84,33 +91,25 @@ class SessionEndTest : public ProgramTest {
 TEST_F(SessionEndTest, SentToTheMainWindowDuringTheFirstNoteKeepsTheFields) {
   openFirstNote();
   endSession({program().mainWindow()});
-  expectEnd();
-  expectFieldsAsStored();
-  expectMainWindowSaved();
+  expectEndWithFieldsAsStored();
 }
 
 TEST_F(SessionEndTest, SentToTheCalculatorDuringItsFirstNoteKeepsTheFields) {
   openFirstNote();
   endSession({hiddenWindow()});
-  expectEnd();
-  expectFieldsAsStored();
-  expectMainWindowSaved();
+  expectEndWithFieldsAsStored();
 }
 
 TEST_F(SessionEndTest, SentToAllWindowsKeepsTheFields) {
   openFirstNote();
   endSession(itsWindows());
-  expectEnd();
-  expectFieldsAsStored();
-  expectMainWindowSaved();
+  expectEndWithFieldsAsStored();
 }
 
 TEST_F(SessionEndTest, CloseRequestToAllWindowsDuringTheFirstNoteKeepsTheFields) {
   openFirstNote();
   askToClose(itsWindows());
-  expectEnd();
-  expectFieldsAsStored();
-  expectMainWindowSaved();
+  expectEndWithFieldsAsStored();
 }
 
 TEST_F(SessionEndTest, WindowClosedDuringItsFirstNoteStaysClosed) {
@@ -129,22 +128,19 @@ TEST_F(SessionEndTest, WindowClosedDuringItsFirstNoteStaysClosed) {
 TEST_F(SessionEndTest, MainWindowClosesBehindTheAboutBox) {
   openAboutBoxOverAWindowOnTop();
   askToClose({program().mainWindow()});
-  expectEnd();
-  expectOnTopKept();
+  expectEndWithOnTopKept();
 }
 
 TEST_F(SessionEndTest, SentToTheMainWindowBehindTheAboutBoxEndsTheProgram) {
   openAboutBoxOverAWindowOnTop();
   endSession({program().mainWindow()});
-  expectEnd();
-  expectOnTopKept();
+  expectEndWithOnTopKept();
 }
 
 TEST_F(SessionEndTest, SentToTheAboutBoxEndsTheProgram) {
   const HWND about = openAboutBoxOverAWindowOnTop();
   endSession({about});
-  expectEnd();
-  expectOnTopKept();
+  expectEndWithOnTopKept();
 }
 
 TEST_F(SessionEndTest, EndsTheProgramDuringAMessage) {
