@@ -26,8 +26,8 @@ bool Window::isTabStop(const Control& control) const {
 }
 
 void Window::moveFocus(bool forward) {
-  std::vector<Control*> order;
-  for (const auto& control : controls_) order.push_back(control.get());
+  std::vector<Control*> order(controls_.size());
+  std::ranges::transform(controls_, order.begin(), &std::unique_ptr<Control>::get);
   if (!forward) std::reverse(order.begin(), order.end());
   const auto here = std::find(order.begin(), order.end(), focusedControl_);
   if (here != order.end()) std::rotate(order.begin(), here + 1, order.end());
