@@ -40,6 +40,9 @@ std::optional<LRESULT> TextBox::take(const Message& message) {
     case EM_SETLIMITTEXT:
     case EM_SETWORDBREAKPROC:
     case EM_SETHANDLE:
+    case EM_SETMARGINS:
+    case EM_SETPASSWORDCHAR:
+    case EM_SETREADONLY:
       // Other programs must not change the box.
       return 0;
     default:

@@ -99,6 +99,13 @@ TEST_F(NativeOutside, OtherProgramsCannotChangeHowABoxWorks) {
   send(first_, EM_SETLIMITTEXT, 1);
   send(first_, EM_SETWORDBREAKPROC, 0, 1);
   send(first_, EM_SETHANDLE, 1);
+  send(first_, EM_SETPASSWORDCHAR, '*');
+  send(first_, EM_SETREADONLY, TRUE);
+  // In a box with margins wider than itself, Wine looks forever for the place of the text.
+  send(first_, EM_SETMARGINS, EC_LEFTMARGIN, 50);
+  EXPECT_NE(LOWORD(send(first_, EM_GETMARGINS)), 50);
+  EXPECT_EQ(send(first_, EM_GETPASSWORDCHAR), 0);
+  EXPECT_EQ(GetWindowLongW(handleOf(first_), GWL_STYLE) & ES_READONLY, 0);
   type("123");
   send(first_, WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(5, 5));
   send(first_, WM_LBUTTONUP, 0, MAKELPARAM(5, 5));
