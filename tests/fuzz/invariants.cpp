@@ -110,11 +110,11 @@ std::string Watch::findReplacedField(const Fields& shown, const Fields& stored) 
 std::string Watch::carryOut(const std::string& command) {
   const bool watched =
       !command.starts_with("st") && (mayStore(command) || !isTrue("get frmAnnuity Loaded"));
-  Step step{.command = command, .before = snapshot(), .after = {}};
+  Step step{.command = command, .before = snapshot()};
   const Fields shown = watched ? fields() : Fields();
   const Fields stored = watched ? storedFields() : Fields();
   ask("events");
-  driver_.answer(command);
+  step.refused = driver_.answer(command).starts_with("{\"error\"");
   step.after = snapshot();
   if (command != "events") step.boxShown = !ask("events")["boxes"].empty();
   if (watched)

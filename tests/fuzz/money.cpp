@@ -31,8 +31,8 @@ bool isHeader(const std::string& tape) {
 }
 
 bool isClick(const Step& step, std::string_view control) {
-  return step.command == "click frmCalc." + std::string(control) ||
-         step.command == "click " + std::string(control);
+  return !step.refused && (step.command == "click frmCalc." + std::string(control) ||
+                           step.command == "click " + std::string(control));
 }
 
 }  // namespace

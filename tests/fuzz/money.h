@@ -14,6 +14,8 @@ struct Step {
   driver::Json before;
   driver::Json after;
   bool boxShown = false;
+  /// Such as a click on a key of a window that a dialog has disabled.
+  bool refused = false;
 };
 
 /// Checks the arithmetic by hand: every total on the tape against the lines above it, the memory
