@@ -1,6 +1,7 @@
 #include "controls/control.h"
 
 #include <cctype>
+#include <utility>
 
 #include "controls/desktop.h"
 #include "controls/window.h"
@@ -85,6 +86,17 @@ void Control::setFocus() {
 KeyAscii Control::keyPress(KeyAscii character) {
   raise(onKeyPress, character);
   return character;
+}
+
+void Control::typeUnit(char16_t unit) {
+  const char16_t first = std::exchange(highSurrogate_, 0);
+  if (unit >= 0xD800 && unit < 0xDC00) {
+    highSurrogate_ = unit;
+  } else if (first != 0 && unit >= 0xDC00 && unit < 0xE000) {
+    typeCharacter(0x10000 + ((first - 0xD800) << 10) + (unit - 0xDC00));
+  } else {
+    typeCharacter(unit);
+  }
 }
 
 void Control::keyUp(KeyCode key) {

@@ -72,6 +72,8 @@ class Control {
   void doubleClick();
   /// A character is typed while it has the focus: KeyPress, then the effect of the character.
   virtual void typeCharacter(KeyAscii character) { keyPress(character); }
+  /// The same for a UTF-16 unit: the two halves of a surrogate pair are typed as one character.
+  void typeUnit(char16_t unit);
 
  protected:
   /// Called when a property has changed, for an implementation that displays it.
@@ -93,6 +95,8 @@ class Control {
   Color backColor_;
   bool visible_ = true;
   bool enabled_ = true;
+  // The first half of a surrogate pair.
+  char16_t highSurrogate_ = 0;
 };
 
 }  // namespace controls

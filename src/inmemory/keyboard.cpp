@@ -12,7 +12,7 @@ void Keyboard::down(const controls::KeyStroke& stroke, controls::KeyAscii charac
     controls::Control* control = window->focusedControl();
     if (!control) return;
     if (character != 0) {
-      control->typeCharacter(character);
+      control->typeUnit(static_cast<char16_t>(character));
     } else if (auto* box = dynamic_cast<TextBox*>(control)) {
       box->pressKey(stroke);
     }

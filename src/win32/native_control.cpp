@@ -80,7 +80,7 @@ std::optional<LRESULT> NativeControl::take(const Message& message) {
       // The native control does not act on keys by itself: their characters are handled.
       return 0;
     case WM_CHAR:
-      takeCharacter(static_cast<wchar_t>(message.wParam));
+      control_.typeUnit(static_cast<char16_t>(message.wParam));
       return 0;
     case WM_KEYUP:
       if (!isModifier(message.wParam))
@@ -89,18 +89,6 @@ std::optional<LRESULT> NativeControl::take(const Message& message) {
     default:
       return {};
   }
-}
-
-void NativeControl::takeCharacter(wchar_t unit) {
-  if (IS_HIGH_SURROGATE(unit)) {
-    highSurrogate_ = unit;
-    return;
-  }
-  controls::KeyAscii character = unit;
-  if (IS_LOW_SURROGATE(unit) && highSurrogate_)
-    character = 0x10000 + ((highSurrogate_ - 0xD800) << 10) + (unit - 0xDC00);
-  highSurrogate_ = 0;
-  control_.typeCharacter(character);
 }
 
 std::wstring NativeControl::windowText() const {

@@ -70,7 +70,6 @@ class NativeControl {
 
  private:
   static LRESULT CALLBACK receive(HWND handle, UINT id, WPARAM wParam, LPARAM lParam);
-  void takeCharacter(wchar_t unit);
 
   Window& frame_;
   controls::Control& control_;
@@ -78,8 +77,6 @@ class NativeControl {
   // The original window procedure.
   WNDPROC native_ = nullptr;
   OwnedBrush background_;
-  // The first half of a surrogate pair.
-  wchar_t highSurrogate_ = 0;
   bool announced_ = false;
 };
 
