@@ -32,12 +32,14 @@ std::optional<ExactAmount> exactAmount(std::string_view text) {
   return negative ? -amount : amount;
 }
 
-bool isShownWhole(ExactAmount amount) {
+bool isShownWhole(ExactAmount amount, int places) {
   if (amount < 0) amount = -amount;
+  int behind = kDigitsBehindPoint;
+  for (; behind > 0 && amount % 10 == 0; amount /= 10) --behind;
   while (amount != 0 && amount % 10 == 0) amount /= 10;
   int digits = 0;
   for (; amount != 0; amount /= 10) ++digits;
-  return digits <= kShownDigits;
+  return behind <= places && digits <= kShownDigits;
 }
 
 }  // namespace fuzz

@@ -20,6 +20,13 @@ std::vector<std::string> linesOf(const std::string& tape) {
   return lines;
 }
 
+int placesOf(const driver::Json& shown) {
+  constexpr int kFloating = 15;
+  const std::string places = textOf(shown, "dec");
+  if (shown.value("floating", 0) == 1) return kFloating;
+  return places.size() == 1 && places >= "0" && places <= "9" ? places[0] - '0' : 0;
+}
+
 bool isOnTape(const Step& step) {
   return textOf(step.before, "focus") == "txtTape" || textOf(step.after, "focus") == "txtTape" ||
          step.command.find("txtTape") != std::string::npos;
@@ -81,14 +88,14 @@ std::string Money::findWrongTotal(const Step& step) {
     return "";
   }
   for (const std::string& line : linesOf(after.substr(before.size()))) {
-    const std::string broken = addLine(line);
+    const std::string broken = addLine(line, placesOf(step.after));
     if (!broken.empty()) return broken;
   }
   if (step.after.value("modes_enabled", false)) sum_ = 0;
   return "";
 }
 
-std::string Money::addLine(const std::string& line) {
+std::string Money::addLine(const std::string& line, int places) {
   if (line.find_first_not_of(' ') == std::string::npos) return "";
   const std::size_t from = line.find_first_not_of(' ');
   const std::size_t end = line.find(' ', from);
@@ -101,7 +108,8 @@ std::string Money::addLine(const std::string& line) {
   if (mark == " * ") {
     const auto sum = sum_;
     sum_ = 0;
-    if (sum && isShownWhole(*sum) && *sum != *amount) return "a total is not the sum: " + line;
+    if (sum && isShownWhole(*sum, places) && *sum != *amount)
+      return "a total is not the sum: " + line;
     return "";
   }
   if (sum_) *sum_ += mark == " + " ? *amount : -*amount;
@@ -124,7 +132,8 @@ std::string Money::findWrongMemory(const Step& step) {
   } else if (step.command.starts_with("press Alt+") || step.command.starts_with("dblclick ") ||
              textOf(step.before, "focus").starts_with("cmdMem")) {
     memory_.reset();
-  } else if (isClick(step, "cmdMemRecall") && memory_ && isShownWhole(*memory_)) {
+  } else if (isClick(step, "cmdMemRecall") && memory_ &&
+             isShownWhole(*memory_, placesOf(step.after))) {
     if (shown && *shown != *memory_) return "the memory is not what was put into it";
   }
   return "";

@@ -31,7 +31,7 @@ class Money {
   std::string findChangedTape(const Step& step);
   std::string findWrongTotal(const Step& step);
   std::string findWrongMemory(const Step& step);
-  std::string addLine(const std::string& line);
+  std::string addLine(const std::string& line, int places);
 
   // Of the additions since the last total; nothing when something else was calculated.
   std::optional<ExactAmount> sum_ = 0;
