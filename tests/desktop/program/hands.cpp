@@ -65,13 +65,21 @@ void doubleClick(POINT place) {
   send({down, up, down, up});
 }
 
-void dragWindow(HWND window, POINT from, POINT to) {
-  SetCursorPos(from.x, from.y);
+void holdFrame(HWND window, POINT place) {
+  SetCursorPos(place.x, place.y);
   send({mouseInput(MOUSEEVENTF_LEFTDOWN)});
   await("a window that is being dragged",
         [window] { return (inputStateOf(window).flags & GUI_INMOVESIZE) != 0; });
-  SetCursorPos(to.x, to.y);
+}
+
+void releaseMouse() {
   send({mouseInput(MOUSEEVENTF_LEFTUP)});
+}
+
+void dragWindow(HWND window, POINT from, POINT to) {
+  holdFrame(window, from);
+  SetCursorPos(to.x, to.y);
+  releaseMouse();
 }
 
 POINT middleOf(HWND window) {

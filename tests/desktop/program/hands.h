@@ -16,7 +16,11 @@ void pressWith(WORD modifier, WORD key);
 
 void click(POINT place);
 void doubleClick(POINT place);
-/// Drags a window's frame from `from` to `to`; throws NotSeen if it cannot be grabbed.
+/// Presses the mouse button on a window's frame, and waits until it is being dragged; throws
+/// NotSeen if it cannot be grabbed.
+void holdFrame(HWND window, POINT place);
+void releaseMouse();
+/// Drags a window's frame from `from` to `to`; throws NotSeen as holdFrame.
 void dragWindow(HWND window, POINT from, POINT to);
 /// The center of a window on the screen.
 POINT middleOf(HWND window);

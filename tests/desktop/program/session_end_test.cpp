@@ -143,6 +143,18 @@ TEST_F(SessionEndTest, SentToTheAboutBoxEndsTheProgram) {
   expectEndWithOnTopKept();
 }
 
+// The window is destroyed only after the system's own loop for the drag.
+TEST_F(SessionEndTest, EndsTheProgramWhileItsFrameIsDragged) {
+  start();
+  const HWND window = program().mainWindow();
+  const RECT place = placeOf(window);
+  holdFrame(window, {(place.left + place.right) / 2, place.top + 12});
+  askToClose({window});
+  await("a hidden window", [window] { return !IsWindowVisible(window); });
+  releaseMouse();
+  expectEnd();
+}
+
 TEST_F(SessionEndTest, EndsTheProgramDuringAMessage) {
   startWithFields();
   chooseFromMenu('F', "S");
