@@ -79,6 +79,8 @@ void ProgramTest::awaitInFront(HWND window) {
 
 void ProgramTest::awaitRest() {
   constexpr ULONGLONG kRest = 250;
+  constexpr ULONGLONG kLost = 5000;
+  bool brought = false;
   const auto seen = [] { return std::pair(GetForegroundWindow(), program().focus()); };
   auto last = seen();
   ULONGLONG since = GetTickCount64();
@@ -86,6 +88,12 @@ void ProgramTest::awaitRest() {
     const auto now = seen();
     if (now != last) since = GetTickCount64();
     last = now;
+    // On Wine, the end of another program may leave no window with the keyboard.
+    if (isWine() && !now.second && GetTickCount64() - since >= kLost &&
+        !std::exchange(brought, true)) {
+      noteRetry("the program brought to the front");
+      SetForegroundWindow(program().mainWindow());
+    }
     return now.second && GetTickCount64() - since >= kRest;
   });
 }
