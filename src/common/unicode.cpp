@@ -69,9 +69,9 @@ std::string toUtf8(std::u16string_view text) {
   std::string result;
   for (std::size_t at = 0; at < text.size(); ++at) {
     char32_t character = text[at];
-    const bool high = character >= 0xD800 && character < 0xDC00;
-    if (high && at + 1 < text.size() && text[at + 1] >= 0xDC00 && text[at + 1] < 0xE000) {
-      character = 0x10000 + ((character - 0xD800) << 10) + (text[++at] - 0xDC00u);
+    if (isHighSurrogate(text[at]) && at + 1 < text.size() && isLowSurrogate(text[at + 1])) {
+      character = characterOfPair(text[at], text[at + 1]);
+      ++at;
     }
     encode(character, result);
   }

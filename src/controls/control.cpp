@@ -3,6 +3,7 @@
 #include <cctype>
 #include <utility>
 
+#include "common/unicode.h"
 #include "controls/desktop.h"
 #include "controls/window.h"
 
@@ -90,10 +91,10 @@ KeyAscii Control::keyPress(KeyAscii character) {
 
 void Control::typeUnit(char16_t unit) {
   const char16_t first = std::exchange(highSurrogate_, 0);
-  if (unit >= 0xD800 && unit < 0xDC00) {
+  if (common::isHighSurrogate(unit)) {
     highSurrogate_ = unit;
-  } else if (first != 0 && unit >= 0xDC00 && unit < 0xE000) {
-    typeCharacter(0x10000 + ((first - 0xD800) << 10) + (unit - 0xDC00));
+  } else if (first != 0 && common::isLowSurrogate(unit)) {
+    typeCharacter(static_cast<KeyAscii>(common::characterOfPair(first, unit)));
   } else {
     typeCharacter(unit);
   }

@@ -55,7 +55,7 @@ void NumberField::dropSeparatorsBehindPoint() {
 // A surrogate pair takes two positions.
 void NumberField::dropFirstCharacter() {
   const std::u16string text = common::toUtf16(box_.text());
-  const std::size_t places = (text[0] & 0xFC00) == 0xD800 ? 2 : 1;
+  const std::size_t places = common::isHighSurrogate(text[0]) ? 2 : 1;
   rewrite(common::toUtf8(std::u16string_view(text).substr(places)),
           box_.selStart() - static_cast<int>(places));
 }
