@@ -84,7 +84,8 @@ bool placeInBar(HWND window, const MenuPlace& item, POINT& place) {
   RECT rect = {};
   if (!GetMenuItemRect(window, item.menu, static_cast<UINT>(item.position), &rect)) return false;
   place = support::middleOf(rect);
-  return WindowFromPoint(place) == window;
+  return WindowFromPoint(place) == window &&
+         SendMessageW(window, WM_NCHITTEST, 0, MAKELPARAM(place.x, place.y)) == HTMENU;
 }
 
 bool placeInMenu(const MenuPlace& item, POINT& place) {
