@@ -8,6 +8,7 @@
 
 namespace inmemory {
 
+using controls::Alignment;
 using controls::KeyCode;
 
 namespace {
@@ -61,7 +62,7 @@ void TextBox::moveCaret(int caret, bool extend) {
   if (!extend) anchor_ = caret_;
 }
 
-int TextBox::caretAfter(KeyCode key) const {
+int TextBox::caretAfter(KeyCode key) {
   const bool oneLine = !layout().multiLine;
   switch (key) {
     case controls::kKeyHome:
@@ -69,9 +70,9 @@ int TextBox::caretAfter(KeyCode key) const {
     case controls::kKeyEnd:
       return lineEnd(caret_);
     case controls::kKeyUp:
-      return oneLine ? caret_ - 1 : otherLine(caret_, true);
+      return oneLine ? caret_ - 1 : otherLine(true);
     case controls::kKeyDown:
-      return oneLine ? caret_ + 1 : otherLine(caret_, false);
+      return oneLine ? caret_ + 1 : otherLine(false);
     case controls::kKeyLeft:
       return caret_ >= 2 && part(text_, caret_ - 2, 2) == u"\r\n" ? caret_ - 2 : caret_ - 1;
     default:
@@ -92,11 +93,23 @@ int TextBox::lineEnd(int place) const {
   return found == std::u16string::npos ? loadLength() : static_cast<int>(found);
 }
 
-int TextBox::otherLine(int place, bool up) const {
-  const int column = place - lineStart(place);
-  const int line = up ? lineStart(std::max(0, lineStart(place) - 2)) : lineEnd(place) + 2;
-  if (up ? lineStart(place) == 0 : lineEnd(place) == loadLength()) return place;
-  return std::min(line + column, lineEnd(line));
+// To the place above or below: columns count from the side that the lines are aligned with, and
+// shorter lines in between do not change the preferred one.
+int TextBox::otherLine(bool up) {
+  const int wanted = goal_ && goal_->caret == caret_ ? goal_->column : column();
+  const bool there = up ? lineStart(caret_) > 0 : lineEnd(caret_) < loadLength();
+  int place = caret_;
+  if (there) {
+    const int start = up ? lineStart(lineStart(caret_) - 2) : lineEnd(caret_) + 2;
+    const int end = lineEnd(start);
+    place = std::clamp(alignment() == Alignment::Right ? end - wanted : start + wanted, start, end);
+  }
+  goal_ = {place, wanted};
+  return place;
+}
+
+int TextBox::column() const {
+  return alignment() == Alignment::Right ? lineEnd(caret_) - caret_ : caret_ - lineStart(caret_);
 }
 
 }  // namespace inmemory

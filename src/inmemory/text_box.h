@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "controls/text_box.h"
@@ -25,16 +26,24 @@ class TextBox : public controls::TextBox {
   void storePart(int start, int length, std::string_view text) override;
 
  private:
+  // The column that moves from line to line keep as long as the caret stays where they left it.
+  struct Goal {
+    int caret;
+    int column;
+  };
+
   void moveCaret(int caret, bool extend);
-  int caretAfter(controls::KeyCode key) const;
+  int caretAfter(controls::KeyCode key);
   int lineStart(int place) const;
   int lineEnd(int place) const;
-  int otherLine(int place, bool up) const;
+  int otherLine(bool up);
+  int column() const;
 
   std::u16string text_;
   // The selection is between the two; the arrows move the caret.
   int anchor_ = 0;
   int caret_ = 0;
+  std::optional<Goal> goal_;
 };
 
 }  // namespace inmemory

@@ -225,6 +225,12 @@ TEST_P(TextBoxContract, AlignmentChangesWithoutTouchingTheText) {
 class TapeContract : public ContractTest {
  protected:
   TapeContract() { focus(tape_); }
+
+  /// Where the caret is after a key.
+  int caretAfter(controls::KeyCode key) {
+    press(key);
+    return tape_.selStart();
+  }
 };
 
 TEST_F(TapeContract, CanBeEditedByHand) {
@@ -262,12 +268,8 @@ TEST_F(TapeContract, LoneHalfOfALineBreakIsACharacter) {
 
 TEST_F(TapeContract, HomeAndEndGoToTheEndsOfTheLine) {
   put(tape_, "one\r\ntwo", 6);
-  press(controls::kKeyEnd);
-  EXPECT_EQ(tape_.selStart(), 8);
-  press(controls::kKeyHome);
-  EXPECT_EQ(tape_.selStart(), 5);
-  press(controls::kKeyUp);
-  EXPECT_EQ(tape_.selStart(), 0);
+  EXPECT_EQ(caretAfter(controls::kKeyEnd), 8);
+  EXPECT_EQ(caretAfter(controls::kKeyHome), 5);
 }
 
 TEST_F(TapeContract, HasNoLengthLimit) {
@@ -280,6 +282,39 @@ TEST_F(TapeContract, HasNoLengthLimit) {
   EXPECT_EQ(tape_.text(), expected);
   EXPECT_EQ(tape_.length(), static_cast<int>(expected.size()));
   EXPECT_EQ(tape_.selStart(), tape_.length());
+}
+
+TEST_F(TapeContract, UpAndDownKeepTheDistanceFromTheStartOfLeftAlignedLines) {
+  tape_.setAlignment(controls::Alignment::Left);
+  put(tape_, "12345\r\n1\r\n123", 4);
+  EXPECT_EQ(caretAfter(controls::kKeyUp), 4);
+  EXPECT_EQ(caretAfter(controls::kKeyDown), 8);
+  EXPECT_EQ(caretAfter(controls::kKeyDown), 13);
+  EXPECT_EQ(caretAfter(controls::kKeyDown), 13);
+  EXPECT_EQ(caretAfter(controls::kKeyUp), 8);
+  EXPECT_EQ(caretAfter(controls::kKeyUp), 4);
+}
+
+TEST_F(TapeContract, UpAndDownKeepTheDistanceFromTheEndOfRightAlignedLines) {
+  tape_.setAlignment(controls::Alignment::Right);
+  put(tape_, "12345\r\n1\r\n123", 2);
+  EXPECT_EQ(caretAfter(controls::kKeyUp), 2);
+  EXPECT_EQ(caretAfter(controls::kKeyDown), 7);
+  EXPECT_EQ(caretAfter(controls::kKeyDown), 10);
+  EXPECT_EQ(caretAfter(controls::kKeyDown), 10);
+  EXPECT_EQ(caretAfter(controls::kKeyUp), 7);
+  EXPECT_EQ(caretAfter(controls::kKeyUp), 2);
+}
+
+TEST_F(TapeContract, OtherMovesOfTheCaretChangeTheColumnOfUpAndDown) {
+  tape_.setAlignment(controls::Alignment::Left);
+  put(tape_, "12345\r\n1\r\n12345", 5);
+  EXPECT_EQ(caretAfter(controls::kKeyDown), 8);
+  EXPECT_EQ(caretAfter(controls::kKeyLeft), 7);
+  EXPECT_EQ(caretAfter(controls::kKeyDown), 10);
+  EXPECT_EQ(caretAfter(controls::kKeyEnd), 15);
+  EXPECT_EQ(caretAfter(controls::kKeyUp), 8);
+  EXPECT_EQ(caretAfter(controls::kKeyUp), 5);
 }
 
 }  // namespace contract
