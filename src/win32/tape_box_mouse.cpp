@@ -93,6 +93,7 @@ void TapeBox::pressMouse(const Message& message) {
 void TapeBox::pressAgain(const Message& message) {
   doubleClickTime_ = static_cast<DWORD>(GetMessageTime());
   mouse_ = doubleClickPlace_ = mousePlace(message);
+  SetFocus(handle());
   startDrag(Unit::Word, spanAt(view_.caret(), Unit::Word));
   doubleClick();
 }

@@ -36,10 +36,18 @@ std::optional<LRESULT> TextInput::take(const Message& message) {
     case WM_KEYDOWN:
       return takeKey(message.wParam);
     case WM_LBUTTONDOWN:
+    case WM_LBUTTONDBLCLK:
+      // The focus moves first, so that the click places the caret even if a focus handler moves it.
+      SetFocus(native_.handle());
+      return {};
     case WM_RBUTTONDOWN:
+    case WM_RBUTTONDBLCLK:
+      SetFocus(native_.handle());
+      return 0;
     case WM_RBUTTONUP:
     case WM_CONTEXTMENU:
-      return takeMouse(message);
+      showMenu(menuPlace(message));
+      return 0;
     case WM_SETTEXT:
     case EM_REPLACESEL:
       return takeText(message);
@@ -75,16 +83,6 @@ std::optional<LRESULT> TextInput::takeKey(WPARAM key) {
   // Keys that only move the caret go to the native control.
   const bool moves = (key >= VK_PRIOR && key <= VK_DOWN);
   return moves ? std::nullopt : std::optional<LRESULT>(0);
-}
-
-std::optional<LRESULT> TextInput::takeMouse(const Message& message) {
-  if (message.id == WM_LBUTTONDOWN || message.id == WM_RBUTTONDOWN) {
-    // The focus moves first, so that the click places the caret even if a focus handler moves it.
-    SetFocus(native_.handle());
-    return message.id == WM_RBUTTONDOWN ? std::optional<LRESULT>(0) : std::nullopt;
-  }
-  showMenu(menuPlace(message));
-  return 0;
 }
 
 POINT TextInput::menuPlace(const Message& message) const {

@@ -20,7 +20,6 @@ class TextInput {
 
  private:
   std::optional<LRESULT> takeKey(WPARAM key);
-  std::optional<LRESULT> takeMouse(const Message& message);
   std::optional<LRESULT> takeEdit(const Message& message);
   LRESULT takeText(const Message& message);
   void showMenu(POINT screenPlace);

@@ -148,6 +148,17 @@ TEST_F(NativeWindow, FastClicksAllCount) {
             (Log{"button", "button", "button", "button", "toggle", "toggle", "toggle", "toggle"}));
 }
 
+TEST_F(NativeWindow, SecondPressOfADoubleClickTakesTheFocusToo) {
+  for (controls::TextBox* box : {&first_, &tape_}) {
+    for (const UINT press : {WM_LBUTTONDBLCLK, WM_RBUTTONDBLCLK}) {
+      focus(button_);
+      send(*box, press, 0, MAKELPARAM(5, 5));
+      send(*box, WM_CANCELMODE, 0, 0);
+      EXPECT_EQ(window_->focusedControl(), box) << box->name() << ", message " << press;
+    }
+  }
+}
+
 TEST_F(NativeWindow, SecondClickOfADoubleClickChoosesAnOption) {
   controls::OptionButton& left = window_->optionButton("left");
   controls::OptionButton& right = window_->optionButton("right");
