@@ -3,6 +3,7 @@
 #include <cctype>
 
 #include "support/input.h"
+#include "support/retries.h"
 #include "support/wait.h"
 #include "support/windows.h"
 
@@ -11,6 +12,8 @@ namespace program {
 using namespace support;
 
 namespace {
+
+constexpr ULONGLONG kReleaseIsLate = 5'000;
 
 WORD keyOf(char cap) {
   switch (cap) {
@@ -29,6 +32,10 @@ WORD keyOf(char cap) {
     default:
       return static_cast<WORD>(std::toupper(static_cast<unsigned char>(cap)));
   }
+}
+
+bool isDragged(HWND window) {
+  return (inputStateOf(window).flags & GUI_INMOVESIZE) != 0;
 }
 
 }  // namespace
@@ -68,8 +75,7 @@ void doubleClick(POINT place) {
 void holdFrame(HWND window, POINT place) {
   SetCursorPos(place.x, place.y);
   send({mouseInput(MOUSEEVENTF_LEFTDOWN)});
-  await("a window that is being dragged",
-        [window] { return (inputStateOf(window).flags & GUI_INMOVESIZE) != 0; });
+  await("a window that is being dragged", [window] { return isDragged(window); });
 }
 
 void releaseMouse() {
@@ -80,6 +86,12 @@ void dragWindow(HWND window, POINT from, POINT to) {
   holdFrame(window, from);
   SetCursorPos(to.x, to.y);
   releaseMouse();
+  // The system may lose the release; the drag would go on.
+  const auto isOver = [window] { return !isDragged(window); };
+  if (eventually(isOver, kReleaseIsLate)) return;
+  noteRetry("a release");
+  releaseMouse();
+  await("the end of a drag", isOver);
 }
 
 POINT middleOf(HWND window) {

@@ -20,7 +20,8 @@ void doubleClick(POINT place);
 /// NotSeen if it cannot be grabbed.
 void holdFrame(HWND window, POINT place);
 void releaseMouse();
-/// Drags a window's frame from `from` to `to`; throws NotSeen as holdFrame.
+/// Drags a window's frame from `from` to `to`, and waits until the system's drag is over; throws
+/// NotSeen.
 void dragWindow(HWND window, POINT from, POINT to);
 /// The center of a window on the screen.
 POINT middleOf(HWND window);
