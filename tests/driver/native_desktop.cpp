@@ -79,8 +79,10 @@ void NativeDesktop::clearTapes() {
   tapeSafe_->forgetLostTapes();
 }
 
-void NativeDesktop::closeLaunched() {
-  for (HWND window : std::exchange(launched_, {})) closeUnsaved(window);
+bool NativeDesktop::closeLaunched() {
+  const auto windows = std::exchange(launched_, {});
+  for (HWND window : windows) closeUnsaved(window);
+  return !windows.empty();
 }
 
 }  // namespace driver

@@ -37,8 +37,8 @@ class NativeDesktop : public win32::Desktop {
   void loseTape();
   /// Deletes the tapes that earlier drivers or a crash have left behind.
   void clearTapes();
-  /// Closes the windows of started programs.
-  void closeLaunched();
+  /// Closes the windows of started programs; false if there are none.
+  bool closeLaunched();
 
   /// The events since the last call, apart from the message boxes.
   Events takeEvents() { return std::exchange(events_, {}); }

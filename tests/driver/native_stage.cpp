@@ -140,9 +140,14 @@ void NativeStage::deliver(HWND window, UINT message, WPARAM wParam, LPARAM lPara
   settle();
 }
 
-// Closes windows of started programs before the user continues.
+// Closes windows of started programs before the user continues. Wine may then give the keys to
+// another window of ours than the one that had them before.
 void NativeStage::clearAway() {
-  inspect([this] { desktop_.closeLaunched(); });
+  const controls::Window* active = nullptr;
+  inspect([&] {
+    if (desktop_.closeLaunched()) active = desktop_.activeWindow();
+  });
+  if (active && support::isWine()) raise(*active);
 }
 
 // Wine gives a window the keys without raising it where another has just come to the front.
