@@ -1,8 +1,16 @@
-# GoogleTest as the targets GTest::gtest and GTest::gtest_main, for every toolchain. No distribution
-# packages it for mingw-w64, so the installed sources are built there; a native toolchain uses the
-# compiled package.
+# GoogleTest as the targets GTest::gtest and GTest::gtest_main, for every toolchain: the compiled
+# package, or else the installed sources, since no distribution packages it for mingw-w64.
 set(TALLYREX_GOOGLETEST_SOURCES /usr/src/googletest
     CACHE PATH "The sources of GoogleTest (in Debian the package googletest)")
+
+# The libraries of the build machine do not link with what a cross compiler makes.
+if(CMAKE_CROSSCOMPILING)
+  set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
+endif()
+find_package(GTest QUIET)
+if(GTest_FOUND)
+  return()
+endif()
 
 if(EXISTS ${TALLYREX_GOOGLETEST_SOURCES}/googletest/CMakeLists.txt)
   set(INSTALL_GTEST OFF CACHE BOOL "" FORCE)
@@ -26,16 +34,9 @@ if(EXISTS ${TALLYREX_GOOGLETEST_SOURCES}/googletest/CMakeLists.txt)
     endif()
   endforeach()
 else()
-  # Do not use the package of the build machine: its libraries do not link.
-  if(CMAKE_CROSSCOMPILING)
-    set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
-  endif()
-  find_package(GTest)
-  if(NOT GTest_FOUND)
-    message(FATAL_ERROR
-      "The tests need GoogleTest: neither a package for this compiler nor its sources in "
-      "${TALLYREX_GOOGLETEST_SOURCES} were found. Install the sources (in Debian: apt install "
-      "googletest), name their folder with -DTALLYREX_GOOGLETEST_SOURCES=FOLDER, or leave the "
-      "tests out with -DTALLYREX_TESTS=OFF.")
-  endif()
+  message(FATAL_ERROR
+    "The tests need GoogleTest: neither a package for this compiler nor its sources in "
+    "${TALLYREX_GOOGLETEST_SOURCES} were found. Install the sources (in Debian: apt install "
+    "googletest), name their folder with -DTALLYREX_GOOGLETEST_SOURCES=FOLDER, or leave the "
+    "tests out with -DTALLYREX_TESTS=OFF.")
 endif()
