@@ -87,20 +87,29 @@ int TextBox::lineStart(int place) const {
   return found == std::u16string::npos ? 0 : static_cast<int>(found) + 1;
 }
 
+// A line feed ends a line, with the carriage return before it.
 int TextBox::lineEnd(int place) const {
-  if (!layout().multiLine) return loadLength();
-  const auto found = text_.find(u'\r', static_cast<std::size_t>(place));
-  return found == std::u16string::npos ? loadLength() : static_cast<int>(found);
+  if (isLastLine(place)) return loadLength();
+  const int feed = nextLine(place) - 1;
+  return feed > lineStart(place) && part(text_, feed - 1, 1) == u"\r" ? feed - 1 : feed;
+}
+
+bool TextBox::isLastLine(int place) const {
+  return !layout().multiLine ||
+         text_.find(u'\n', static_cast<std::size_t>(place)) == std::u16string::npos;
+}
+
+int TextBox::nextLine(int place) const {
+  return static_cast<int>(text_.find(u'\n', static_cast<std::size_t>(place))) + 1;
 }
 
 // To the place above or below: columns count from the side that the lines are aligned with, and
 // shorter lines in between do not change the preferred one.
 int TextBox::otherLine(bool up) {
   const int wanted = goal_ && goal_->caret == caret_ ? goal_->column : column();
-  const bool there = up ? lineStart(caret_) > 0 : lineEnd(caret_) < loadLength();
   int place = caret_;
-  if (there) {
-    const int start = up ? lineStart(lineStart(caret_) - 2) : lineEnd(caret_) + 2;
+  if (up ? lineStart(caret_) > 0 : !isLastLine(caret_)) {
+    const int start = up ? lineStart(lineStart(caret_) - 1) : nextLine(caret_);
     const int end = lineEnd(start);
     place = std::clamp(alignment() == Alignment::Right ? end - wanted : start + wanted, start, end);
   }

@@ -36,6 +36,8 @@ class TextBox : public controls::TextBox {
   int caretAfter(controls::KeyCode key);
   int lineStart(int place) const;
   int lineEnd(int place) const;
+  bool isLastLine(int place) const;
+  int nextLine(int place) const;
   int otherLine(bool up);
   int column() const;
 

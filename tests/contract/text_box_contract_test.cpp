@@ -266,6 +266,18 @@ TEST_F(TapeContract, LoneHalfOfALineBreakIsACharacter) {
   EXPECT_EQ(tape_.text(), "a\r\nb");
 }
 
+TEST_F(TapeContract, LineFeedAloneEndsALineAndCarriageReturnAloneDoesNot) {
+  put(tape_, "a\rb\nc\r\nd\r", 3);
+  EXPECT_EQ(caretAfter(controls::kKeyHome), 0);
+  EXPECT_EQ(caretAfter(controls::kKeyEnd), 3);
+  EXPECT_EQ(caretAfter(controls::kKeyDown), 5);
+  EXPECT_EQ(caretAfter(controls::kKeyHome), 4);
+  tape_.setSelStart(8);
+  EXPECT_EQ(caretAfter(controls::kKeyEnd), 9);
+  EXPECT_EQ(caretAfter(controls::kKeyDown), 9);
+  EXPECT_EQ(caretAfter(controls::kKeyHome), 7);
+}
+
 TEST_F(TapeContract, HomeAndEndGoToTheEndsOfTheLine) {
   put(tape_, "one\r\ntwo", 6);
   EXPECT_EQ(caretAfter(controls::kKeyEnd), 8);
