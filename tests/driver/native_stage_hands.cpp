@@ -143,7 +143,7 @@ void NativeStage::clickWithMouse(controls::Control& control, int times) {
   HWND handle = handleOf(control);
   POINT place = {};
   if (!reach(control, place)) return clickByMessages(handle, times);
-  for (int i = 0; i < times && isShown(handle) && takesInput(handle); ++i) {
+  for (int i = 0; i < times && IsWindowVisible(handle) && takesInput(handle); ++i) {
     if (windowAt(place) != handle) raise(control.window());
     clickSurely(place);
   }
