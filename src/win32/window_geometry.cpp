@@ -1,5 +1,6 @@
 #include "win32/window.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "win32/native_control.h"
@@ -8,6 +9,16 @@
 namespace win32 {
 
 using controls::WindowState;
+
+namespace {
+
+// What a client area lacks in one direction. One without any room does not tell how much it is.
+LONG missing(LONG seen, LONG wanted) {
+  constexpr LONG kAmple = 300;
+  return seen > 0 || seen == wanted ? wanted - seen : kAmple;
+}
+
+}  // namespace
 
 SIZE Window::clientSize(controls::Twips width, controls::Twips height) const {
   return {scale_.toPixels(width - controls::kFrameWidth),
@@ -45,7 +56,8 @@ void Window::place() {
   SIZE frame = frameSize();
   for (int attempt = 0; attempt < kAttempts; ++attempt) {
     const int dpi = scale_.dpi();
-    const SIZE wanted = clientSize(bounds().width, bounds().height);
+    const SIZE designed = clientSize(bounds().width, bounds().height);
+    const SIZE wanted = {std::max(0L, designed.cx), std::max(0L, designed.cy)};
     const SIZE size = {wanted.cx + frame.cx, wanted.cy + frame.cy};
     const POINT corner = cornerFor(size);
     SetWindowPos(handle_, nullptr, corner.x, corner.y, size.cx, size.cy,
@@ -57,8 +69,8 @@ void Window::place() {
     RECT client;
     GetClientRect(handle_, &client);
     if (client.right == wanted.cx && client.bottom == wanted.cy) break;
-    frame.cx += wanted.cx - client.right;
-    frame.cy += wanted.cy - client.bottom;
+    frame.cx += missing(client.right, wanted.cx);
+    frame.cy += missing(client.bottom, wanted.cy);
   }
 }
 
