@@ -196,7 +196,7 @@ void NativeStage::start(const std::string& name) {
     app_.reset();
     desktop_.setProgramName(name);
     app_ = std::make_unique<app::Application>(desktop_);
-    app_->start();
+    desktop_.events().runEvent([&] { app_->start(); });
   });
 }
 

@@ -110,7 +110,7 @@ std::string Watch::findReplacedField(const Fields& shown, const Fields& stored) 
 std::string Watch::carryOut(const std::string& command) {
   const bool watched =
       !command.starts_with("st") && (mayStore(command) || !isTrue("get frmAnnuity Loaded"));
-  Step step{.command = command, .before = snapshot()};
+  Step step{.command = command, .before = snapshot(), .after = {}};
   const Fields shown = watched ? fields() : Fields();
   const Fields stored = watched ? storedFields() : Fields();
   ask("events");
