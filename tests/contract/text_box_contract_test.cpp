@@ -2,6 +2,14 @@
 
 namespace contract {
 
+using controls::kKeyDown;
+using controls::kKeyEnd;
+using controls::kKeyHome;
+using controls::kKeyLeft;
+using controls::kKeyUp;
+
+using Places = std::vector<int>;
+
 INSTANTIATE_TEST_SUITE_P(Boxes, TextBoxContract, testing::Values("first", "tape"));
 
 TEST_P(TextBoxContract, AssigningTextMovesTheCaretToTheStartAndRaisesChange) {
@@ -226,10 +234,14 @@ class TapeContract : public ContractTest {
  protected:
   TapeContract() { focus(tape_); }
 
-  /// Where the caret is after a key.
-  int caretAfter(controls::KeyCode key) {
-    press(key);
-    return tape_.selStart();
+  /// Where the caret is after each of the keys.
+  std::vector<int> caretAfterEach(std::initializer_list<controls::KeyCode> keys) {
+    std::vector<int> places;
+    for (const controls::KeyCode key : keys) {
+      press(key);
+      places.push_back(tape_.selStart());
+    }
+    return places;
   }
 };
 
@@ -268,20 +280,14 @@ TEST_F(TapeContract, LoneHalfOfALineBreakIsACharacter) {
 
 TEST_F(TapeContract, LineFeedAloneEndsALineAndCarriageReturnAloneDoesNot) {
   put(tape_, "a\rb\nc\r\nd\r", 3);
-  EXPECT_EQ(caretAfter(controls::kKeyHome), 0);
-  EXPECT_EQ(caretAfter(controls::kKeyEnd), 3);
-  EXPECT_EQ(caretAfter(controls::kKeyDown), 5);
-  EXPECT_EQ(caretAfter(controls::kKeyHome), 4);
+  EXPECT_EQ(caretAfterEach({kKeyHome, kKeyEnd, kKeyDown, kKeyHome}), (Places{0, 3, 5, 4}));
   tape_.setSelStart(8);
-  EXPECT_EQ(caretAfter(controls::kKeyEnd), 9);
-  EXPECT_EQ(caretAfter(controls::kKeyDown), 9);
-  EXPECT_EQ(caretAfter(controls::kKeyHome), 7);
+  EXPECT_EQ(caretAfterEach({kKeyEnd, kKeyDown, kKeyHome}), (Places{9, 9, 7}));
 }
 
 TEST_F(TapeContract, HomeAndEndGoToTheEndsOfTheLine) {
   put(tape_, "one\r\ntwo", 6);
-  EXPECT_EQ(caretAfter(controls::kKeyEnd), 8);
-  EXPECT_EQ(caretAfter(controls::kKeyHome), 5);
+  EXPECT_EQ(caretAfterEach({kKeyEnd, kKeyHome, kKeyUp}), (Places{8, 5, 0}));
 }
 
 TEST_F(TapeContract, HasNoLengthLimit) {
@@ -299,34 +305,22 @@ TEST_F(TapeContract, HasNoLengthLimit) {
 TEST_F(TapeContract, UpAndDownKeepTheDistanceFromTheStartOfLeftAlignedLines) {
   tape_.setAlignment(controls::Alignment::Left);
   put(tape_, "12345\r\n1\r\n123", 4);
-  EXPECT_EQ(caretAfter(controls::kKeyUp), 4);
-  EXPECT_EQ(caretAfter(controls::kKeyDown), 8);
-  EXPECT_EQ(caretAfter(controls::kKeyDown), 13);
-  EXPECT_EQ(caretAfter(controls::kKeyDown), 13);
-  EXPECT_EQ(caretAfter(controls::kKeyUp), 8);
-  EXPECT_EQ(caretAfter(controls::kKeyUp), 4);
+  EXPECT_EQ(caretAfterEach({kKeyUp, kKeyDown, kKeyDown, kKeyDown, kKeyUp, kKeyUp}),
+            (Places{4, 8, 13, 13, 8, 4}));
 }
 
 TEST_F(TapeContract, UpAndDownKeepTheDistanceFromTheEndOfRightAlignedLines) {
   tape_.setAlignment(controls::Alignment::Right);
   put(tape_, "12345\r\n1\r\n123", 2);
-  EXPECT_EQ(caretAfter(controls::kKeyUp), 2);
-  EXPECT_EQ(caretAfter(controls::kKeyDown), 7);
-  EXPECT_EQ(caretAfter(controls::kKeyDown), 10);
-  EXPECT_EQ(caretAfter(controls::kKeyDown), 10);
-  EXPECT_EQ(caretAfter(controls::kKeyUp), 7);
-  EXPECT_EQ(caretAfter(controls::kKeyUp), 2);
+  EXPECT_EQ(caretAfterEach({kKeyUp, kKeyDown, kKeyDown, kKeyDown, kKeyUp, kKeyUp}),
+            (Places{2, 7, 10, 10, 7, 2}));
 }
 
 TEST_F(TapeContract, OtherMovesOfTheCaretChangeTheColumnOfUpAndDown) {
   tape_.setAlignment(controls::Alignment::Left);
   put(tape_, "12345\r\n1\r\n12345", 5);
-  EXPECT_EQ(caretAfter(controls::kKeyDown), 8);
-  EXPECT_EQ(caretAfter(controls::kKeyLeft), 7);
-  EXPECT_EQ(caretAfter(controls::kKeyDown), 10);
-  EXPECT_EQ(caretAfter(controls::kKeyEnd), 15);
-  EXPECT_EQ(caretAfter(controls::kKeyUp), 8);
-  EXPECT_EQ(caretAfter(controls::kKeyUp), 5);
+  EXPECT_EQ(caretAfterEach({kKeyDown, kKeyLeft, kKeyDown, kKeyEnd, kKeyUp, kKeyUp}),
+            (Places{8, 7, 10, 15, 8, 5}));
 }
 
 }  // namespace contract

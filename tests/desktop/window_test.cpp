@@ -82,7 +82,7 @@ TEST_F(WindowTest, DraggingTheTitleMovesTheWindow) {
   constexpr int kPixels = 60;
   const int width = tell("get frmCalc Width")["value"];
   RECT frame = placeOf(window("frmCalc"));
-  const POINT title = {(frame.left + frame.right) / 2, frame.top + 12};
+  const POINT title = titleOf(frame);
   stage().dragFrame(title, {title.x + kPixels, title.y + kPixels});
   EXPECT_EQ(tell("get frmCalc Left")["value"], twips(frame.left + kPixels));
   EXPECT_EQ(tell("get frmCalc Width")["value"], width);

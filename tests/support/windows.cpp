@@ -82,6 +82,11 @@ POINT middleOf(const RECT& place) {
   return {(place.left + place.right) / 2, (place.top + place.bottom) / 2};
 }
 
+POINT titleOf(const RECT& place) {
+  constexpr LONG kBelowTheEdge = 12;
+  return {middleOf(place).x, place.top + kBelowTheEdge};
+}
+
 GUITHREADINFO inputStateOf(HWND window) {
   GUITHREADINFO state = {};
   state.cbSize = sizeof state;

@@ -30,6 +30,8 @@ HWND childOfClass(HWND window, std::wstring_view name);
 /// The position on the screen.
 RECT placeOf(HWND window);
 POINT middleOf(const RECT& place);
+/// A place on the title bar of a window at that position, by which it can be dragged.
+POINT titleOf(const RECT& place);
 /// What the thread of a window says about its focus, mouse and caret.
 GUITHREADINFO inputStateOf(HWND window);
 

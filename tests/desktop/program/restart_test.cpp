@@ -42,7 +42,7 @@ class RestartTest : public ProgramTest {
     constexpr POINT kMove = {150, 90};
     constexpr POINT kGrow = {60, 45};
     const RECT before = placeOf(window());
-    const POINT title = {(before.left + before.right) / 2, before.top + 12};
+    const POINT title = titleOf(before);
     dragWindow(window(), title, {title.x + kMove.x, title.y + kMove.y});
     expectPlace({before.left + kMove.x, before.top + kMove.y, before.right + kMove.x,
                  before.bottom + kMove.y});
@@ -138,7 +138,7 @@ TEST_F(RestartTest, MicroWindowAndNormalWindowKeepTheirPlaces) {
   pressWith(VK_CONTROL, 'S');
   awaitNarrowerThan(normal);
   const RECT first = placeOf(window());
-  const POINT title = {(first.left + first.right) / 2, first.top + 12};
+  const POINT title = titleOf(first);
   dragWindow(window(), title, {title.x + 200, title.y + 100});
   const RECT micro = {first.left + 200, first.top + 100, first.right + 200, first.bottom + 100};
   expectPlace(micro);

@@ -147,8 +147,7 @@ TEST_F(SessionEndTest, SentToTheAboutBoxEndsTheProgram) {
 TEST_F(SessionEndTest, EndsTheProgramWhileItsFrameIsDragged) {
   start();
   const HWND window = program().mainWindow();
-  const RECT place = placeOf(window);
-  holdFrame(window, {(place.left + place.right) / 2, place.top + 12});
+  holdFrame(window, titleOf(placeOf(window)));
   askToClose({window});
   await("a hidden window", [window] { return !IsWindowVisible(window); });
   releaseMouse();
