@@ -9,9 +9,7 @@
 #include <cstdint>
 #include <cstdlib>
 #include <limits>
-#include <optional>
 #include <tuple>
-#include <utility>
 #include <vector>
 
 namespace common {
@@ -96,20 +94,32 @@ Decimal halfWayAbove(std::uint64_t bitsOfDouble) {
   return decimalOf({2 * number.significand + 1, number.exponent - 1});
 }
 
-// A number of up to 15 digits, up to 22 of its places behind the point. In a double, the digits and
-// the power of ten are both exact, so that their quotient is rounded once.
-std::optional<double> exactQuotient(const Decimal& number) {
-  constexpr std::array kPowersOfTen = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
-                                       1e8,  1e9,  1e10, 1e11, 1e12, 1e13, 1e14, 1e15,
-                                       1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
-  constexpr long long kExactDigits = 15;
+// Each exact in a double, as is a whole number of up to 15 digits.
+constexpr std::array kPowersOfTen = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                                     1e8,  1e9,  1e10, 1e11, 1e12, 1e13, 1e14, 1e15,
+                                     1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
+constexpr long long kMostPlaces = kPowersOfTen.size() - 1;
+constexpr std::size_t kExactDigits = 15;
+
+// A double close to a number: only its first digits count, and each step is rounded.
+double estimate(const Decimal& number) {
+  const std::string digits = number.digits.substr(0, kExactDigits);
+  double value = 0;
+  for (const char digit : digits) value = value * 10 + (digit - '0');
+  long long places = static_cast<long long>(digits.size()) - number.point;
+  while (places != 0 && value != 0 && std::isfinite(value)) {
+    const long long step = std::clamp(places, -kMostPlaces, kMostPlaces);
+    const double power = kPowersOfTen[static_cast<std::size_t>(std::abs(step))];
+    value = step > 0 ? value / power : value * power;
+    places -= step;
+  }
+  return value;
+}
+
+// Whether no digit of a number is left out of its estimate, and one power of ten is enough.
+bool isRoundedOnce(const Decimal& number) {
   const auto length = static_cast<long long>(number.digits.size());
-  const long long places = length - number.point;
-  if (length > kExactDigits || places < 0 || std::cmp_greater_equal(places, kPowersOfTen.size()))
-    return {};
-  double digits = 0;
-  for (const char digit : number.digits) digits = digits * 10 + (digit - '0');
-  return digits / kPowersOfTen[static_cast<std::size_t>(places)];
+  return number.digits.size() <= kExactDigits && std::abs(length - number.point) <= kMostPlaces;
 }
 
 }  // namespace
@@ -120,12 +130,17 @@ Decimal exactDecimal(double value) {
 
 double nearestDouble(const Decimal& number) {
   if (number.digits.empty()) return 0;
-  if (const auto exact = exactQuotient(number)) return *exact;
+  const double estimated = estimate(number);
+  if (isRoundedOnce(number)) return estimated;
   const std::string digits = number.digits.substr(0, number.digits.find_last_not_of('0') + 1);
   const auto given = std::tie(number.point, digits);
-  // Doubles that are not negative have the same order as their bits.
-  std::uint64_t low = 0;
-  auto high = std::bit_cast<std::uint64_t>(std::numeric_limits<double>::infinity());
+  // Doubles that are not negative have the same order as their bits. The digits that the estimate
+  // leaves out make up to 91 doubles, and each of its 16 roundings one.
+  constexpr std::uint64_t kMostAway = 128;
+  constexpr auto kInfinity = std::bit_cast<std::uint64_t>(std::numeric_limits<double>::infinity());
+  const auto nearby = std::bit_cast<std::uint64_t>(estimated);
+  std::uint64_t low = nearby - std::min(nearby, kMostAway);
+  std::uint64_t high = std::min(nearby + kMostAway, kInfinity);
   while (low < high) {
     const std::uint64_t middle = low + (high - low) / 2;
     const Decimal above = halfWayAbove(middle);
