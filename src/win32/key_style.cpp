@@ -86,12 +86,13 @@ void drawKeyShape(HDC context, const RECT& area, int radius, const std::vector<K
   const int width = area.right - area.left;
   const int height = area.bottom - area.top;
   if (width <= 0 || height <= 0) return;
+  const COLORREF around = GetSysColor(COLOR_BTNFACE);
   std::vector<std::uint32_t> points;
   points.reserve(static_cast<std::size_t>(width) * static_cast<std::size_t>(height));
   for (int y = 0; y < height; ++y) {
     for (int x = 0; x < width; ++x) {
       const double depth = depthOf(x + 0.5, y + 0.5, width, height, radius);
-      COLORREF color = GetSysColor(COLOR_BTNFACE);
+      COLORREF color = around;
       for (const KeyLayer& layer : layers) {
         const double share = std::clamp(depth - layer.inset + 0.5, 0.0, 1.0);
         color = mixed(color, layer.color, static_cast<int>(share * 100));
