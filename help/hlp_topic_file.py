@@ -66,8 +66,12 @@ class TopicFile:
         self._place_links(room)
         self._set_offsets()
         self._fill_topic_headers()
-        self._packed = [lz77(b"".join(self._link_bytes(link) for link in links)) for links in self._blocks]
-        return max(map(len, self._packed)) <= _BLOCK - _BLOCK_HEADER
+        self._packed = []
+        for links in self._blocks:
+            self._packed.append(lz77(b"".join(self._link_bytes(link) for link in links)))
+            if len(self._packed[-1]) > _BLOCK - _BLOCK_HEADER:
+                return False
+        return True
 
     def _place_links(self, room):
         self._blocks, used = [[]], 0
