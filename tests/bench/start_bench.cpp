@@ -37,15 +37,11 @@ double now() {
   return 1000.0 * static_cast<double>(count.QuadPart) / static_cast<double>(frequency.QuadPart);
 }
 
-// A thread that waits for input has finished painting.
+// A thread that waits for input has finished painting. Looking for the window again and again
+// meanwhile would take processor time from the program.
 bool waitUntilPainted(const PROCESS_INFORMATION& process) {
-  const double start = now();
-  while (now() - start < kLongestStart) {
-    if (visibleWindow(process.dwProcessId))
-      return WaitForInputIdle(process.hProcess, kLongestStart) == 0;
-    Sleep(0);
-  }
-  return false;
+  return WaitForInputIdle(process.hProcess, kLongestStart) == 0 &&
+         visibleWindow(process.dwProcessId);
 }
 
 bool run(Program& program) {

@@ -1,5 +1,4 @@
 #include "desktop/program/program_test.h"
-#include "support/retries.h"
 
 namespace program {
 namespace {
@@ -18,21 +17,14 @@ class CaretTest : public ProgramTest {
     return place;
   }
 
-  /// The system may report the mouse late where it was before, and the click goes there.
   static void expectClickPlacesCaret(POINT place, int character) {
-    constexpr int kTries = 4;
-    constexpr ULONGLONG kCaretIsLate = 3000;
     const LRESULT nothingSelected = MAKELRESULT(character, character);
     const auto selection = [] { return ask(program().entry(), EM_GETSEL); };
-    for (int i = 0; i < kTries; ++i) {
-      if (i > 0) noteRetry("a click");
-      // Two clicks are never a double click.
-      Sleep(GetDoubleClickTime());
-      click(place);
-      if (eventually([&] { return selection() == nothingSelected; }, kCaretIsLate)) return;
-    }
-    ADD_FAILURE() << "not in front of character " << character << " but " << LOWORD(selection())
-                  << " to " << HIWORD(selection());
+    // Two clicks are never a double click.
+    Sleep(GetDoubleClickTime());
+    EXPECT_TRUE(clickUntil(place, [&] { return selection() == nothingSelected; }))
+        << "not in front of character " << character << " but " << LOWORD(selection()) << " to "
+        << HIWORD(selection());
   }
 };
 
@@ -42,8 +34,7 @@ TEST_F(CaretTest, ClickInTheEntryPlacesItWhereTheMousePoints) {
   expectText(program().entry(), L"1,234,567");
   for (const int character : {6, 2, 8, 4, 0, 7})
     expectClickPlacesCaret(placeOf(character), character);
-  click(middleOf(program().tape()));
-  EXPECT_TRUE(eventually([] { return program().focus() == program().tape(); }));
+  clickTape();
   expectClickPlacesCaret(placeOf(3), 3);
   type("9");
   expectText(program().entry(), L"12,934,567");

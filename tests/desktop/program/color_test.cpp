@@ -90,8 +90,7 @@ class ColorTest : public ProgramTest {
     expectText(program().entry(), L"8,888");
     expectLetters(program().entry(), light);
     type("+");
-    click(middleOf(program().tape()));
-    await("the focus in the tape", [] { return program().focus() == program().tape(); });
+    clickTape();
     expectLetters(program().tape(), light);
     close();
   }

@@ -4,6 +4,9 @@
 
 #include <string_view>
 
+#include "support/retries.h"
+#include "support/wait.h"
+
 namespace program {
 
 /// The user's input, which goes to whatever program is in front.
@@ -15,6 +18,19 @@ void press(WORD key);
 void pressWith(WORD modifier, WORD key);
 
 void click(POINT place);
+/// Clicks there until the click has its effect: the system may report the mouse late where it was
+/// before, and the click goes there. False when it never has.
+template <class Effect>
+bool clickUntil(POINT place, Effect effect) {
+  constexpr int kTries = 4;
+  constexpr ULONGLONG kEffectIsLate = 5'000;
+  for (int i = 0; i < kTries; ++i) {
+    if (i > 0) support::noteRetry("a click");
+    click(place);
+    if (support::eventually(effect, kEffectIsLate)) return true;
+  }
+  return false;
+}
 void doubleClick(POINT place);
 /// Presses the mouse button on a window's frame, and waits until it is being dragged; throws
 /// NotSeen if it cannot be grabbed.

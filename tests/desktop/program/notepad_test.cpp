@@ -24,8 +24,7 @@ class NotepadTest : public ProgramTest {
     std::wstring pasted;
     for (int line = 1; line <= lines; ++line) pasted += L"\r\n" + std::to_wstring(line) + L".25 + ";
     setClipboardText(pasted);
-    click(middleOf(program().tape()));
-    await("the focus in the tape", [] { return program().focus() == program().tape(); });
+    clickTape();
     pressWith(VK_CONTROL, VK_END);
     pressWith(VK_CONTROL, 'V');
     const std::wstring tape = L"Top" + pasted;
@@ -171,8 +170,8 @@ TEST_F(ReplacedNotepadTest, SlowNotepadGetsTheTapeAndDoesNotBlockTheProgram) {
   const std::wstring tape = sendTape();
   awaitInFront(program().mainWindow());
   type("12");
-  click(middleOf(TestedProgram::key(program().mainWindow(), L"3")));
-  expectText(program().entry(), L"123");
+  const HWND three = TestedProgram::key(program().mainWindow(), L"3");
+  EXPECT_TRUE(clickUntil(middleOf(three), [] { return textOf(program().entry()) == L"123"; }));
   EXPECT_EQ(openedWindow(L"Notepad"), nullptr) << "it was not slow";
   expectInNotepad(tape);
   EXPECT_EQ(textOf(program().entry()), L"123");

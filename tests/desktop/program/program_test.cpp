@@ -129,6 +129,11 @@ HWND ProgramTest::openAboutBox() {
   return about;
 }
 
+void ProgramTest::clickTape() {
+  const auto hasFocus = [] { return program().focus() == program().tape(); };
+  if (!clickUntil(middleOf(program().tape()), hasFocus)) throw NotSeen("the focus in the tape");
+}
+
 // The names are in ASCII.
 std::vector<std::wstring> ProgramTest::namesInTabOrder() {
   std::vector<std::wstring> names;
