@@ -1,5 +1,6 @@
 """Runs the scripts of the help: in a small engine without a page, and in a browser without a window."""
 
+import html
 import json
 import os
 import re
@@ -29,14 +30,15 @@ def run_script(engine, text):
     return run.stdout
 
 
-def run_in_browser(browser, page, steps, width=1280):
-    """What `steps`, the body of a function, returns at the end of a page that is opened from a file."""
-    script = f'<script id="{_MARK}">\nvar result = (function () {{\n{steps}\n}})();\n'
-    script += f'document.getElementById("{_MARK}").textContent = JSON.stringify(result);\n</script>\n'
+def run_in_browser(browser, page, steps):
+    """What `steps`, the body of a function, returns when a page is loaded that is opened from a file."""
+    script = f'<script id="{_MARK}">\naddEventListener("load", function () {{\n'
+    script += f'var result = (function () {{\n{steps}\n}})();\n'
+    script += f'document.getElementById("{_MARK}").textContent = JSON.stringify(result);\n}});\n</script>\n'
     with tempfile.TemporaryDirectory() as folder:
         file = Path(folder) / "page.html"
         file.write_text(page.replace("</body>", script + "</body>"), encoding="utf-8")
-        run = _run(browser, folder, f"--window-size={width},800", "--dump-dom", file.as_uri())
+        run = _run(browser, folder, "--window-size=1280,800", "--dump-dom", file.as_uri())
     answer = run.stdout.partition(f'<script id="{_MARK}">')[2].partition("</script>")[0]
     try:
         return json.loads(answer)
@@ -44,16 +46,20 @@ def run_in_browser(browser, page, steps, width=1280):
         raise AssertionError(f"the steps gave no result:\n{answer}\n{run.stderr[-2000:]}") from error
 
 
-def stands_out(browser, page, width):
-    """The elements that reach beyond the right edge of a window of that width, so that the page would scroll sideways."""
+def stands_out(browser, page, widths):
+    """For each of the widths, the elements that reach beyond the right edge of a window as wide as that, so that the
+    page would scroll sideways."""
+    frames = "".join(f'<iframe style="width: {width}px" srcdoc="{html.escape(page)}"></iframe>\n' for width in widths)
     steps = """
-        var room = document.documentElement.clientWidth;
-        var scrolled = Array.from(document.querySelectorAll("pre, .table"));
-        return Array.from(document.querySelectorAll("body *")).filter(function (part) {
-          var inside = scrolled.some(function (box) { return box !== part && box.contains(part); });
-          return !inside && part.getBoundingClientRect().right > room + 1;
-        }).map(function (part) { return part.tagName + " " + part.textContent.slice(0, 40); });"""
-    return run_in_browser(browser, page, steps, width)
+        return Array.from(document.querySelectorAll("iframe")).map(function (frame) {
+          var page = frame.contentDocument, room = page.documentElement.clientWidth;
+          var scrolled = Array.from(page.querySelectorAll("pre, .table"));
+          return Array.from(page.querySelectorAll("body *")).filter(function (part) {
+            var inside = scrolled.some(function (box) { return box !== part && box.contains(part); });
+            return !inside && part.getBoundingClientRect().right > room + 1;
+          }).map(function (part) { return part.tagName + " " + part.textContent.slice(0, 40); });
+        });"""
+    return dict(zip(widths, run_in_browser(browser, f"<body>\n{frames}</body>", steps)))
 
 
 def sheets_of(browser, page, place, paper):

@@ -13,11 +13,11 @@ BROWSER = first_of(BROWSERS)
 class WidthTest(unittest.TestCase):
     def test_nothing_stands_out(self):
         page = write_html("Tallyrex Help", TOPICS)
-        for width in (500, 1100, 1600):
-            self.assertEqual(stands_out(BROWSER, page, width), [], width)
+        self.assertEqual(stands_out(BROWSER, page, (500, 1100, 1600)), {500: [], 1100: [], 1600: []})
 
     def test_what_stands_out_is_noticed(self):
-        self.assertEqual(len(stands_out(BROWSER, "<body><p style='width: 2000px'>Wide</p></body>", 500)), 1)
+        page = "<body><p style='width: 1000px'>Wide</p></body>"
+        self.assertEqual(stands_out(BROWSER, page, (500, 1100)), {500: ["P Wide"], 1100: []})
 
 
 if __name__ == "__main__":
