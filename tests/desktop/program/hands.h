@@ -18,6 +18,7 @@ void press(WORD key);
 void pressWith(WORD modifier, WORD key);
 
 void click(POINT place);
+
 /// Clicks there until the click has its effect: the system may report the mouse late where it was
 /// before, and the click goes there. False when it never has.
 template <class Effect>
@@ -31,6 +32,7 @@ bool clickUntil(POINT place, Effect effect) {
   }
   return false;
 }
+
 void doubleClick(POINT place);
 /// Presses the mouse button on a window's frame, and waits until it is being dragged; throws
 /// NotSeen if it cannot be grabbed.

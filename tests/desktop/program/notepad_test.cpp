@@ -171,7 +171,8 @@ TEST_F(ReplacedNotepadTest, SlowNotepadGetsTheTapeAndDoesNotBlockTheProgram) {
   awaitInFront(program().mainWindow());
   type("12");
   const HWND three = TestedProgram::key(program().mainWindow(), L"3");
-  EXPECT_TRUE(clickUntil(middleOf(three), [] { return textOf(program().entry()) == L"123"; }));
+  clickUntil(middleOf(three), [] { return textOf(program().entry()) == L"123"; });
+  expectText(program().entry(), L"123");
   EXPECT_EQ(openedWindow(L"Notepad"), nullptr) << "it was not slow";
   expectInNotepad(tape);
   EXPECT_EQ(textOf(program().entry()), L"123");
