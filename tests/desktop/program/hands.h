@@ -19,18 +19,17 @@ void pressWith(WORD modifier, WORD key);
 
 void click(POINT place);
 
-/// Clicks there until the click has its effect: the system may report the mouse late where it was
-/// before, and the click goes there. False when it never has.
+/// Clicks there until the click has its effect, a few times at most: the system may report the
+/// mouse late where it was before, and the click goes there.
 template <class Effect>
-bool clickUntil(POINT place, Effect effect) {
+void clickUntil(POINT place, Effect effect) {
   constexpr int kTries = 4;
-  constexpr ULONGLONG kEffectIsLate = 5'000;
+  constexpr ULONGLONG kEffectIsLate = 3'000;
   for (int i = 0; i < kTries; ++i) {
     if (i > 0) support::noteRetry("a click");
     click(place);
-    if (support::eventually(effect, kEffectIsLate)) return true;
+    if (support::eventually(effect, kEffectIsLate)) return;
   }
-  return false;
 }
 
 void doubleClick(POINT place);

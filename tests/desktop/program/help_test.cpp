@@ -98,8 +98,8 @@ TEST_F(HelpTest, HelpMenuOpensTheContents) {
 TEST_F(HelpTest, HelpButtonOfTheFinancialCalculatorOpensItsTopic) {
   start();
   const HWND calculator = openCalculator(0, L"Loan Annuities");
-  EXPECT_TRUE(clickUntil(middleOf(TestedProgram::key(calculator, L"Help")),
-                         [] { return openedWindow(L"MS_WINHELP") != nullptr; }));
+  clickUntil(middleOf(TestedProgram::key(calculator, L"Help")),
+             [] { return openedWindow(L"MS_WINHELP") != nullptr; });
   expectPage(topic());
 }
 

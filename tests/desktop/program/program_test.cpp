@@ -131,7 +131,8 @@ HWND ProgramTest::openAboutBox() {
 
 void ProgramTest::clickTape() {
   const auto hasFocus = [] { return program().focus() == program().tape(); };
-  if (!clickUntil(middleOf(program().tape()), hasFocus)) throw NotSeen("the focus in the tape");
+  clickUntil(middleOf(program().tape()), hasFocus);
+  await("the focus in the tape", hasFocus);
 }
 
 // The names are in ASCII.

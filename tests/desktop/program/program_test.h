@@ -56,7 +56,7 @@ class ProgramTest : public testing::Test {
   HWND openCalculator(int place, const std::wstring& title);
   /// Opens the About box, and returns its window, which is in front.
   static HWND openAboutBox();
-  /// Clicks into the tape, which then has the focus.
+  /// Clicks into the tape, and waits until it has the focus.
   static void clickTape();
   /// What screen readers call the controls of the main window that take the focus, in tab order.
   static std::vector<std::wstring> namesInTabOrder();
